@@ -1,0 +1,16 @@
+# Every bench/X.cpp is one executable X. They measure and assert nothing, so ctest doesn't run them.
+
+find_package(benchmark QUIET)
+if(NOT benchmark_FOUND)
+    message(STATUS "Google Benchmark isn't installed: no benchmarks")
+    return()
+endif()
+
+brindle_existing(bench_links app desk play)
+file(GLOB benches CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/bench/*.cpp")
+foreach(source IN LISTS benches)
+    get_filename_component(name "${source}" NAME_WE)
+    add_executable(bench_${name} "${source}")
+    target_include_directories(bench_${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+    target_link_libraries(bench_${name} PRIVATE ${bench_links} benchmark::benchmark_main)
+endforeach()

@@ -1,0 +1,68 @@
+# tests/kit is the library `test_kit`; every other directory tests/X is one executable `tests_X` and one ctest; every scenarios/*.desk is one ctest.
+# One ctest for each executable, since under sanitizers starting a process costs more than most tests do.
+
+find_package(GTest REQUIRED)
+
+set(test_environment
+    "QT_QPA_PLATFORM=offscreen"
+    "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1"
+    "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/scripts/lsan.supp:print_suppressions=0"
+    "UBSAN_OPTIONS=print_stacktrace=1"
+    "TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/scripts/tsan.supp")
+
+# What a suite links beside the library that it tests. The lower directories are tested without anything that stands above them.
+set(suite_links_platform platform)
+set(suite_links_views views)
+set(suite_links_desk desk)
+set(suite_links_default test_kit app desk play)
+
+file(GLOB_RECURSE kit_files CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/kit/*.cpp" "${CMAKE_SOURCE_DIR}/tests/kit/*.h")
+if(kit_files)
+    brindle_existing(kit_links app desk)
+    set(kit_sources ${kit_files})
+    list(FILTER kit_sources INCLUDE REGEX "\\.cpp$")
+    if(kit_sources)
+        add_library(test_kit STATIC ${kit_sources})
+        target_include_directories(test_kit PUBLIC "${CMAKE_SOURCE_DIR}")
+        target_link_libraries(test_kit PUBLIC ${kit_links} GTest::gtest)
+    else()
+        add_library(test_kit INTERFACE)
+        target_include_directories(test_kit INTERFACE "${CMAKE_SOURCE_DIR}")
+        target_link_libraries(test_kit INTERFACE ${kit_links} GTest::gtest)
+    endif()
+endif()
+
+function(brindle_suite DIRECTORY)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/${DIRECTORY}/*.cpp")
+    if(NOT sources OR DIRECTORY IN_LIST BRINDLE_WITHOUT)
+        return()
+    endif()
+    if(DEFINED suite_links_${DIRECTORY})
+        brindle_existing(links ${suite_links_${DIRECTORY}})
+    else()
+        brindle_existing(links ${DIRECTORY} ${suite_links_default})
+    endif()
+    set(suite tests_${DIRECTORY})
+    add_executable(${suite} ${sources})
+    target_include_directories(${suite} PRIVATE "${CMAKE_SOURCE_DIR}")
+    target_link_libraries(${suite} PRIVATE ${links} GTest::gtest_main)
+    add_test(NAME ${suite} COMMAND ${suite} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
+    set_tests_properties(${suite} PROPERTIES LABELS suite TIMEOUT 300 ENVIRONMENT "${test_environment}")
+endfunction()
+
+file(GLOB test_directories CONFIGURE_DEPENDS LIST_DIRECTORIES true RELATIVE "${CMAKE_SOURCE_DIR}/tests" "${CMAKE_SOURCE_DIR}/tests/*")
+list(REMOVE_ITEM test_directories kit)
+foreach(directory IN LISTS test_directories)
+    if(IS_DIRECTORY "${CMAKE_SOURCE_DIR}/tests/${directory}")
+        brindle_suite(${directory})
+    endif()
+endforeach()
+
+if(TARGET desk_command)
+    file(GLOB scenarios CONFIGURE_DEPENDS RELATIVE "${CMAKE_SOURCE_DIR}" "${CMAKE_SOURCE_DIR}/scenarios/*.desk")
+    foreach(scenario IN LISTS scenarios)
+        get_filename_component(name "${scenario}" NAME_WE)
+        add_test(NAME scenario_${name} COMMAND desk_command --script "${scenario}" WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
+        set_tests_properties(scenario_${name} PROPERTIES LABELS scenario TIMEOUT 120 ENVIRONMENT "${test_environment}")
+    endforeach()
+endif()
