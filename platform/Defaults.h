@@ -1,0 +1,20 @@
+// The application's user defaults: what is stored, over what is registered. Main thread only.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/Dictionary.h"
+
+namespace platform {
+
+class NSUserDefaults {
+public:
+    virtual ~NSUserDefaults() = default;
+    // Empty when nothing is stored or registered, or it isn't text.
+    virtual std::optional<std::string> stringForKey(const std::string& key) = 0;
+    // A failed write loses that preference and nothing else.
+    virtual void setObject(const std::string& key, Value value) = 0;
+};
+
+}  // namespace platform

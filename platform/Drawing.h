@@ -1,0 +1,114 @@
+// What a window shows, as a value: a list of strokes of the brush in paint order, made by views/ and painted by the backend. Since it is
+// plain data, tests and the benchmarks read it, and a port paints it with whatever the platform draws with.
+// Coordinates are view space: points, origin at the top left of the window's content, y downward.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/Geometry.h"
+
+namespace platform {
+
+enum class ColorScheme { light, dark };
+
+// Colours by role; the backend resolves them by colour scheme and accent when it paints.
+enum class ColorRole : std::uint8_t {
+    primary,
+    secondary,
+    tertiary,
+    accent,
+    white,
+    black,
+    red,
+    green,
+    separator,
+    windowBackground,
+    controlBackground,
+    selectedText,
+    clear,
+    custom
+};
+
+struct Color {
+    ColorRole role = ColorRole::primary;
+    double opacity = 1;
+    std::uint32_t rgb = 0;  // 0xRRGGBB, of ColorRole::custom alone
+
+    static constexpr Color of(ColorRole theRole, double theOpacity = 1) { return {theRole, theOpacity, 0}; }
+    static constexpr Color hex(std::uint32_t theRgb, double theOpacity = 1) {
+        return {ColorRole::custom, theOpacity, theRgb};
+    }
+    friend bool operator==(const Color&, const Color&) = default;
+};
+
+enum class FontWeight : std::uint8_t { regular, medium, semibold, bold };
+
+// A face of the system font; the size is in points.
+struct Font {
+    double size = 13;
+    FontWeight weight = FontWeight::regular;
+    friend bool operator==(const Font&, const Font&) = default;
+};
+
+enum class CornerStyle : std::uint8_t { circular, continuous };
+
+// A radius of half the height or more makes a capsule.
+struct RoundedShape {
+    CGRect rect;
+    double radius = 0;
+    CornerStyle corners = CornerStyle::circular;
+    friend bool operator==(const RoundedShape&, const RoundedShape&) = default;
+};
+
+struct FillShape {
+    RoundedShape shape;
+    Color color;
+    friend bool operator==(const FillShape&, const FillShape&) = default;
+};
+
+// The line is centred on the shape's edge: who wants it inside insets the shape by half the width first.
+struct StrokeShape {
+    RoundedShape shape;
+    Color color;
+    double lineWidth = 1;
+    friend bool operator==(const StrokeShape&, const StrokeShape&) = default;
+};
+
+// One line of text, already shortened to fit, from the left edge of `rect`, which is as high as the font's line.
+struct DrawText {
+    std::string text;
+    Font font;
+    Color color;
+    CGRect rect;
+    friend bool operator==(const DrawText&, const DrawText&) = default;
+};
+
+// A symbol of the system's set, by name, centred in `rect`; it is as large as text of that font.
+struct DrawSymbol {
+    std::string name;
+    Font font;
+    Color color;
+    CGRect rect;
+    friend bool operator==(const DrawSymbol&, const DrawSymbol&) = default;
+};
+
+// What follows is cut to the rectangle until the matching EndClip.
+struct BeginClip {
+    CGRect rect;
+    friend bool operator==(const BeginClip&, const BeginClip&) = default;
+};
+struct EndClip {
+    friend bool operator==(const EndClip&, const EndClip&) = default;
+};
+
+using DrawOperation = std::variant<FillShape, StrokeShape, DrawText, DrawSymbol, BeginClip, EndClip>;
+
+struct Drawing {
+    std::vector<DrawOperation> operations;
+    friend bool operator==(const Drawing&, const Drawing&) = default;
+};
+
+}  // namespace platform

@@ -1,0 +1,38 @@
+// Measuring text and symbols of the system font, which layout needs before anything is painted. The backend paints with the same fonts, so
+// what is measured here is what is drawn. It may cache widths; it never changes an answer. Main thread only.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Drawing.h"
+#include "platform/Geometry.h"
+
+namespace platform {
+
+// In points; the line is ascent plus descent high and has no leading.
+struct FontMetrics {
+    double ascent = 0;
+    double descent = 0;
+    double capHeight = 0;
+    double lineHeight() const { return ascent + descent; }
+};
+
+class TextSystem {
+public:
+    virtual ~TextSystem() = default;
+
+    // The advance width of the whole text on one line. Line feeds and other control characters take the room of what is drawn for them.
+    virtual double width(std::string_view text, Font font) = 0;
+    virtual FontMetrics metrics(Font font) = 0;
+
+    // The text with its middle replaced by "…" so that it fits the width; the text itself when it fits already, "…" when nothing else does.
+    // Cuts between grapheme clusters.
+    virtual std::string truncatedInMiddle(std::string_view text, Font font, double width) = 0;
+
+    // The room a symbol takes in text of that font; empty for a name that the system's set doesn't have.
+    virtual std::optional<CGSize> symbolSize(std::string_view name, Font font) = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,171 @@
+// Windows and panels: concrete classes, to be derived from where sendEvent, canBecomeKey or canBecomeMain differ, over a small handle that the
+// backend supplies, with one content view. Frames are AppKit screen points. What a window shows is the content view's business. Main thread only.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "platform/Drawing.h"
+#include "platform/Events.h"
+#include "platform/Geometry.h"
+
+namespace platform {
+
+struct Platform;
+
+inline constexpr int NSNormalWindowLevel = 0;
+inline constexpr int NSFloatingWindowLevel = 3;
+
+namespace NSWindowStyleMask {
+inline constexpr unsigned borderless = 0;
+inline constexpr unsigned titled = 1;
+inline constexpr unsigned closable = 2;
+inline constexpr unsigned miniaturizable = 4;
+inline constexpr unsigned resizable = 8;
+inline constexpr unsigned nonactivatingPanel = 128;
+}  // namespace NSWindowStyleMask
+
+enum class NSBackingStoreType { buffered = 2 };
+enum class NSWindowOrderingMode { above = 1, below = -1, out = 0 };
+enum class NSWindowAnimationBehavior { standard = 0, none = 2, documentWindow = 3 };
+
+namespace NSWindowCollectionBehavior {
+inline constexpr unsigned ignoresCycle = 64;
+inline constexpr unsigned fullScreenAuxiliary = 256;
+}  // namespace NSWindowCollectionBehavior
+
+// The settings of a window as last set; the backend reads them when it orders, paints and routes input.
+struct WindowSettings {
+    unsigned styleMask = NSWindowStyleMask::borderless;
+    NSBackingStoreType backing = NSBackingStoreType::buffered;
+    bool isPanel = false;
+    bool isReleasedWhenClosed = true;
+    bool hasShadow = true;
+    bool isOpaque = true;
+    bool hidesOnDeactivate = false;
+    bool ignoresMouseEvents = false;
+    bool acceptsMouseMovedEvents = false;
+    NSWindowAnimationBehavior animationBehavior = NSWindowAnimationBehavior::standard;
+    unsigned collectionBehavior = 0;
+    Color backgroundColor = Color::of(ColorRole::windowBackground);
+    std::string title;
+};
+
+// What fills a window. The window owns it.
+class ContentView {
+public:
+    virtual ~ContentView() = default;
+    // Told when it is set on a window, with null when it is taken off, and when the window's size or visibility on screen changes.
+    virtual void didMoveToWindow(NSWindow* window) = 0;
+    virtual void setSize(CGSize size) = 0;
+    virtual void setOnScreen(bool onScreen) = 0;
+    // Whether a mouse down that only brings the application or window forward elsewhere acts at once here.
+    virtual bool acceptsFirstMouse(const NSEvent& event) = 0;
+    // Mouse and key events that the window hands on.
+    virtual void handleEvent(const NSEvent& event) = 0;
+    // What is to be painted now, up to date as of the last end of turn; and a number that changes whenever that does.
+    virtual const Drawing& drawing() = 0;
+    virtual std::uint64_t drawingVersion() const = 0;
+};
+
+// The backend's side of one window. It is destroyed with the window.
+class WindowHandle {
+public:
+    virtual ~WindowHandle() = default;
+    virtual std::int64_t windowNumber() const = 0;
+    virtual CGRect frame() const = 0;
+    virtual void setFrame(const CGRect& frame) = 0;
+    virtual int level() const = 0;
+    // Setting the level that the window has already doesn't reorder it.
+    virtual void setLevel(int level) = 0;
+    virtual bool isVisible() const = 0;
+    // Relative to 0: to the front or back of its level. Relative to a window that is gone: to the front of its level.
+    virtual void orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo) = 0;
+    virtual void makeKey() = 0;
+    virtual bool isKey() const = 0;
+    virtual void settingsChanged() = 0;
+    // The content's drawing has changed: the next composed frame shows it.
+    virtual void setNeedsDisplay() = 0;
+};
+
+class WindowSystem {
+public:
+    virtual ~WindowSystem() = default;
+    // The backend sends the window its events through NSWindow::sendEvent.
+    virtual std::unique_ptr<WindowHandle> makeWindow(NSWindow& window, const CGRect& frame) = 0;
+};
+
+// Owned through std::shared_ptr: the backend keeps a window alive while it sends it an event, in which it may be closed and let go.
+class NSWindow : public std::enable_shared_from_this<NSWindow> {
+public:
+    // A deferred window gets its backing when it is first ordered in; that makes no difference to its user.
+    NSWindow(Platform& thePlatform, const CGRect& contentRect, unsigned styleMask, NSBackingStoreType backing, bool defer);
+    NSWindow(const NSWindow&) = delete;
+    NSWindow& operator=(const NSWindow&) = delete;
+    virtual ~NSWindow();
+
+    // Every event for this window arrives here first. The inherited operation makes the window key on a mouse down if it can become key, and hands the
+    // event to the content view.
+    virtual void sendEvent(const NSEvent& event);
+    virtual bool canBecomeKey() const { return (attributes.styleMask & NSWindowStyleMask::titled) != 0; }
+    virtual bool canBecomeMain() const { return (attributes.styleMask & NSWindowStyleMask::titled) != 0; }
+
+    std::int64_t windowNumber() const { return handle->windowNumber(); }
+    CGRect frame() const { return handle->frame(); }
+    void setFrame(const CGRect& frame, bool display);
+    void setFrameOrigin(const CGPoint& origin);
+    CGPoint convertPointToScreen(const CGPoint& point) const;
+
+    int level() const { return handle->level(); }
+    void setLevel(int level) { handle->setLevel(level); }
+    bool isVisible() const { return handle->isVisible(); }
+    void orderOut();
+    void orderFrontRegardless();
+    void orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo);
+    // Does nothing to a window that can't become key or isn't on screen.
+    void makeKeyWindow();
+    void makeKeyAndOrderFront();
+    bool isKeyWindow() const { return handle->isKey(); }
+
+    void setContentView(std::unique_ptr<ContentView> view);
+    ContentView* contentView() const { return content.get(); }
+    void setNeedsDisplay() { handle->setNeedsDisplay(); }
+
+    const WindowSettings& settings() const { return attributes; }
+    void setReleasedWhenClosed(bool value) { change(&WindowSettings::isReleasedWhenClosed, value); }
+    void setHasShadow(bool value) { change(&WindowSettings::hasShadow, value); }
+    void setOpaque(bool value) { change(&WindowSettings::isOpaque, value); }
+    void setHidesOnDeactivate(bool value) { change(&WindowSettings::hidesOnDeactivate, value); }
+    void setIgnoresMouseEvents(bool value) { change(&WindowSettings::ignoresMouseEvents, value); }
+    void setAcceptsMouseMovedEvents(bool value) { change(&WindowSettings::acceptsMouseMovedEvents, value); }
+    void setAnimationBehavior(NSWindowAnimationBehavior value) { change(&WindowSettings::animationBehavior, value); }
+    void setCollectionBehavior(unsigned value) { change(&WindowSettings::collectionBehavior, value); }
+    void setBackgroundColor(Color value) { change(&WindowSettings::backgroundColor, value); }
+    void setTitle(std::string value) { change(&WindowSettings::title, std::move(value)); }
+
+    Platform& platform;
+
+protected:
+    NSWindow(Platform& thePlatform, const CGRect& contentRect, WindowSettings settings);
+
+private:
+    template <typename Value>
+    void change(Value WindowSettings::*field, Value value) {
+        attributes.*field = std::move(value);
+        handle->settingsChanged();
+    }
+    void visibilityChanged();
+
+    WindowSettings attributes;
+    std::unique_ptr<WindowHandle> handle;
+    std::unique_ptr<ContentView> content;
+};
+
+class NSPanel : public NSWindow {
+public:
+    NSPanel(Platform& thePlatform, const CGRect& contentRect, unsigned styleMask, NSBackingStoreType backing, bool defer);
+};
+
+}  // namespace platform
