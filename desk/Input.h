@@ -1,0 +1,62 @@
+// Mouse and keyboard of the machine. It routes each event to the window under the mouse or to whoever has the keyboard, lets the target handle it, and then gives copies
+// to the global monitors of other processes as later items. AppKit screen points throughout.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/Events.h"
+#include "platform/Geometry.h"
+
+namespace desk {
+
+class Machine;
+
+enum class MouseButton { left, right };
+
+// A key as the platform names it: what it types, and without modifiers.
+struct KeyStroke {
+    std::uint16_t keyCode = 0;
+    std::uint64_t modifiers = 0;
+    std::string characters;
+    std::string charactersIgnoringModifiers;
+};
+
+// "cmd+l", "shift+cmd+n", "return", "left", "f12"; empty when there is no such key.
+std::optional<KeyStroke> keyStroke(const std::string& combination);
+// The key that types one character (UTF-8).
+KeyStroke keyStrokeTyping(const std::string& character);
+
+class Input {
+public:
+    explicit Input(Machine& theMachine) : machine(theMachine) {}
+
+    platform::CGPoint mouseLocation() const { return location; }
+
+    void mouseDown(const platform::CGPoint& point, MouseButton button, int clickCount = 1);
+    void mouseDragged(const platform::CGPoint& point);
+    void mouseUp(const platform::CGPoint& point, MouseButton button);
+    void mouseMoved(const platform::CGPoint& point);
+    void keyDown(const KeyStroke& key);
+    void keyUp(const KeyStroke& key);
+
+    // The window that has the keyboard, of a launched application; 0 when keys go to the frontmost application. A panel that has become key keeps the keyboard until a mouse down in
+    // another process's window, another key window of its own process, a change of the frontmost application, or being ordered out.
+    std::int64_t keyWindow() const { return key; }
+    void makeKey(std::int64_t window);
+    void windowOrderedOut(std::int64_t window);
+    void frontmostChanged();
+
+private:
+    void deliverMouse(platform::NSEventType type, const platform::CGPoint& point, int clickCount);
+    void deliverKey(platform::NSEventType type, const KeyStroke& stroke);
+
+    Machine& machine;
+    platform::CGPoint location;
+    std::int64_t key = 0;
+    std::int64_t pressed = 0;  // the window that has the mouse from press to release; -1: nobody's
+    MouseButton pressedButton = MouseButton::left;
+};
+
+}  // namespace desk

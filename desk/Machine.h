@@ -1,0 +1,90 @@
+// The stand-in Mac: it owns the parts and the applications launched on it, and holds what connects several parts. Everything happens in virtual
+// time on one thread; after each thing done to it from outside, settle() runs what is due.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "desk/Application.h"
+#include "desk/Disk.h"
+#include "desk/Displays.h"
+#include "desk/Faults.h"
+#include "desk/Input.h"
+#include "desk/Permissions.h"
+#include "desk/Processes.h"
+#include "desk/WindowStack.h"
+#include "desk/finder/Finder.h"
+#include "desk/finder/FinderScripting.h"
+#include "desk/time/Scheduler.h"
+#include "platform/Screens.h"
+#include "platform/Text.h"
+
+namespace desk {
+
+// Opened with another application.
+struct OpenedFiles {
+    std::string application;
+    std::vector<std::string> urls;
+};
+
+class Machine {
+public:
+    // It is 2024-06-03 09:00:00 UTC; Finder runs, is frontmost and has no window; one display of 1440 by 900.
+    explicit Machine(platform::TextSystem& theText);
+    ~Machine();
+    Machine(const Machine&) = delete;
+    Machine& operator=(const Machine&) = delete;
+
+    Scheduler scheduler;
+    Disk disk;
+    Displays displays;
+    Processes processes;
+    WindowStack windows;
+    Faults faults;
+    Permissions permissions;
+    Input input;
+    Finder finder;
+    FinderScripting scripting;
+    platform::Appearance appearance;
+    std::optional<std::string> clipboard;
+    std::vector<OpenedFiles> opened;
+    std::deque<SentScript> sentScripts;  // the last 20
+    platform::TextSystem& text;
+
+    // Starts a copy; its launch callbacks run when the machine next settles.
+    Application& launch(const std::string& bundlePath, const ApplicationImage& image, const ProgramFactory& factory);
+    const std::vector<std::unique_ptr<Application>>& applications() const { return running; }
+    Application* application(std::int32_t processIdentifier) const;
+
+    // Another process with one ordinary window, behind all others.
+    void startOtherProcess(const std::string& bundleIdentifier);
+    // By bundle identifier, all windows forward, as a person switches applications; false when it doesn't run.
+    bool activate(const std::string& bundleIdentifier);
+    // `allWindows` false brings only the main window forward.
+    void activate(std::int32_t processIdentifier, bool allWindows);
+    void switchToSpace(int space);
+
+    void settle() { scheduler.settle(); }
+    void advance(platform::Duration duration) { scheduler.advance(duration); }
+    double secondsSinceStart() const;
+
+    // The system prompt for Automation, while it is up; pressing one of its buttons by label.
+    std::optional<SystemAlert> alert() const;
+    bool pressAlertButton(const std::string& label);
+
+    // Destroys applications that have terminated and have no call on the stack.
+    void reap();
+
+private:
+    void notifyApplications(platform::WorkspaceNotification notification);
+
+    platform::Date start;
+    std::vector<std::unique_ptr<Application>> running;
+    std::vector<platform::Token> subscriptions;
+};
+
+}  // namespace desk

@@ -1,0 +1,48 @@
+// The running processes: identifiers, order of launch, order of activation, which one is frontmost. Activation takes effect at once; its notification is posted
+// to the launched applications as a later item. Raising windows on activation is the Machine's doing.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Application.h"
+#include "platform/Published.h"
+
+namespace desk {
+
+struct Process {
+    std::int32_t processIdentifier = 0;
+    std::optional<std::string> bundleIdentifier;
+    std::string bundlePath;
+    std::string name;
+    platform::NSApplicationActivationPolicy policy = platform::NSApplicationActivationPolicy::regular;
+};
+
+class Processes {
+public:
+    // In order of launch.
+    const std::vector<Process>& running() const { return list; }
+    const Process* find(std::int32_t processIdentifier) const;
+    const Process* findByBundleIdentifier(const std::string& bundleIdentifier) const;
+    const Process* frontmost() const;
+
+    // A new process goes to the end of the activation order.
+    std::int32_t add(Process process);
+    // When it was frontmost, the next in activation order is from now on, if there is one that isn't an agent.
+    void remove(std::int32_t processIdentifier);
+    void activate(std::int32_t processIdentifier);
+    void setPolicy(std::int32_t processIdentifier, platform::NSApplicationActivationPolicy policy);
+
+    // Delivered inside activate() and remove() when the frontmost process has changed.
+    platform::Signal<> frontmostChanged;
+
+private:
+    std::vector<Process> list;
+    std::vector<std::int32_t> activationOrder;  // latest first
+    std::int32_t frontmostIdentifier = 0;
+    std::int32_t nextIdentifier = 301;
+};
+
+}  // namespace desk

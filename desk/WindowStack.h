@@ -1,0 +1,75 @@
+// The window server's side of all windows of all processes: number, owner, frame, level, space, stacking. Higher levels stand before lower ones; within a
+// level the list is the order. It doesn't know what windows show, who has the keyboard, or what Finder makes of a click.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Geometry.h"
+#include "platform/Published.h"
+#include "platform/Windows.h"
+
+namespace desk {
+
+inline constexpr std::int64_t firstFinderWindowNumber = 101;
+inline constexpr std::int64_t firstPanelNumber = 100001;
+
+struct ServerWindow {
+    std::int64_t number = 0;
+    std::int32_t owner = 0;  // process identifier
+    platform::CGRect frame;  // AppKit space
+    int level = 0;
+    bool orderedIn = false;
+    bool minimized = false;
+    int space = 1;
+    std::string title;
+    platform::NSWindow* window = nullptr;  // of a launched application; none for Finder's and other processes' windows
+};
+
+class WindowStack {
+public:
+    // The window starts ordered out.
+    void add(ServerWindow window);
+    void remove(std::int64_t number);
+    ServerWindow* find(std::int64_t number);
+    const ServerWindow* find(std::int64_t number) const;
+
+    void setFrame(std::int64_t number, const platform::CGRect& frame);
+    // A changed level puts the window in front of its new level; the same level changes nothing.
+    void setLevel(std::int64_t number, int level);
+    void setTitle(std::int64_t number, const std::string& title);
+    // Ordering in puts the window on the current space. Relative to a window that is gone: to the front of its level. Relative to a window of another level: in front of
+    // (or behind) all of its own level.
+    void order(std::int64_t number, platform::NSWindowOrderingMode mode, std::int64_t relativeTo);
+    // To the front of its level, keeping its space, if it is ordered in; the windows of one process keep their order among themselves in raiseAll.
+    void raise(std::int64_t number);
+    void raiseAll(std::int32_t owner);
+    // To the back of its level.
+    void lower(std::int64_t number);
+
+    int currentSpace() const { return space; }
+    void setCurrentSpace(int newSpace);
+    void setSpace(std::int64_t number, int newSpace);
+    // A number that no space has yet, for a full-screen window; counts up from 1000.
+    int makeSpace() { return ++lastOwnSpace; }
+
+    // Ordered in, not minimised, on the current space.
+    bool isOnScreen(const ServerWindow& window) const;
+    // Front to back: everything on screen, or every window there is.
+    std::vector<const ServerWindow*> onScreen() const;
+    std::vector<const ServerWindow*> all() const;
+    // The front window on screen whose frame contains the point and that takes mouse events.
+    const ServerWindow* windowAt(const platform::CGPoint& point) const;
+
+    // Anything that a picture of the desktop would show differently.
+    platform::Signal<> changed;
+
+private:
+    std::vector<ServerWindow> windows;  // front to back, by level and order
+    int space = 1;
+    int lastOwnSpace = 1000;
+};
+
+}  // namespace desk

@@ -1,0 +1,83 @@
+// Finder of the stand-in Mac: windows on real folders, front to back, and what a person or a script does to them. Frames and stacking lie in the
+// WindowStack under the same numbers; this class keeps both in step and posts Accessibility notifications for what changes. Operations on a number that
+// isn't a folder window answer false.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "desk/finder/FinderWindow.h"
+#include "platform/Geometry.h"
+
+namespace desk {
+
+class FinderAccessibility;
+class Machine;
+
+class Finder {
+public:
+    explicit Finder(Machine& theMachine);
+    ~Finder();
+
+    // The process; its windows go with it. The bundle identifier is com.apple.finder.
+    void launch();
+    void quit();
+    bool isRunning() const { return processIdentifier != 0; }
+    std::int32_t pid() const { return processIdentifier; }
+
+    // Answer the window's number, or nothing when the path is no folder or Finder doesn't run. Numbers count up from 101 and are never reused. The new window stands in front
+    // of Finder's others; opening doesn't activate Finder. Without a frame the windows cascade.
+    std::optional<std::int64_t> open(const std::string& path, std::optional<platform::CGRect> frame = std::nullopt);
+    std::optional<std::int64_t> openVirtual(const std::string& name, std::optional<platform::CGRect> frame = std::nullopt);
+    std::optional<std::int64_t> openInfoPanel(const std::string& path);
+
+    bool close(std::int64_t number);
+    bool minimize(std::int64_t number);
+    bool restore(std::int64_t number);
+    bool raise(std::int64_t number);
+    bool go(std::int64_t number, const std::string& path);
+    bool select(std::int64_t number, const std::vector<std::string>& paths);
+    bool setFrame(std::int64_t number, const platform::CGRect& frame);
+    // A full-screen window fills its screen, in a space of its own which becomes current; it goes back to where it was.
+    bool setFullScreen(std::int64_t number, bool fullScreen);
+    bool setSpace(std::int64_t number, int space);
+
+    // Folder windows and info panels, front to back, minimised ones and those of other spaces included.
+    std::vector<const FinderWindow*> windows() const;
+    const FinderWindow* find(std::int64_t number) const;
+    // The frontmost folder window that is on screen.
+    const FinderWindow* front() const;
+    // The window that is main and focused: the front one on screen, 0 without any.
+    std::int64_t mainWindow() const;
+
+    // A person's mouse on one of Finder's windows (AppKit screen points). A press raises the window and activates Finder; from the title bar it begins a drag,
+    // which moves the window with the mouse, not clamped by the menu bar.
+    void mouseDown(std::int64_t number, const platform::CGPoint& point);
+    void mouseDragged(const platform::CGPoint& point);
+    void mouseUp(const platform::CGPoint& point);
+
+    FinderAccessibility& accessibility() { return *tree; }
+
+private:
+    struct Drag {
+        std::int64_t window;
+        platform::CGPoint grip;  // from the mouse to the frame's origin
+    };
+
+    FinderWindow* findFolder(std::int64_t number);
+    std::optional<std::int64_t> add(FinderWindow window, std::optional<platform::CGRect> frame);
+    void mainWindowMayHaveChanged();
+
+    Machine& machine;
+    std::unique_ptr<FinderAccessibility> tree;
+    std::vector<FinderWindow> list;
+    std::int32_t processIdentifier = 0;
+    std::int64_t nextNumber;
+    std::int64_t lastMainWindow = 0;
+    std::optional<Drag> drag;
+};
+
+}  // namespace desk

@@ -1,0 +1,29 @@
+// What Finder knows of one of its windows beyond the window server's side of it: the folder shown, the selection, full screen.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Geometry.h"
+
+namespace desk {
+
+inline constexpr double finderTitleBarHeight = 28;
+
+enum class FinderWindowKind { folder, infoPanel };
+
+struct FinderWindow {
+    std::int64_t number = 0;
+    FinderWindowKind kind = FinderWindowKind::folder;
+    std::optional<std::string> target;   // without a trailing slash, "/" of the root; empty of a virtual location such as Recents
+    std::string name;                    // the title
+    std::vector<std::string> selection;  // paths
+    bool minimized = false;
+    bool fullScreen = false;
+    platform::CGRect frameBeforeFullScreen;
+    int spaceBeforeFullScreen = 1;
+};
+
+}  // namespace desk
