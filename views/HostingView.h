@@ -1,0 +1,92 @@
+// Shows a tree of views in a window. It evaluates the tree when something observed has changed, once at the end of the turn, compares it with the one before, and
+// lays out and repaints only if they differ; a window that merely moves costs nothing. Mouse events go to the views under them.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Lifetime.h"
+#include "platform/Platform.h"
+#include "views/AccessibilityElement.h"
+#include "views/Context.h"
+#include "views/Layout.h"
+#include "views/RenderCounts.h"
+#include "views/View.h"
+
+namespace views {
+
+class HostingView : public platform::ContentView {
+public:
+    HostingView(platform::Platform& thePlatform, View root, HostRole theRole = HostRole::window);
+    ~HostingView() override;
+    HostingView(const HostingView&) = delete;
+    HostingView& operator=(const HostingView&) = delete;
+
+    void didMoveToWindow(platform::NSWindow* theWindow) override;
+    void setSize(CGSize size) override;
+    void setOnScreen(bool onScreen) override;
+    bool acceptsFirstMouse(const platform::NSEvent& /*event*/) override { return false; }
+    void handleEvent(const platform::NSEvent& event) override;
+    const platform::Drawing& drawing() override;
+    std::uint64_t drawingVersion() const override { return version; }
+
+    // Evaluates and lays out now if that is due; it comes by itself at the end of a turn.
+    void update();
+    // The frames as of the last update.
+    const Layout& layout() const { return frames; }
+    std::vector<AccessibilityElement> elements() const { return accessibilityElements(frames); }
+    // The size that the root takes when it is offered nothing, for windows that follow their content.
+    CGSize idealSize();
+    // From the window's AppKit coordinates to view space.
+    CGPoint convertFromWindow(CGPoint point) const { return {point.x, size.height - point.y}; }
+
+    platform::Platform& platform;
+
+private:
+    struct Press {
+        std::string place;
+    };
+
+    void invalidate();
+    void scheduleUpdate();
+    void evaluate();
+    void layOut();
+    void followColorScheme();
+    void runTasks();
+    void mouseDown(const platform::NSEvent& event);
+    void mouseUp(const platform::NSEvent& event);
+    std::optional<std::int32_t> reactingItem(CGPoint point) const;
+
+    const HostRole role;
+    RenderCounts::Counts& counts;
+    std::shared_ptr<HostLink> link;
+    // Shared so that a view's action keeps what it was declared in while it runs.
+    std::shared_ptr<View> tree;
+    std::vector<std::weak_ptr<TaskSlot>> tasks;
+    Layout frames;
+    platform::Drawing painted;
+    std::uint64_t version = 0;
+    CGSize size;
+    platform::NSWindow* window = nullptr;
+    std::optional<Press> press;
+    platform::Token colorSchemeToken;
+    bool isOnScreen = false;
+    bool needsEvaluation = true;
+    bool needsLayout = true;
+    bool needsDrawing = true;
+    bool isScheduled = false;
+    platform::Lifetime lifetime;
+};
+
+// A host of one type of root view.
+template <typename Root>
+class NSHostingView : public HostingView {
+public:
+    NSHostingView(platform::Platform& thePlatform, Root rootView, HostRole theRole = HostRole::window)
+        : HostingView(thePlatform, View(std::move(rootView)), theRole) {}
+};
+
+}  // namespace views

@@ -1,0 +1,112 @@
+// Where everything stands: the tree of frames of one evaluated tree, as a value. Drawing, hit testing, accessibility and tests read it; LayoutPass.h makes it.
+// Frames are in view space: points from the top left of the host, y downward. It refers into the tree it was made from.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "views/View.h"
+
+namespace views {
+
+enum class ItemKind : std::uint8_t {
+    empty,
+    text,
+    symbol,
+    shape,
+    spacer,
+    divider,
+    hStack,
+    vStack,
+    layers,
+    geometryReader,
+    passThrough,
+    padding,
+    fixedFrame,
+    flexibleFrame,
+    fixedSize,
+    background,
+    overlay
+};
+
+struct LayoutItem {
+    static constexpr std::int32_t none = -1;
+
+    ItemKind kind = ItemKind::empty;
+    ViewKind viewKind = ViewKind::empty;
+    bool isVertical = false;  // of a spacer and a divider: the axis of the stack around it
+    View* view = nullptr;
+    const Modifier* modifier = nullptr;  // of the kinds that stem from one
+    const std::string* key = nullptr;    // identity among repeated siblings
+    const char* identifier = nullptr;    // for scripts, tests and assistive tools
+    std::int32_t parent = none;
+    std::int32_t firstChild = none;
+    std::int32_t nextSibling = none;
+    CGRect frame;
+
+    double priority = 0;
+    Font font;
+    Color color;
+    CGSize natural;  // of text and symbols
+
+    // What the parent offered last, and answers given in this pass.
+    ProposedSize offered;
+    struct Answer {
+        ProposedSize proposal;
+        CGSize size;
+    };
+    std::array<Answer, 3> answers;
+    std::uint8_t answerCount = 0;
+    std::uint8_t nextAnswer = 0;
+};
+
+class Layout {
+public:
+    const LayoutItem& operator[](std::int32_t index) const { return items[static_cast<std::size_t>(index)]; }
+    LayoutItem& operator[](std::int32_t index) { return items[static_cast<std::size_t>(index)]; }
+    bool isEmpty() const { return items.empty(); }
+    std::int32_t root() const { return 0; }
+
+    // In paint order: a parent before its children, what is behind before what is in front.
+    template <typename Visit>
+    void forEach(Visit visit) const {
+        if (!isEmpty()) visitFrom(root(), visit);
+    }
+
+    // The frontmost item at the point that `accepts` takes; a view counts as in front of what contains it.
+    template <typename Accept>
+    std::optional<std::int32_t> frontmost(CGPoint point, Accept accepts) const {
+        return isEmpty() ? std::nullopt : frontmostFrom(root(), point, accepts);
+    }
+
+    // What an item's place is called, the same from one layout to the next: ordinals and keys from the root down.
+    std::string placeOf(std::int32_t index) const;
+    // One line an item, indented by depth: what it is, its text and its frame. For tests and for looking.
+    std::string description() const;
+
+    std::vector<LayoutItem> items;
+
+private:
+    template <typename Visit>
+    void visitFrom(std::int32_t index, Visit& visit) const {
+        visit(index, (*this)[index]);
+        for (std::int32_t child = (*this)[index].firstChild; child >= 0; child = (*this)[child].nextSibling)
+            visitFrom(child, visit);
+    }
+
+    template <typename Accept>
+    std::optional<std::int32_t> frontmostFrom(std::int32_t index, CGPoint point, Accept& accepts) const {
+        std::optional<std::int32_t> found;
+        for (std::int32_t child = (*this)[index].firstChild; child >= 0; child = (*this)[child].nextSibling)
+            if (const auto inside = frontmostFrom(child, point, accepts)) found = inside;
+        if (found) return found;
+        const LayoutItem& item = (*this)[index];
+        if (CGRectContainsPoint(item.frame, point) && accepts(item)) return index;
+        return std::nullopt;
+    }
+};
+
+}  // namespace views

@@ -1,0 +1,18 @@
+// What a parent offers a child in layout: a length, infinity ("as much as you like"), or nothing at all on an axis ("your ideal").
+#pragma once
+
+#include <limits>
+
+namespace views {
+
+inline constexpr double infinity = std::numeric_limits<double>::infinity();
+// No length is negative, so this one says that none was given.
+inline constexpr double unspecified = -1;
+
+struct ProposedSize {
+    double width = unspecified;
+    double height = unspecified;
+    friend bool operator==(const ProposedSize&, const ProposedSize&) = default;
+};
+
+}  // namespace views

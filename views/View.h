@@ -1,0 +1,158 @@
+// A node of the declarative tree: what a window shows, said as a value by the body() of some view. Views are made by the builders (Stacks.h, Text.h, Shapes.h,
+// Controls.h), take modifiers by chaining, and are moved into the view that contains them. A node says nothing of where it stands: see Layout.h.
+//
+//     HStack({.spacing = 0}, Text("Orvane").font({.size = 13}).padding(Edge::leading, 4), Rectangle().fill(color).frame({.width = 1}))
+//
+// A type of one's own is a view when it has `View body() const`; it can be used wherever a View is expected. The tree keeps the value that declared it, so
+// closures in body() may capture `this`.
+#pragma once
+
+#include <concepts>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "views/Binding.h"
+#include "views/Modifier.h"
+#include "views/ViewContent.h"
+
+namespace views {
+
+template <typename T>
+concept DeclaresBody = requires(const T& view) {
+    { view.body() } -> std::same_as<View>;
+};
+
+enum class ViewKind : std::uint8_t {
+    empty,
+    group,
+    hStack,
+    vStack,
+    zStack,
+    geometryReader,
+    text,
+    image,
+    shape,
+    spacer,
+    divider,
+    button,
+    menu,
+    background,
+    overlay,
+    tapGesture,
+    contextMenu,
+    popover,
+    help,
+    accessibilityLabel,
+    task,
+    composite
+};
+
+class View {
+public:
+    View() = default;
+    explicit View(ViewKind theKind) : kind(theKind) {}
+    View(ViewKind theKind, ViewContent theContent) : kind(theKind), content(std::move(theContent)) {}
+    View(Color color);  // NOLINT(google-explicit-constructor)
+    template <DeclaresBody T>
+    View(T view);  // NOLINT(google-explicit-constructor)
+    View(View&&) noexcept = default;
+    View& operator=(View&&) noexcept = default;
+    View(const View&) = delete;
+    View& operator=(const View&) = delete;
+    ~View() = default;
+
+    // Layout
+    View&& padding(double length) && { return std::move(*this).padding(Edge::all, length); }
+    View&& padding(Edge edges, double length) &&;
+    View&& padding(EdgeInsets insets) && { return with(insets); }
+    View&& frame(const FrameArguments& arguments) &&;
+    View&& fixedSize(bool horizontal = true, bool vertical = true) && { return with(FixedSize{horizontal, vertical}); }
+    View&& layoutPriority(double value) && { return with(LayoutPriority{value}); }
+    View&& background(View behind) &&;
+    View&& overlay(View inFront, Alignment alignment = Alignment::center) &&;
+
+    // Look; font and colour go down to everything inside that sets none of its own
+    View&& font(Font value) && { return with(value); }
+    View&& foregroundStyle(Color value) && { return with(value); }
+    View&& foregroundStyle(ColorRole role) && { return with(Color::of(role)); }
+    View&& opacity(double value) && { return with(Opacity{value}); }
+
+    // Behaviour. The whole frame of a view that reacts takes clicks, so a rectangular content shape adds nothing to it.
+    View&& contentShape() && { return std::move(*this); }
+    View&& onTapGesture(std::function<void()> action) &&;
+    // The content is evaluated when the menu opens.
+    View&& contextMenu(std::function<View()> menu) &&;
+    View&& popover(Binding<bool> isPresented, Edge arrowEdge, std::function<View()> popoverContent) &&;
+    View&& help(std::string text) &&;
+    // Started when the view appears on screen, cancelled when it leaves or its place goes.
+    View&& task(std::function<Task()> start) &&;
+
+    // Identity among repeated siblings, and what scripts, tests and assistive tools read.
+    View&& id(std::string value) && {
+        key = std::move(value);
+        return std::move(*this);
+    }
+    View&& accessibilityLabel(std::string label) &&;
+    // A literal: the pointer is kept.
+    View&& accessibilityIdentifier(const char* name) && { return with(AccessibilityIdentifier{name}); }
+
+    template <typename... Children>
+    void addChildren(Children&&... theChildren) {
+        children.reserve(children.size() + sizeof...(Children));
+        (children.emplace_back(std::forward<Children>(theChildren)), ...);
+    }
+
+    template <typename T>
+    T& as() {
+        return *std::get_if<T>(&content);
+    }
+    template <typename T>
+    const T& as() const {
+        return *std::get_if<T>(&content);
+    }
+
+    ViewKind kind = ViewKind::empty;
+    ModifierList modifiers;
+    std::string key;
+    ViewContent content;
+    std::vector<View> children;
+
+private:
+    View&& with(const Modifier& modifier);
+    // Makes this view the only child so far of a new one.
+    View&& wrap(ViewKind outerKind, ViewContent outerContent);
+};
+
+// The value of a type with a body(), as the tree keeps it.
+class Composite {
+public:
+    virtual ~Composite() = default;
+    virtual const std::type_info& type() const = 0;
+    virtual void connect(Context& context) = 0;
+    virtual View body() const = 0;
+};
+
+template <DeclaresBody T>
+class CompositeOf final : public Composite {
+public:
+    explicit CompositeOf(T theView) : view(std::move(theView)) {}
+    const std::type_info& type() const override { return typeid(T); }
+    void connect(Context& context) override {
+        if constexpr (requires { view.connect(context); }) view.connect(context);
+    }
+    View body() const override { return view.body(); }
+
+private:
+    T view;
+};
+
+template <DeclaresBody T>
+View::View(T view)
+    : View(ViewKind::composite, CompositeContent{std::make_shared<CompositeOf<T>>(std::move(view)), nullptr}) {}
+
+}  // namespace views

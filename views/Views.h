@@ -1,0 +1,31 @@
+// Everything one needs to declare what a window shows: include this one. A view is a type with a body() that answers a tree of nodes:
+//
+//     struct Counter {
+//         views::ObservedObject<Model> model;
+//         views::State<bool> isOpen{false};
+//         void connect(views::Context& context) { context.connect(model, isOpen); }
+//         views::View body() const {
+//             return views::HStack({.spacing = 4}, views::Text(model->title.get()),
+//                                  views::Button("Open", [this] { isOpen.set(true); }));
+//         }
+//     };
+//     window.setContentView(std::make_unique<views::NSHostingView<Counter>>(platform, Counter{...}));
+//
+// Closures may capture `this`: the tree keeps the value that declared them as long as they can be called.
+#pragma once
+
+#include "views/AccessibilityElement.h"
+#include "views/Alignment.h"
+#include "views/Binding.h"
+#include "views/Context.h"
+#include "views/Controls.h"
+#include "views/Environment.h"
+#include "views/HostingView.h"
+#include "views/ObservedObject.h"
+#include "views/RenderCounts.h"
+#include "views/Shapes.h"
+#include "views/Stacks.h"
+#include "views/State.h"
+#include "views/Task.h"
+#include "views/Text.h"
+#include "views/View.h"
