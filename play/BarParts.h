@@ -1,0 +1,34 @@
+// The bars on the desk as scripts speak of them: by Finder window, by part. It reads the coordinator's controllers and the elements that their
+// panels show.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <QJsonArray>
+
+#include "platform/Geometry.h"
+
+namespace play {
+
+class Session;
+
+// The number of the panel over a Finder window; 0 when it has no bar.
+std::int64_t panelNumber(const Session& session, std::int64_t finderWindow);
+// The window identifier of the bar that this panel is; empty for other windows.
+std::optional<std::string> barOfPanel(const Session& session, std::int64_t panel);
+
+bool isBarPart(std::string_view part);
+// Crumbs and chevrons are told apart by a title.
+bool barPartHasTitle(std::string_view part);
+// Where to click for that part, from the panel's top left corner, y downward; empty when the bar doesn't show it.
+std::optional<platform::CGPoint> barPartPoint(const Session& session, std::int64_t panel, std::string_view part,
+                                              std::string_view title);
+
+// The panels front to back, for the state.
+QJsonArray panelsOf(Session& session);
+std::int64_t barLayouts(const Session& session);
+
+}  // namespace play

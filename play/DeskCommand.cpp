@@ -1,0 +1,73 @@
+#include "play/DeskCommand.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <optional>
+#include <string_view>
+
+#include "desk/display/GuiApplication.h"
+#include "play/ScriptPlayer.h"
+#include "play/Session.h"
+#include "play/Tour.h"
+
+namespace play {
+
+namespace {
+
+constexpr const char* usage =
+    "desk                 play the tour: it says what it does and where its pictures lie\n"
+    "desk --tour [DIR]    the same, with the pictures in DIR\n"
+    "desk --script FILE   play a desk script; - reads it from standard input\n"
+    "desk --help          this page\n";
+
+int complain(const std::string& message) {
+    std::cerr << "desk: " << message << '\n';
+    return 2;
+}
+
+std::optional<std::string> readAll(const std::string& file) {
+    if (file == "-") return std::string(std::istreambuf_iterator<char>(std::cin), {});
+    if (std::filesystem::is_directory(file)) return std::nullopt;
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+int playScript(const std::vector<std::string>& values) {
+    if (values.size() != 1) return complain("--script takes one file");
+    const auto text = readAll(values.front());
+    if (!text) return complain("the script can't be read: " + values.front());
+    Session session;
+    ScriptPlayer player(session, values.front(), *text, std::cout, std::cerr);
+    return player.play();
+}
+
+int playTour(const std::vector<std::string>& values) {
+    if (values.size() > 1) return complain("--tour takes one folder");
+    return runTour(values.empty() ? std::string() : values.front());
+}
+
+int showHelp(const std::vector<std::string>& /*values*/) {
+    std::cout << usage;
+    return 0;
+}
+
+struct Mode {
+    std::string_view name;
+    int (*run)(const std::vector<std::string>& values);
+};
+constexpr Mode modes[] = {{"--script", playScript}, {"--tour", playTour}, {"--help", showHelp}};
+
+}  // namespace
+
+int runDesk(const std::vector<std::string>& arguments) {
+    const desk::GuiApplication gui;
+    if (arguments.empty()) return playTour({});
+    for (const Mode& mode : modes)
+        if (arguments.front() == mode.name) return mode.run({arguments.begin() + 1, arguments.end()});
+    return complain("unknown argument: " + arguments.front() + "\n" + usage);
+}
+
+}  // namespace play

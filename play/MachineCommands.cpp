@@ -1,0 +1,169 @@
+#include <string>
+
+#include "play/Commands.h"
+#include "play/ScriptPlayer.h"
+
+namespace play {
+
+namespace {
+
+void requireBeforeLaunch(ScriptPlayer& player) {
+    if (player.session().hasLaunched()) badCommand("this comes before launch");
+}
+
+void requireSuccess(const std::optional<std::string>& problem) {
+    if (problem) badCommand(*problem);
+}
+
+void useDisk(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    requireBeforeLaunch(player);
+    requireSuccess(player.machine().disk.useAsStartupVolume(arguments.text(0)));
+}
+
+void mountFolder(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(2, 2);
+    requireSuccess(player.machine().disk.mount(arguments.path(0), arguments.text(1)));
+}
+
+void makeFolder(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    if (!player.machine().disk.makeFolder(arguments.path(0)))
+        badCommand("the folder can't be made: " + arguments.path(0));
+}
+
+void makeFile(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 100);
+    const std::string contents = arguments.count() > 1 ? arguments.rest(1) : std::string();
+    if (!player.machine().disk.makeFile(arguments.path(0), contents))
+        badCommand("the file can't be made: " + arguments.path(0));
+}
+
+void requirePath(ScriptPlayer& player, const std::string& path) {
+    if (!player.machine().disk.exists(path)) badCommand("nothing stands at " + path);
+}
+
+void removeEntry(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    requirePath(player, arguments.path(0));
+    if (!player.machine().disk.remove(arguments.path(0))) badCommand("it can't be removed: " + arguments.path(0));
+}
+
+void makeUnreadable(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    requirePath(player, arguments.path(0));
+    player.machine().disk.setUnreadable(arguments.path(0));
+}
+
+void addScreen(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(4, 10);
+    desk::DisplayOptions options;
+    options.frame = arguments.rect(0);
+    for (std::size_t i = 4; i < arguments.count(); i += 2) {
+        if (arguments.is(i, "fps")) {
+            options.framesPerSecond = static_cast<int>(arguments.integer(i + 1));
+            if (options.framesPerSecond < 1 || options.framesPerSecond > 1000) badCommand("no rate: " + arguments.text(i + 1));
+        } else if (arguments.is(i, "menubar")) {
+            options.menuBar = arguments.number(i + 1);
+        } else if (arguments.is(i, "dock")) {
+            options.dock = arguments.number(i + 1);
+        } else {
+            badCommand("unknown word: " + arguments.text(i));
+        }
+    }
+    const double cut = options.menuBar + options.dock;
+    if (options.menuBar < 0 || options.dock < 0 || cut > options.frame.height())
+        badCommand("menu bar and Dock don't fit the screen");
+    player.machine().displays.add(options);
+}
+
+void removeScreens(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    if (!arguments.is(0, "none")) badCommand("unknown word: " + arguments.text(0));
+    player.machine().displays.removeAll();
+}
+
+void setAppearance(ScriptPlayer& player, const Arguments& arguments) {
+    static constexpr Choice<platform::ColorScheme> schemes[] = {{"light", platform::ColorScheme::light},
+                                                                {"dark", platform::ColorScheme::dark}};
+    arguments.requireCount(1, 1);
+    player.machine().appearance.colorScheme.setIfChanged(choose(schemes, arguments, 0));
+}
+
+void setPermission(ScriptPlayer& player, const Arguments& arguments) {
+    static constexpr Choice<bool> trust[] = {{"granted", true}, {"missing", false}};
+    static constexpr Choice<desk::AutomationPermission> automation[] = {
+        {"allowed", desk::AutomationPermission::allowed},
+        {"denied", desk::AutomationPermission::denied},
+        {"ask", desk::AutomationPermission::ask}};
+    arguments.requireCount(2, 2);
+    auto& permissions = player.machine().permissions;
+    if (arguments.is(0, "accessibility")) {
+        permissions.setAccessibility(choose(trust, arguments, 1));
+    } else if (arguments.is(0, "automation")) {
+        permissions.setAutomation(choose(automation, arguments, 1));
+    } else {
+        badCommand("unknown permission: " + arguments.text(0));
+    }
+}
+
+void setDefault(ScriptPlayer& player, const Arguments& arguments) {
+    static constexpr Choice<bool> booleans[] = {{"true", true}, {"false", false}, {"1", true}, {"0", false},
+                                                {"yes", true},  {"no", false}};
+    arguments.requireCount(3, 100);
+    requireBeforeLaunch(player);
+    auto& stored = player.session().image.storedDefaults;
+    if (arguments.is(1, "bool")) {
+        arguments.requireCount(3, 3);
+        stored[arguments.text(0)] = platform::Value(choose(booleans, arguments, 2));
+    } else if (arguments.is(1, "string")) {
+        stored[arguments.text(0)] = platform::Value(arguments.rest(2));
+    } else {
+        badCommand("unknown type of default: " + arguments.text(1));
+    }
+}
+
+void setInfo(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 100);
+    requireBeforeLaunch(player);
+    auto& info = player.session().image.info;
+    if (arguments.count() == 1) {
+        info.erase(arguments.text(0));
+    } else {
+        info[arguments.text(0)] = platform::Value(arguments.rest(1));
+    }
+}
+
+void startProcess(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    player.machine().startOtherProcess(arguments.text(0));
+}
+
+void launchApplication(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(0, 1);
+    const std::string path = arguments.count() == 1 ? arguments.path(0) : std::string(installedCopy);
+    requirePath(player, path);
+    player.session().launch(path);
+}
+
+}  // namespace
+
+const std::vector<Command>& machineCommands() {
+    static const std::vector<Command> table{{"disk", useDisk},
+                                            {"mount", mountFolder},
+                                            {"folder", makeFolder},
+                                            {"file", makeFile},
+                                            {"remove", removeEntry},
+                                            {"unreadable", makeUnreadable},
+                                            {"screen", addScreen},
+                                            {"screens", removeScreens},
+                                            {"appearance", setAppearance},
+                                            {"permission", setPermission},
+                                            {"set-default", setDefault},
+                                            {"info", setInfo},
+                                            {"process", startProcess},
+                                            {"launch", launchApplication}};
+    return table;
+}
+
+}  // namespace play

@@ -1,0 +1,54 @@
+// Plays one desk script on a session. It is the user of the machine: a program counter over the lines, with a step() that nested loops pull, so that a
+// drag can be told in several lines. It stops at the first failure.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+#include "desk/time/Scheduler.h"
+#include "play/Arguments.h"
+#include "play/ScriptReader.h"
+#include "play/Session.h"
+
+namespace play {
+
+class ScriptPlayer final : public desk::Driver {
+public:
+    // Messages name the script as `theFile`.
+    ScriptPlayer(Session& theSession, std::string theFile, std::string_view scriptText, std::ostream& theOutput,
+                 std::ostream& theErrors);
+    ~ScriptPlayer() override;
+
+    // Plays to the end or to the first failure, and answers the exit code.
+    int play();
+
+    // One command, or one part of a command that takes several.
+    bool step() override;
+
+    // For commands. A part runs as a step of its own, after what is due has run.
+    Session& session() { return stage; }
+    desk::Machine& machine() { return stage.machine; }
+    std::ostream& output() { return out; }
+    void then(std::function<void()> part) { parts.push_back(std::move(part)); }
+    // The window that a word names; ends the script when there is none.
+    std::int64_t finderWindow(const Arguments& arguments, std::size_t index);
+
+private:
+    void runNext();
+    void fail(int code, int line, const std::string& message);
+
+    Session& stage;
+    std::string file;
+    Script script;
+    std::ostream& out;
+    std::ostream& errors;
+    std::size_t next = 0;
+    int currentLine = 0;
+    std::deque<std::function<void()>> parts;
+    int exitCode = 0;
+};
+
+}  // namespace play

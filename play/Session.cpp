@@ -1,0 +1,41 @@
+#include "play/Session.h"
+
+namespace play {
+
+namespace {
+
+class OrvaneProgram final : public desk::Program {
+public:
+    explicit OrvaneProgram(platform::Platform& platform) : orvane(platform) {}
+    platform::NSApplicationDelegate& delegate() override { return orvane.appDelegate(); }
+
+    brindle::OrvaneApp orvane;
+};
+
+}  // namespace
+
+Session::Session() {
+    image.info = {{"CFBundleIdentifier", image.bundleIdentifier}, {"CFBundleName", image.name}};
+}
+
+Session::~Session() = default;
+
+void Session::launch(const std::string& bundlePath) {
+    launched = true;
+    machine.launch(bundlePath, image,
+                   [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
+}
+
+desk::Application* Session::application() const {
+    const auto& all = machine.applications();
+    for (auto entry = all.rbegin(); entry != all.rend(); ++entry)
+        if (!(*entry)->isDead() && (*entry)->program() != nullptr) return entry->get();
+    return nullptr;
+}
+
+const brindle::OrvaneApp* Session::orvane() const {
+    const auto* living = application();
+    return living == nullptr ? nullptr : &static_cast<OrvaneProgram*>(application()->program())->orvane;
+}
+
+}  // namespace play

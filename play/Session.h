@@ -1,0 +1,40 @@
+// One stand-in Mac with what is launched on it: the place where the machine and the system meet. The script player, the state and the tour look at both through it.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/BrindleApp.h"
+#include "desk/Machine.h"
+#include "desk/display/Compositor.h"
+#include "desk/display/QtTextSystem.h"
+
+namespace play {
+
+inline constexpr const char* installedCopy = "/Applications/Orvane.app";
+
+class Session {
+public:
+    Session();
+    ~Session();
+
+    // Declared in the order in which they lean on each other.
+    desk::QtTextSystem text;
+    desk::Machine machine{text};
+    desk::Compositor compositor;
+
+    // What a launch starts.
+    desk::ApplicationImage image;
+
+    void launch(const std::string& bundlePath);
+    bool hasLaunched() const { return launched; }
+
+    // The living copy that was launched last, and what runs in it; null without one.
+    desk::Application* application() const;
+    const brindle::OrvaneApp* orvane() const;
+
+private:
+    bool launched = false;
+};
+
+}  // namespace play

@@ -1,0 +1,211 @@
+#include "play/State.h"
+
+#include <string>
+
+#include <QJsonArray>
+#include <QJsonValue>
+
+#include "desk/finder/FinderWindow.h"
+#include "play/BarParts.h"
+#include "play/Json.h"
+#include "play/Session.h"
+#include "tracking/FinderObserver.h"
+
+namespace play {
+
+namespace {
+
+constexpr const char* debugLogPath = "/tmp/Orvane-debug.log";
+
+QJsonArray frameOf(const platform::CGRect& rect) {
+    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+QJsonValue numberOf(std::int64_t value) {
+    return static_cast<double>(value);
+}
+
+template <typename List, typename Convert>
+QJsonArray arrayOf(const List& list, Convert convert) {
+    QJsonArray array;
+    for (const auto& element : list) array.append(convert(element));
+    return array;
+}
+
+QJsonArray textsOf(const std::vector<std::string>& texts) {
+    return arrayOf(texts, [](const std::string& text) { return jsonText(std::string_view(text)); });
+}
+
+QJsonObject finderWindow(const desk::Machine& machine, const desk::FinderWindow& window) {
+    const desk::ServerWindow* server = machine.windows.find(window.number);
+    return {{"number", numberOf(window.number)},
+            {"path", jsonText(window.target)},
+            {"name", jsonText(std::string_view(window.name))},
+            {"frame", server == nullptr ? QJsonValue() : frameOf(server->frame)},
+            {"selection", textsOf(window.selection)},
+            {"minimized", window.minimized},
+            {"fullScreen", window.fullScreen},
+            {"space", server == nullptr ? QJsonValue() : server->space}};
+}
+
+QJsonObject finder(const desk::Machine& machine) {
+    QJsonArray windows;
+    for (const auto* window : machine.finder.windows())
+        if (window->kind == desk::FinderWindowKind::folder) windows.append(finderWindow(machine, *window));
+    return {{"running", machine.finder.isRunning()}, {"windows", windows}};
+}
+
+QJsonObject publishedWindow(const brindle::FinderWindowState& state) {
+    return {{"id", jsonText(std::string_view(state.id))},
+            {"windowNumber", numberOf(state.windowNumber)},
+            {"zIndex", numberOf(state.zIndex)},
+            {"path", jsonText(std::string_view(state.path))},
+            {"displayName", jsonText(std::string_view(state.displayName))},
+            {"selectedFilePath", jsonText(state.selectedFilePath)},
+            {"frame", frameOf(state.frame)},
+            {"isActive", state.isActive},
+            {"isFullScreen", state.isFullScreen}};
+}
+
+const char* trackingName(brindle::LiveGeometryState state) {
+    constexpr const char* names[] = {"idle", "waiting", "predicting"};
+    return names[static_cast<int>(state)];
+}
+
+QJsonObject observerState(const brindle::FinderObserver& observer) {
+    const auto& active = observer.activeWindow.get();
+    return {{"windows", arrayOf(observer.windows.get(), publishedWindow)},
+            {"activeWindow", active ? jsonText(std::string_view(active->id)) : QJsonValue()},
+            {"finderIsFrontmost", observer.finderIsFrontmost.get()},
+            {"frontmostApplicationBundleIdentifier", jsonText(observer.frontmostApplicationBundleIdentifier.get())},
+            {"tracking", trackingName(observer.liveGeometryState())},
+            {"editRequests", numberOf(observer.counts().editRequests)}};
+}
+
+QJsonObject observer(const Session& session) {
+    if (const auto* orvane = session.orvane()) return observerState(orvane->observer());
+    return {{"windows", QJsonArray()},
+            {"activeWindow", QJsonValue()},
+            {"finderIsFrontmost", false},
+            {"frontmostApplicationBundleIdentifier", QJsonValue()},
+            {"tracking", "idle"},
+            {"editRequests", 0}};
+}
+
+std::string nameOfOther(const desk::Machine& machine, std::int32_t owner) {
+    const desk::Process* process = machine.processes.find(owner);
+    return process == nullptr ? std::string() : process->bundleIdentifier.value_or(process->name);
+}
+
+QJsonArray stacking(const Session& session) {
+    const desk::Machine& machine = session.machine;
+    QJsonArray names;
+    for (const auto* window : machine.windows.onScreen()) {
+        std::string name;
+        if (machine.finder.find(window->number) != nullptr) {
+            name = "finder " + std::to_string(window->number);
+        } else if (window->window == nullptr) {
+            name = "other " + nameOfOther(machine, window->owner);
+        } else if (const auto bar = barOfPanel(session, window->number)) {
+            name = "panel " + *bar;
+        } else {
+            name = "window " + window->window->settings().title;
+        }
+        names.append(jsonText(std::string_view(name)));
+    }
+    return names;
+}
+
+QJsonValue alert(const desk::Machine& machine) {
+    const auto alert = machine.alert();
+    if (!alert) return {};
+    return QJsonObject{{"message", jsonText(std::string_view(alert->message))},
+                       {"informative", jsonText(std::string_view(alert->informative))},
+                       {"buttons", textsOf(alert->buttons)}};
+}
+
+QJsonValue plainValue(const platform::Value& value) {
+    if (const auto* text = value.as<std::string>()) return jsonText(std::string_view(*text));
+    if (const auto* flag = value.as<bool>()) return *flag;
+    if (const auto number = value.number()) return *number;
+    if (const auto* array = value.as<platform::Array>()) return arrayOf(*array, plainValue);
+    if (const auto* dictionary = value.as<platform::Dictionary>()) {
+        QJsonObject object;
+        for (const auto& [key, entry] : *dictionary) object.insert(QString::fromStdString(key), plainValue(entry));
+        return object;
+    }
+    return {};
+}
+
+QJsonValue defaults(const Session& session) {
+    const auto* application = session.application();
+    return plainValue(application == nullptr ? session.image.storedDefaults : application->storedDefaults());
+}
+
+QJsonArray processes(const desk::Machine& machine) {
+    constexpr const char* policies[] = {"regular", "accessory", "prohibited"};
+    return arrayOf(machine.processes.running(), [&](const desk::Process& process) {
+        return QJsonObject{{"bundleIdentifier", jsonText(process.bundleIdentifier)},
+                           {"path", jsonText(std::string_view(process.bundlePath))},
+                           {"processIdentifier", process.processIdentifier},
+                           {"policy", policies[static_cast<int>(process.policy)]}};
+    });
+}
+
+QJsonArray scripts(const desk::Machine& machine) {
+    return arrayOf(machine.sentScripts, [](const desk::SentScript& script) {
+        const auto error = script.error.empty() ? std::nullopt : std::optional<std::string>(script.error);
+        return QJsonObject{{"source", jsonText(std::string_view(script.source))}, {"error", jsonText(error)}};
+    });
+}
+
+QJsonArray opened(const desk::Machine& machine) {
+    return arrayOf(machine.opened, [](const desk::OpenedFiles& files) {
+        return QJsonObject{{"application", jsonText(std::string_view(files.application))},
+                           {"urls", textsOf(files.urls)}};
+    });
+}
+
+QJsonObject counts(Session& session) {
+    brindle::FinderObserver::Counts observed;
+    if (const auto* orvane = session.orvane()) observed = orvane->observer().counts();
+    return {{"passes", numberOf(observed.passes)},
+            {"pathFetches", numberOf(observed.pathFetches)},
+            {"selectionFetches", numberOf(observed.selectionFetches)},
+            {"barLayouts", numberOf(barLayouts(session))},
+            {"barPaints", numberOf(session.compositor.counts().barPaints)}};
+}
+
+QJsonArray log(const desk::Machine& machine) {
+    QJsonArray lines;
+    std::string text = machine.disk.read(debugLogPath).value_or(std::string());
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        lines.append(jsonText(std::string_view(text).substr(0, end)));
+        text.erase(0, end + 1);
+    }
+    return lines;
+}
+
+}  // namespace
+
+QJsonObject stateOf(Session& session) {
+    const desk::Machine& machine = session.machine;
+    const desk::Process* frontmost = machine.processes.frontmost();
+    return {{"time", machine.secondsSinceStart()},
+            {"frontmost", frontmost == nullptr ? QJsonValue() : jsonText(frontmost->bundleIdentifier)},
+            {"finder", finder(machine)},
+            {"observer", observer(session)},
+            {"panels", panelsOf(session)},
+            {"stacking", stacking(session)},
+            {"alert", alert(machine)},
+            {"clipboard", jsonText(machine.clipboard)},
+            {"opened", opened(machine)},
+            {"defaults", defaults(session)},
+            {"processes", processes(machine)},
+            {"scripts", scripts(machine)},
+            {"counts", counts(session)},
+            {"log", log(machine)}};
+}
+
+}  // namespace play

@@ -1,0 +1,70 @@
+#include "play/Target.h"
+
+#include "desk/finder/FinderWindow.h"
+#include "play/BarParts.h"
+#include "play/Commands.h"
+#include "play/ScriptPlayer.h"
+
+namespace play {
+
+namespace {
+
+using platform::CGPoint;
+using platform::CGRect;
+
+CGPoint middleOf(const CGRect& rect) {
+    return {rect.midX(), rect.midY()};
+}
+
+const desk::ServerWindow& visibleWindow(ScriptPlayer& player, std::int64_t number) {
+    const auto& windows = player.machine().windows;
+    const desk::ServerWindow* window = windows.find(number);
+    if (window == nullptr || !windows.isOnScreen(*window))
+        missingTarget("window " + std::to_string(number) + " isn't on screen");
+    return *window;
+}
+
+Target windowPart(ScriptPlayer& player, const Arguments& words) {
+    const CGRect frame = visibleWindow(player, player.finderWindow(words, 0)).frame;
+    const double titleBar = frame.maxY() - desk::finderTitleBarHeight;
+    if (words.is(1, "titlebar")) return {{frame.midX(), titleBar + desk::finderTitleBarHeight / 2}, 3};
+    if (words.is(1, "content")) return {{frame.midX(), (frame.minY() + titleBar) / 2}, 3};
+    badCommand("unknown part of a window: " + words.text(1));
+}
+
+Target barPart(ScriptPlayer& player, const Arguments& words) {
+    const std::int64_t window = player.finderWindow(words, 0);
+    const std::string& part = words.text(1);
+    if (!isBarPart(part)) badCommand("unknown part of a bar: " + part);
+    const bool isTitled = barPartHasTitle(part);
+    const std::string title = isTitled ? words.text(2) : std::string();
+    const std::int64_t panel = panelNumber(player.session(), window);
+    if (panel == 0) missingTarget("window " + words.text(0) + " has no bar");
+    const CGRect& bar = visibleWindow(player, panel).frame;
+    const auto point = barPartPoint(player.session(), panel, part, title);
+    if (!point) missingTarget("the bar shows no " + part + (isTitled ? " " + title : std::string()));
+    return {{bar.minX() + point->x, bar.maxY() - point->y}, isTitled ? std::size_t{4} : std::size_t{3}};
+}
+
+Target labelled(ScriptPlayer& player, const Arguments& words) {
+    const std::string& label = words.text(0);
+    const auto button = player.session().compositor.alertButton(player.machine(), label);
+    if (!button) missingTarget("nothing is labelled " + label);
+    return {middleOf(*button), 2};
+}
+
+struct Kind {
+    std::string_view name;
+    Target (*read)(ScriptPlayer& player, const Arguments& words);
+};
+constexpr Kind kinds[] = {{"window", windowPart}, {"bar", barPart}, {"label", labelled}};
+
+}  // namespace
+
+Target readTarget(ScriptPlayer& player, const Arguments& arguments) {
+    for (const auto& kind : kinds)
+        if (arguments.is(0, kind.name)) return kind.read(player, arguments.after(1));
+    return {arguments.point(0), 2};
+}
+
+}  // namespace play

@@ -1,0 +1,5 @@
+#include "play/DeskCommand.h"
+
+int main(int count, char** words) {
+    return play::runDesk({words + 1, words + count});
+}
