@@ -4,13 +4,10 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "desk/time/Scheduler.h"
@@ -38,8 +35,10 @@ public:
                                               platform::Block block) override;
     void atEndOfTurn(platform::Block block) override;
 
-    // An event for this application; it is handed to the dispatcher in a turn, or taken out by nextEvent.
+    // An event for this application, its location on the screen whatever its window; it is handed to the dispatcher in a turn, or taken out by nextEvent.
     void postEvent(platform::NSEvent event);
+    // Queued events of a window that is going stay, without it.
+    void forgetWindow(const platform::NSWindow* window);
     // Runs turns, without dispatching events, until an event matches or the date has passed; with nothing due, pulls the driver's steps.
     std::optional<platform::NSEvent> nextEvent(platform::NSEventMask mask, platform::Date until, bool dequeue);
 
@@ -48,12 +47,16 @@ public:
     // The same until the condition holds, pulling the driver's steps; false when the driver ended first.
     bool blockUntil(const std::function<bool()>& condition);
     bool isBlocked() const { return blocked > 0; }
+    // Turns on the stack: above 0, the application's code is running or waiting.
+    int turnDepth() const { return turns; }
 
     // One turn if anything is ready; answers whether it ran.
     bool turn();
+    // The distant future when nothing is posted, or nothing of it can run now.
     platform::Date nextDue() const;
 
-    // Nothing more is delivered, waiting queues are answered with an error and joined.
+    // Nothing more is delivered, waiting queues are answered with an error and joined. What is still posted is dropped once no turn is on the stack: at
+    // once, or by another call.
     void shutDown();
     bool isShutDown() const { return dead; }
 
@@ -62,10 +65,22 @@ public:
 
 private:
     struct State;
+    class LoopTimer;
+    class QueueHandle;
+
+    bool canTurn() const { return !dead && blocked == 0 && turns <= nested; }
+    void runReady();
+    bool runOne(platform::Date began, std::uint64_t last);
+    void runEndOfTurn();
+    void pruneQueues();
+
     Scheduler& scheduler;
     std::function<void(const platform::NSEvent&)> dispatchEvent;
-    std::unique_ptr<State> state;
+    std::shared_ptr<State> state;
+    std::vector<std::shared_ptr<WorkerQueue>> queues;
     int blocked = 0;
+    int nested = 0;  // loops that pull events; while there is one, turns dispatch none
+    int turns = 0;
     bool dead = false;
 };
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <mutex>
@@ -29,15 +30,41 @@ public:
     bool waitForResume();
     void resume();
 
-    // Waiting blocks wake with an error, pending ones are dropped, the thread is joined.
+    // Its user let it go: blocks not yet begun are dropped, and none are taken any more.
+    void close();
+    bool isClosed() const { return closed; }
+    // Waiting blocks wake with an error, pending ones are dropped, the thread is joined. Not on the queue's own thread.
     void shutDown();
-    bool isIdle() const;
+    // No block has begun that hasn't ended.
+    bool isIdle() const { return !busy; }
 
 private:
-    struct State;
+    enum class Baton { scheduler, worker };
+
+    void scheduleStart();
+    void start();
+    void handOver();
+    void handBack();
+    bool park();
+    void wake(std::uint64_t wait);
+    void threadMain();
+
     Scheduler& scheduler;
     std::string label;
-    std::unique_ptr<State> state;
+
+    // The two fields under the mutex; everything else belongs to whoever holds the baton.
+    std::mutex mutex;
+    std::condition_variable passed;
+    Baton baton = Baton::scheduler;
+
+    std::thread thread;
+    std::deque<platform::Block> pending;
+    std::uint64_t waits = 0;  // counts the waits, so that a late wake-up doesn't end a later one
+    bool startScheduled = false;
+    bool busy = false;
+    bool parked = false;
+    bool closed = false;
+    bool stopping = false;
 };
 
 }  // namespace desk
