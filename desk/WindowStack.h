@@ -2,9 +2,11 @@
 // level the list is the order. It doesn't know what windows show, who has the keyboard, or what Finder makes of a click.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/Geometry.h"
@@ -66,10 +68,26 @@ public:
     // Anything that a picture of the desktop would show differently.
     platform::Signal<> changed;
 
+    // The number of the next window of a launched application; counts up from firstPanelNumber.
+    std::int64_t makePanelNumber() { return nextPanelNumber++; }
+
 private:
-    std::vector<ServerWindow> windows;  // front to back, by level and order
+    using Order = std::vector<ServerWindow*>;
+
+    Order::iterator placeOf(const ServerWindow& window);
+    std::size_t frontOfLevel(int level) const;
+    std::size_t backOfLevel(int level) const;
+    // Index in the order without the window itself.
+    std::size_t destination(const ServerWindow& window, platform::NSWindowOrderingMode mode, std::int64_t relativeTo) const;
+    // Takes the window out, asks where to, and puts it in there; answers whether that's another place.
+    template <typename Where>
+    bool move(ServerWindow& window, Where where);
+
+    std::unordered_map<std::int64_t, std::unique_ptr<ServerWindow>> byNumber;
+    Order frontToBack;  // by level, then by order
     int space = 1;
     int lastOwnSpace = 1000;
+    std::int64_t nextPanelNumber = firstPanelNumber;
 };
 
 }  // namespace desk

@@ -1,0 +1,176 @@
+#include "desk/WindowStack.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace desk {
+
+using platform::NSWindowOrderingMode;
+
+void WindowStack::add(ServerWindow window) {
+    window.orderedIn = false;
+    remove(window.number);
+    auto entry = std::make_unique<ServerWindow>(std::move(window));
+    const auto place = frontToBack.begin() + static_cast<std::ptrdiff_t>(frontOfLevel(entry->level));
+    frontToBack.insert(place, entry.get());
+    const std::int64_t number = entry->number;
+    byNumber.emplace(number, std::move(entry));
+}
+
+void WindowStack::remove(std::int64_t number) {
+    const auto entry = byNumber.find(number);
+    if (entry == byNumber.end()) return;
+    const bool wasOnScreen = isOnScreen(*entry->second);
+    frontToBack.erase(placeOf(*entry->second));
+    byNumber.erase(entry);
+    if (wasOnScreen) changed();
+}
+
+const ServerWindow* WindowStack::find(std::int64_t number) const {
+    const auto entry = byNumber.find(number);
+    return entry == byNumber.end() ? nullptr : entry->second.get();
+}
+
+ServerWindow* WindowStack::find(std::int64_t number) {
+    return const_cast<ServerWindow*>(std::as_const(*this).find(number));
+}
+
+void WindowStack::setFrame(std::int64_t number, const platform::CGRect& frame) {
+    ServerWindow* window = find(number);
+    if (window == nullptr || window->frame == frame) return;
+    window->frame = frame;
+    if (isOnScreen(*window)) changed();
+}
+
+void WindowStack::setTitle(std::int64_t number, const std::string& title) {
+    ServerWindow* window = find(number);
+    if (window == nullptr || window->title == title) return;
+    window->title = title;
+    if (isOnScreen(*window)) changed();
+}
+
+void WindowStack::setLevel(std::int64_t number, int level) {
+    ServerWindow* window = find(number);
+    if (window == nullptr || window->level == level) return;
+    frontToBack.erase(placeOf(*window));
+    window->level = level;
+    frontToBack.insert(frontToBack.begin() + static_cast<std::ptrdiff_t>(frontOfLevel(level)), window);
+    if (isOnScreen(*window)) changed();
+}
+
+void WindowStack::order(std::int64_t number, NSWindowOrderingMode mode, std::int64_t relativeTo) {
+    ServerWindow* window = find(number);
+    if (window == nullptr) return;
+    const bool wasOnScreen = isOnScreen(*window);
+    bool moved = false;
+    window->orderedIn = mode != NSWindowOrderingMode::out;
+    if (window->orderedIn) {
+        window->space = space;
+        moved = move(*window, [&] { return destination(*window, mode, relativeTo); });
+    }
+    if (wasOnScreen != isOnScreen(*window) || (wasOnScreen && moved)) changed();
+}
+
+std::size_t WindowStack::destination(const ServerWindow& window, NSWindowOrderingMode mode,
+                                     std::int64_t relativeTo) const {
+    const bool above = mode == NSWindowOrderingMode::above;
+    const ServerWindow* other = relativeTo == window.number ? nullptr : find(relativeTo);
+    const bool isGone = relativeTo != 0 && (other == nullptr || !other->orderedIn);
+    if (isGone) return frontOfLevel(window.level);
+    if (other == nullptr || other->level != window.level)
+        return above ? frontOfLevel(window.level) : backOfLevel(window.level);
+    const auto place = std::find(frontToBack.begin(), frontToBack.end(), other) - frontToBack.begin();
+    return static_cast<std::size_t>(above ? place : place + 1);
+}
+
+void WindowStack::raise(std::int64_t number) {
+    ServerWindow* window = find(number);
+    if (window == nullptr || !window->orderedIn) return;
+    if (move(*window, [&] { return frontOfLevel(window->level); })) changed();
+}
+
+void WindowStack::lower(std::int64_t number) {
+    ServerWindow* window = find(number);
+    if (window == nullptr || !window->orderedIn) return;
+    if (move(*window, [&] { return backOfLevel(window->level); })) changed();
+}
+
+void WindowStack::raiseAll(std::int32_t owner) {
+    bool moved = false;
+    for (auto begin = frontToBack.begin(); begin != frontToBack.end();) {
+        const int level = (*begin)->level;
+        const auto end =
+            std::find_if(begin, frontToBack.end(), [&](const auto* window) { return window->level != level; });
+        const auto isOwn = [&](const ServerWindow* window) { return window->owner == owner && window->orderedIn; };
+        if (!std::is_partitioned(begin, end, isOwn)) {
+            std::stable_partition(begin, end, isOwn);
+            moved = true;
+        }
+        begin = end;
+    }
+    if (moved) changed();
+}
+
+void WindowStack::setCurrentSpace(int newSpace) {
+    if (std::exchange(space, newSpace) != newSpace) changed();
+}
+
+void WindowStack::setSpace(std::int64_t number, int newSpace) {
+    ServerWindow* window = find(number);
+    if (window == nullptr) return;
+    const bool wasOnScreen = isOnScreen(*window);
+    window->space = newSpace;
+    if (wasOnScreen != isOnScreen(*window)) changed();
+}
+
+bool WindowStack::isOnScreen(const ServerWindow& window) const {
+    return window.orderedIn && !window.minimized && window.space == space;
+}
+
+std::vector<const ServerWindow*> WindowStack::onScreen() const {
+    std::vector<const ServerWindow*> shown;
+    shown.reserve(frontToBack.size());
+    for (const ServerWindow* window : frontToBack)
+        if (isOnScreen(*window)) shown.push_back(window);
+    return shown;
+}
+
+std::vector<const ServerWindow*> WindowStack::all() const {
+    return {frontToBack.begin(), frontToBack.end()};
+}
+
+const ServerWindow* WindowStack::windowAt(const platform::CGPoint& point) const {
+    const auto takesPress = [&](const ServerWindow* window) {
+        const bool isTransparent = window->window != nullptr && window->window->settings().ignoresMouseEvents;
+        return !isTransparent && isOnScreen(*window) && platform::CGRectContainsPoint(window->frame, point);
+    };
+    const auto found = std::find_if(frontToBack.begin(), frontToBack.end(), takesPress);
+    return found == frontToBack.end() ? nullptr : *found;
+}
+
+WindowStack::Order::iterator WindowStack::placeOf(const ServerWindow& window) {
+    return std::find(frontToBack.begin(), frontToBack.end(), &window);
+}
+
+std::size_t WindowStack::frontOfLevel(int level) const {
+    const auto place = std::partition_point(frontToBack.begin(), frontToBack.end(),
+                                            [&](const auto* window) { return window->level > level; });
+    return static_cast<std::size_t>(place - frontToBack.begin());
+}
+
+std::size_t WindowStack::backOfLevel(int level) const {
+    const auto place = std::partition_point(frontToBack.begin(), frontToBack.end(),
+                                            [&](const auto* window) { return window->level >= level; });
+    return static_cast<std::size_t>(place - frontToBack.begin());
+}
+
+template <typename Where>
+bool WindowStack::move(ServerWindow& window, Where where) {
+    const auto before = placeOf(window) - frontToBack.begin();
+    frontToBack.erase(frontToBack.begin() + before);
+    const auto after = static_cast<std::ptrdiff_t>(where());
+    frontToBack.insert(frontToBack.begin() + after, &window);
+    return before != after;
+}
+
+}  // namespace desk
