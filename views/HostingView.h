@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -20,7 +21,7 @@ namespace views {
 
 class HostingView : public platform::ContentView {
 public:
-    HostingView(platform::Platform& thePlatform, View root, HostRole theRole = HostRole::window);
+    HostingView(platform::Platform& thePlatform, std::shared_ptr<Composite> theRoot, HostRole role = HostRole::window);
     ~HostingView() override;
     HostingView(const HostingView&) = delete;
     HostingView& operator=(const HostingView&) = delete;
@@ -58,13 +59,16 @@ private:
     void runTasks();
     void mouseDown(const platform::NSEvent& event);
     void mouseUp(const platform::NSEvent& event);
+    void run(const std::function<void()>& action);
     std::optional<std::int32_t> reactingItem(CGPoint point) const;
 
-    const HostRole role;
+    const std::shared_ptr<Composite> root;
     RenderCounts::Counts& counts;
-    std::shared_ptr<HostLink> link;
-    // Shared so that a view's action keeps what it was declared in while it runs.
+    const std::shared_ptr<HostLink> link;
+    // An action keeps what it was declared in while it runs, even if the view is rebuilt or the host goes meanwhile.
     std::shared_ptr<View> tree;
+    std::vector<std::shared_ptr<View>> retired;
+    int actionsRunning = 0;
     std::vector<std::weak_ptr<TaskSlot>> tasks;
     Layout frames;
     platform::Drawing painted;
@@ -86,7 +90,7 @@ template <typename Root>
 class NSHostingView : public HostingView {
 public:
     NSHostingView(platform::Platform& thePlatform, Root rootView, HostRole theRole = HostRole::window)
-        : HostingView(thePlatform, View(std::move(rootView)), theRole) {}
+        : HostingView(thePlatform, std::make_shared<CompositeOf<Root>>(std::move(rootView)), theRole) {}
 };
 
 }  // namespace views

@@ -16,6 +16,7 @@ namespace views {
 
 using platform::CGPoint;
 using platform::CGRect;
+using platform::CGRectMake;
 using platform::CGSize;
 using platform::CornerStyle;
 
