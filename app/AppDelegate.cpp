@@ -1,0 +1,60 @@
+#include "app/AppDelegate.h"
+
+#include <algorithm>
+
+#include "tracking/DebugLog.h"
+
+namespace brindle {
+
+AppDelegate::AppDelegate(platform::Platform& thePlatform)
+    : platform(thePlatform),
+      accessibilityManager(std::make_shared<AccessibilityManager>(thePlatform)),
+      observer(std::make_shared<FinderObserver>(thePlatform, accessibilityManager,
+                                                std::make_shared<FinderWindowTracker>(thePlatform),
+                                                std::make_shared<FinderPathProvider>(thePlatform))) {}
+
+void AppDelegate::applicationWillFinishLaunching() {
+    platform.application.setActivationPolicy(platform::NSApplicationActivationPolicy::accessory);
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    if (terminateIfAnotherInstanceIsRunning()) return;
+    DebugLog::write(platform, accessibilityManager->isTrusted.get() ? "launch trusted=true" : "launch trusted=false");
+    makeOverlayCoordinator();
+    startObserverOnce();
+}
+
+platform::NSApplicationTerminateReply AppDelegate::applicationShouldTerminate() {
+    return allowsTermination ? platform::NSApplicationTerminateReply::terminateNow
+                             : platform::NSApplicationTerminateReply::terminateCancel;
+}
+
+bool AppDelegate::terminateIfAnotherInstanceIsRunning() {
+    const auto identifier = platform.bundle.bundleIdentifier();
+    if (!identifier) return false;
+    const auto running = platform.workspace.runningApplications();
+    const bool isAlone = std::none_of(running.begin(), running.end(), [&](const platform::NSRunningApplication& each) {
+        return each.bundleIdentifier == identifier &&
+               each.processIdentifier != platform.workspace.currentProcessIdentifier();
+    });
+    if (isAlone) return false;
+    allowsTermination = true;
+    platform.application.terminate();
+    return true;
+}
+
+// Before the observer starts, so that the first list of windows doesn't pass it by.
+void AppDelegate::makeOverlayCoordinator() {
+    overlayCoordinator = std::make_unique<FinderOverlayCoordinator>(
+        platform, observer, std::make_shared<FinderNavigationService>(platform),
+        std::make_shared<ClipboardService>(platform), std::make_shared<TerminalService>(platform),
+        std::make_shared<VSCodeService>(platform));
+}
+
+void AppDelegate::startObserverOnce() {
+    if (observerStarted) return;
+    observerStarted = true;
+    observer->start();
+}
+
+}  // namespace brindle

@@ -1,0 +1,49 @@
+// Builds and owns every long-lived object of the application, in a fixed order, answers the platform's launch callbacks, and lets nobody end the application but
+// through its own exits. It exists once, for the life of the process, and does no work of its own. Main thread only.
+//
+//   state        entered by                                      left by
+//   constructed  process start                                   the will-finish callback
+//   duplicate    another instance found                          terminate: the launch has stopped
+//   running      the observer has been started                   an exit that sets allowsTermination
+#pragma once
+
+#include <memory>
+
+#include "overlay/FinderOverlayCoordinator.h"
+#include "platform/Platform.h"
+#include "tracking/AccessibilityManager.h"
+#include "tracking/FinderObserver.h"
+
+namespace brindle {
+
+class AppDelegate final : public platform::NSApplicationDelegate {
+public:
+    explicit AppDelegate(platform::Platform& thePlatform);
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
+
+    void applicationWillFinishLaunching() override;
+    void applicationDidFinishLaunching() override;
+    platform::NSApplicationTerminateReply applicationShouldTerminate() override;
+
+    const FinderObserver& finderObserver() const { return *observer; }
+    // Null until the launch has made it.
+    const FinderOverlayCoordinator* coordinator() const { return overlayCoordinator.get(); }
+
+private:
+    // The newcomer is the one that quits.
+    bool terminateIfAnotherInstanceIsRunning();
+    void makeOverlayCoordinator();
+    void startObserverOnce();
+
+    platform::Platform& platform;
+    std::shared_ptr<AccessibilityManager> accessibilityManager;
+    std::shared_ptr<FinderObserver> observer;
+    // Between these two belong the login item, updates, analytics, the installer and the Automation permission, in this order.
+    std::unique_ptr<FinderOverlayCoordinator> overlayCoordinator;
+    // Here belong the controllers of the three ordinary windows.
+    bool observerStarted = false;
+    bool allowsTermination = false;
+};
+
+}  // namespace brindle
