@@ -1,5 +1,6 @@
 // The Mac's disk: a mount table from the Mac's paths to host folders. The startup volume is a sample made fresh, or a host folder, read-only;
-// scratch folders for what the system writes always lie over it. Nothing else of the host is ever written. Paths are the Mac's, absolute.
+// scratch folders for what the system writes always lie over it. Nothing else of the host is ever written. Paths are the Mac's, absolute; symbolic links
+// mean Mac paths too, so that no path leads out of the mounted folders.
 #pragma once
 
 #include <cstdint>
@@ -49,7 +50,13 @@ public:
     // Of the sample volume and the scratch folders only; false elsewhere and on failure. Parents are made as needed.
     bool makeFolder(const std::string& path);
     bool makeFile(const std::string& path, std::string_view contents);
+    // The target is what the link holds, absolute or relative to its folder; it need not exist.
+    bool makeSymbolicLink(const std::string& path, const std::string& target);
+    // A folder goes with all that it holds. Mount points and their parents stay.
     bool remove(const std::string& path);
+    // Folders with all that they hold; links are copied as links. The destination is the new entry itself, and nothing may be there.
+    bool copy(const std::string& source, const std::string& destination);
+    bool move(const std::string& source, const std::string& destination);
     bool isWritable(const std::string& path) const;
     std::optional<std::string> read(const std::string& path) const;
     void setUnreadable(const std::string& path);
@@ -65,13 +72,29 @@ private:
         std::string host;
         bool writable;
     };
-    const Mount* mountOf(const std::string& path) const;
-    bool isParentOfMount(const std::string& path) const;
-    void makeSampleVolume();
+    // Where the walk along a path ended: without symbolic links but possibly the last one.
+    struct Place {
+        std::string path;
+        std::string host;  // nothing need be there
+        bool exists = false;
+        bool isDirectory = false;
+        bool isLink = false;
+    };
+    enum class Last { followed, taken };
+    enum class Missing { refused, allowed };
+
+    std::optional<Place> walk(std::string_view path, Last last, Missing missing) const;
+    Place root() const;
+    Place placeIn(const Place& folder, std::string_view name) const;
+    const Mount& mountOf(std::string_view path) const;
+    bool isMountOrParentOfOne(std::string_view path) const;
+    std::optional<Place> placeToWrite(const std::string& path, Last last) const;
+    std::optional<std::string> setMount(const std::string& path, const std::string& hostFolder, bool writable);
+    void addMountPoints(const std::string& path, std::vector<DiskEntry>& entries) const;
 
     std::string temporaryFolder;
     std::string homePath = "/Users/ana";
-    std::vector<Mount> mounts;
+    std::vector<Mount> mounts;  // longest path first; the startup volume is the last
     std::set<std::string> unreadable;
 };
 

@@ -1,0 +1,271 @@
+#include "desk/Disk.h"
+
+#include <algorithm>
+#include <array>
+#include <deque>
+#include <stdexcept>
+
+#include "desk/HostFolder.h"
+#include "desk/SampleVolume.h"
+#include "desk/Utf8.h"
+#include "platform/FileURL.h"
+
+namespace desk {
+
+namespace {
+
+constexpr int mostLinks = 32;
+constexpr std::array<std::string_view, 14> packageExtensions = {
+    "app",    "appex",         "bundle",     "component", "download", "kext",  "mpkg",
+    "plugin", "photoslibrary", "playground", "prefpane",  "rtfd",     "saver", "xcodeproj"};
+
+std::string joined(std::string_view folder, std::string_view name) {
+    std::string path(folder == "/" ? "" : folder);
+    path += '/';
+    path += name;
+    return path;
+}
+
+// The names on the way from a folder to a path below it; empty when it doesn't lie below.
+std::string_view below(std::string_view folder, std::string_view path) {
+    if (folder == "/") return path.substr(1);
+    const bool isBelow =
+        path.size() > folder.size() && path.substr(0, folder.size()) == folder && path[folder.size()] == '/';
+    return isBelow ? path.substr(folder.size() + 1) : std::string_view();
+}
+
+bool isAtOrBelow(std::string_view folder, std::string_view path) {
+    return path == folder || !below(folder, path).empty();
+}
+
+void pushFront(std::deque<std::string>& names, std::string_view path) {
+    const std::vector<std::string> components = platform::pathComponents(path);
+    names.insert(names.begin(), components.begin() + 1, components.end());
+}
+
+bool isPackageName(std::string_view name) {
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string_view::npos || dot == 0) return false;
+    std::string extension(name.substr(dot + 1));
+    for (char& letter : extension)
+        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    return std::find(packageExtensions.begin(), packageExtensions.end(), extension) != packageExtensions.end();
+}
+
+DiskEntry entryNamed(std::string name, bool isDirectory) {
+    const bool isPackage = isDirectory && isPackageName(name);
+    const bool isHidden = name.front() == '.';
+    return {std::move(name), isDirectory, isPackage, isHidden};
+}
+
+}  // namespace
+
+Disk::Disk() {
+    const std::optional<std::string> folder = host::makeTemporaryFolder();
+    if (!folder) throw std::runtime_error("no temporary folder can be made");
+    temporaryFolder = *folder;
+    const std::pair<const char*, std::string> scratch[] = {{"/", "volume"},
+                                                           {"/tmp", "tmp"},
+                                                           {"/System", "system"},
+                                                           {"/Applications/Orvane.app", "application"},
+                                                           {"/Users/ana/Library/Preferences", "preferences"}};
+    for (const auto& [path, name] : scratch) {
+        host::makeFolders(temporaryFolder + "/" + name);
+        setMount(path, temporaryFolder + "/" + name, true);
+    }
+    makeScratchContents(*this);
+    makeSampleVolume(*this);
+}
+
+Disk::~Disk() {
+    host::removeAll(temporaryFolder);
+}
+
+std::optional<std::string> Disk::useAsStartupVolume(const std::string& hostFolder) {
+    return setMount("/", hostFolder, false);
+}
+
+std::optional<std::string> Disk::mount(const std::string& path, const std::string& hostFolder) {
+    if (path.empty() || path.front() != '/') return "not an absolute path: " + path;
+    const std::string standardized = platform::standardizedPath(path, "/");
+    if (standardized == "/") return "the startup volume is no mount point";
+    return setMount(standardized, hostFolder, false);
+}
+
+std::optional<std::string> Disk::setMount(const std::string& path, const std::string& hostFolder, bool writable) {
+    const std::optional<std::string> folder = host::existingFolder(hostFolder);
+    if (!folder) return "no such folder: " + hostFolder;
+    std::erase_if(mounts, [&](const Mount& mount) { return mount.path == path; });
+    mounts.push_back({path, *folder, writable});
+    std::stable_sort(mounts.begin(), mounts.end(),
+                     [](const Mount& a, const Mount& b) { return a.path.size() > b.path.size(); });
+    return std::nullopt;
+}
+
+const Disk::Mount& Disk::mountOf(std::string_view path) const {
+    for (const Mount& mount : mounts)
+        if (isAtOrBelow(mount.path, path)) return mount;
+    return mounts.back();
+}
+
+bool Disk::isMountOrParentOfOne(std::string_view path) const {
+    return std::any_of(mounts.begin(), mounts.end(), [&](const Mount& mount) { return isAtOrBelow(path, mount.path); });
+}
+
+Disk::Place Disk::root() const {
+    return {"/", mounts.back().host, true, true, false};
+}
+
+Disk::Place Disk::placeIn(const Place& folder, std::string_view name) const {
+    Place place;
+    place.path = joined(folder.path, name);
+    const Mount& mount = mountOf(place.path);
+    place.host = place.path == mount.path ? mount.host : joined(folder.host, name);
+    const auto kind = host::kindOf(place.host);
+    place.exists = kind.has_value();
+    place.isDirectory = kind == host::EntryKind::directory;
+    place.isLink = kind == host::EntryKind::link;
+    if (!place.isDirectory && isMountOrParentOfOne(place.path)) {
+        // A link of the host's in this place would lead out of the mounted folders.
+        if (place.exists) place.host = temporaryFolder + "/nothing";
+        place.exists = place.isDirectory = true;
+        place.isLink = false;
+    }
+    return place;
+}
+
+std::optional<Disk::Place> Disk::walk(std::string_view path, Last last, Missing missing) const {
+    if (path.empty() || path.front() != '/' || path.find('\0') != std::string_view::npos) return std::nullopt;
+    std::deque<std::string> names;
+    pushFront(names, path);
+    std::vector<Place> way{root()};
+    for (int links = 0; !names.empty();) {
+        const std::string name = std::move(names.front());
+        names.pop_front();
+        if (way.back().exists ? !way.back().isDirectory : missing == Missing::refused) return std::nullopt;
+        if (name == ".") continue;
+        if (name == "..") {
+            if (way.size() > 1) way.pop_back();
+            continue;
+        }
+        way.push_back(placeIn(way.back(), name));
+        if (!way.back().isLink || (names.empty() && last == Last::taken)) continue;
+        const std::optional<std::string> target = host::linkTarget(way.back().host);
+        if (!target || ++links > mostLinks) return std::nullopt;
+        pushFront(names, *target);
+        way.resize(target->front() == '/' ? 1 : way.size() - 1);
+    }
+    if (!way.back().exists && missing == Missing::refused) return std::nullopt;
+    return way.back();
+}
+
+std::optional<platform::FileKind> Disk::kind(const std::string& path) const {
+    const auto place = walk(path, Last::followed, Missing::refused);
+    if (!place) return std::nullopt;
+    return place->isDirectory ? platform::FileKind::directory : platform::FileKind::file;
+}
+
+bool Disk::exists(const std::string& path) const {
+    return walk(path, Last::taken, Missing::refused).has_value();
+}
+
+std::optional<std::vector<DiskEntry>> Disk::list(const std::string& path) const {
+    const auto place = walk(path, Last::followed, Missing::refused);
+    if (!place || !place->isDirectory || unreadable.contains(place->path)) return std::nullopt;
+    std::vector<DiskEntry> entries;
+    auto found = host::list(place->host);
+    if (!found && !isMountOrParentOfOne(place->path)) return std::nullopt;
+    if (found) {
+        entries.reserve(found->size());
+        for (host::Entry& entry : *found)
+            if (isUtf8(entry.name))
+                entries.push_back(entryNamed(std::move(entry.name), entry.kind == host::EntryKind::directory));
+    }
+    addMountPoints(place->path, entries);
+    return entries;
+}
+
+void Disk::addMountPoints(const std::string& path, std::vector<DiskEntry>& entries) const {
+    for (const Mount& mount : mounts) {
+        const std::string_view rest = mount.path == path ? std::string_view() : below(path, mount.path);
+        if (rest.empty()) continue;
+        DiskEntry shown = entryNamed(std::string(rest.substr(0, rest.find('/'))), true);
+        const auto same = [&](const DiskEntry& entry) { return entry.name == shown.name; };
+        const auto hidden = std::find_if(entries.begin(), entries.end(), same);
+        if (hidden == entries.end()) {
+            entries.push_back(std::move(shown));
+        } else {
+            *hidden = std::move(shown);
+        }
+    }
+}
+
+std::optional<Disk::Attributes> Disk::attributes(const std::string& path) const {
+    const auto place = walk(path, Last::followed, Missing::refused);
+    if (!place) return std::nullopt;
+    const auto status = host::statusOf(place->host);
+    return status ? Attributes{status->size, status->modified} : Attributes{};
+}
+
+std::optional<std::string> Disk::hostPath(const std::string& path) const {
+    const auto place = walk(path, Last::followed, Missing::refused);
+    if (!place || !host::kindOf(place->host)) return std::nullopt;
+    return place->host;
+}
+
+std::optional<std::string> Disk::read(const std::string& path) const {
+    const auto place = walk(path, Last::followed, Missing::refused);
+    return place ? host::read(place->host) : std::nullopt;
+}
+
+void Disk::setUnreadable(const std::string& path) {
+    if (const auto place = walk(path, Last::followed, Missing::allowed)) unreadable.insert(place->path);
+}
+
+bool Disk::isWritable(const std::string& path) const {
+    const auto place = walk(path, Last::followed, Missing::allowed);
+    return place && mountOf(place->path).writable;
+}
+
+std::optional<Disk::Place> Disk::placeToWrite(const std::string& path, Last last) const {
+    const auto place = walk(path, last, Missing::allowed);
+    const bool allowed = place && mountOf(place->path).writable;
+    return allowed ? place : std::nullopt;
+}
+
+bool Disk::makeFolder(const std::string& path) {
+    const auto place = placeToWrite(path, Last::followed);
+    return place && host::makeFolders(place->host);
+}
+
+bool Disk::makeFile(const std::string& path, std::string_view contents) {
+    const auto place = placeToWrite(path, Last::followed);
+    return place && !place->isDirectory && host::makeFolders(platform::deletingLastPathComponent(place->host)) &&
+           host::write(place->host, contents);
+}
+
+bool Disk::makeSymbolicLink(const std::string& path, const std::string& target) {
+    const auto place = placeToWrite(path, Last::taken);
+    return place && !place->exists && !target.empty() &&
+           host::makeFolders(platform::deletingLastPathComponent(place->host)) && host::makeLink(place->host, target);
+}
+
+bool Disk::remove(const std::string& path) {
+    const auto place = placeToWrite(path, Last::taken);
+    return place && place->exists && !isMountOrParentOfOne(place->path) && host::removeAll(place->host);
+}
+
+bool Disk::copy(const std::string& source, const std::string& destination) {
+    const auto from = walk(source, Last::taken, Missing::refused);
+    const auto to = placeToWrite(destination, Last::taken);
+    if (!from || !to || to->exists || isAtOrBelow(from->path, to->path)) return false;
+    return host::makeFolders(platform::deletingLastPathComponent(to->host)) && host::copyAll(from->host, to->host);
+}
+
+bool Disk::move(const std::string& source, const std::string& destination) {
+    const auto from = placeToWrite(source, Last::taken);
+    if (!from || isMountOrParentOfOne(from->path)) return false;
+    return copy(source, destination) && remove(source);
+}
+
+}  // namespace desk

@@ -1,0 +1,49 @@
+// Calls to the host's file system that Disk is made of, each on one host path whose way there has no symbolic links. They know nothing of the Mac's paths.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Time.h"
+
+namespace desk::host {
+
+enum class EntryKind { file, directory, link };
+
+std::optional<EntryKind> kindOf(const std::string& path);
+std::optional<std::string> linkTarget(const std::string& path);
+
+struct Status {
+    std::uint64_t size = 0;  // 0 of a folder
+    platform::Date modified;
+};
+std::optional<Status> statusOf(const std::string& path);
+
+struct Entry {
+    std::string name;
+    EntryKind kind;
+};
+// Without "." and "..", in the host's order; empty when it can't be listed.
+std::optional<std::vector<Entry>> list(const std::string& path);
+
+// Of a regular file only, so that no pipe or device is waited for.
+std::optional<std::string> read(const std::string& path);
+// Creates or replaces a regular file; a link isn't written through.
+bool write(const std::string& path, std::string_view contents);
+// Parents are made as needed. True when the folder is there already.
+bool makeFolders(const std::string& path);
+bool makeLink(const std::string& path, const std::string& target);
+bool removeAll(const std::string& path);
+bool copyAll(const std::string& source, const std::string& destination);
+
+// Things made on the machine carry one date, so that no test sees the day on which it runs.
+void setFixedDate(const std::string& path);
+
+// Absolute and without links; empty when it is no folder.
+std::optional<std::string> existingFolder(const std::string& path);
+std::optional<std::string> makeTemporaryFolder();
+
+}  // namespace desk::host
