@@ -1,0 +1,94 @@
+#include "desk/display/Painter.h"
+
+#include <QPainter>
+#include <QRect>
+#include <cmath>
+#include <optional>
+#include <variant>
+#include <vector>
+
+namespace desk {
+
+// One pass over one drawing.
+class Painter::Run {
+public:
+    Run(Painter& thePainter, QPainter& theTarget, const Palette& thePalette, double theScale, QPoint theOrigin)
+        : owner(thePainter), target(theTarget), palette(thePalette), scale(theScale), origin(theOrigin) {}
+
+    void paint(const platform::Drawing& drawing) {
+        target.save();
+        for (const platform::DrawOperation& operation : drawing.operations)
+            std::visit([this](const auto& each) { paint(each); }, operation);
+        target.restore();
+    }
+
+private:
+    QRectF device(const platform::CGRect& rect) const {
+        return {origin.x() + rect.minX() * scale, origin.y() + rect.minY() * scale, rect.width() * scale,
+                rect.height() * scale};
+    }
+
+    void paint(const platform::FillShape& fill) {
+        const platform::RoundedShape& shape = fill.shape;
+        owner.shapes.fill(target, device(shape.rect), shape.radius * scale, shape.corners, palette.resolve(fill.color));
+    }
+
+    void paint(const platform::StrokeShape& stroke) {
+        const platform::RoundedShape& shape = stroke.shape;
+        owner.shapes.stroke(target, device(shape.rect), shape.radius * scale, shape.corners, stroke.lineWidth * scale,
+                            palette.resolve(stroke.color));
+    }
+
+    // On whole device pixels: a baseline between two rows blurs the feet of all letters.
+    void paint(const platform::DrawText& text) {
+        const QColor color = palette.resolve(text.color);
+        if (text.text.empty() || color.alpha() == 0) return;
+        const TextPicture picture = owner.texts.text(text.text, text.font, color, scale);
+        const platform::FontMetrics& line = picture.metrics;
+        const double top = text.rect.minY() + (text.rect.height() - line.lineHeight()) / 2;
+        const QPoint start(static_cast<int>(std::lround(origin.x() + text.rect.minX() * scale)),
+                           static_cast<int>(std::lround(origin.y() + (top + line.ascent) * scale)));
+        target.drawImage(start + picture.offset, picture.image);
+    }
+
+    void paint(const platform::DrawSymbol& symbol) {
+        const QImage image = owner.texts.symbol(symbol.name, symbol.font, palette.resolve(symbol.color), scale);
+        if (image.isNull()) return;
+        const QPointF center = device(symbol.rect).center();
+        target.drawImage(QPoint(static_cast<int>(std::lround(center.x() - image.width() / 2.0)),
+                                static_cast<int>(std::lround(center.y() - image.height() / 2.0))),
+                         image);
+    }
+
+    void paint(const platform::BeginClip& begin) {
+        const QRect rect = device(begin.rect).toAlignedRect();
+        clips.push_back(clips.empty() ? rect : clips.back().intersected(rect));
+        applyClip();
+    }
+
+    void paint(const platform::EndClip&) {
+        if (clips.empty()) return;
+        clips.pop_back();
+        applyClip();
+    }
+
+    void applyClip() {
+        target.restore();
+        target.save();
+        if (!clips.empty()) target.setClipRect(clips.back(), Qt::IntersectClip);
+    }
+
+    Painter& owner;
+    QPainter& target;
+    const Palette& palette;
+    const double scale;
+    const QPoint origin;
+    std::vector<QRect> clips;
+};
+
+void Painter::paint(QPainter& painter, const platform::Drawing& drawing, const Palette& palette, double scale,
+                    QPoint origin) {
+    Run(*this, painter, palette, scale, origin).paint(drawing);
+}
+
+}  // namespace desk

@@ -1,0 +1,96 @@
+#include "desk/display/QtTextSystem.h"
+
+#include <unicode/brkiter.h>
+#include <unicode/utext.h>
+
+#include <cmath>
+#include <vector>
+
+#include "desk/display/ShapedText.h"
+#include "desk/display/Symbols.h"
+#include "desk/display/SystemFont.h"
+
+namespace desk {
+
+namespace {
+
+constexpr std::string_view ellipsis = "\u2026";
+
+}  // namespace
+
+// Where one may cut: byte offsets of grapheme cluster boundaries, 0 and the end included.
+class QtTextSystem::Clusters {
+public:
+    Clusters() {
+        UErrorCode status = U_ZERO_ERROR;
+        iterator.reset(icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+        if (U_FAILURE(status)) iterator.reset();
+    }
+
+    std::vector<std::size_t> boundaries(std::string_view text) {
+        std::vector<std::size_t> result;
+        UErrorCode status = U_ZERO_ERROR;
+        UText opened = UTEXT_INITIALIZER;
+        utext_openUTF8(&opened, text.data(), static_cast<std::int64_t>(text.size()), &status);
+        if (iterator != nullptr) iterator->setText(&opened, status);
+        if (iterator == nullptr || U_FAILURE(status)) {
+            utext_close(&opened);
+            return {0, text.size()};
+        }
+        for (std::int32_t at = iterator->first(); at != icu::BreakIterator::DONE; at = iterator->next())
+            result.push_back(static_cast<std::size_t>(at));
+        utext_close(&opened);
+        return result;
+    }
+
+private:
+    std::unique_ptr<icu::BreakIterator> iterator;
+};
+
+QtTextSystem::QtTextSystem() : clusters(std::make_unique<Clusters>()), widths(4096), truncations(1024), lines(64) {}
+
+QtTextSystem::~QtTextSystem() = default;
+
+double QtTextSystem::width(std::string_view text, platform::Font font) {
+    if (const double* known = widths.find(TextLookup{text, font})) return *known;
+    return widths.insert({std::string(text), font}, ShapedText::width(text, font));
+}
+
+platform::FontMetrics QtTextSystem::metrics(platform::Font font) {
+    if (const platform::FontMetrics* known = lines.find(TextLookup{{}, font})) return *known;
+    return lines.insert({{}, font}, systemFontMetrics(font));
+}
+
+std::string QtTextSystem::truncatedInMiddle(std::string_view text, platform::Font font, double width) {
+    if (this->width(text, font) <= width) return std::string(text);
+    const TextLookup key{text, font};
+    if (const Truncation* known = truncations.find(key); known != nullptr && known->width == width)
+        return known->result;
+    return truncations.insert({std::string(text), font}, {width, truncate(text, font, width)}).result;
+}
+
+// Shaping makes widths of pieces not quite additive, so the search is confirmed by measuring what it answers.
+std::string QtTextSystem::truncate(std::string_view text, platform::Font font, double width) {
+    const std::vector<std::size_t> cuts = clusters->boundaries(text);
+    const auto keeping = [&](std::size_t count) {
+        const std::size_t tail = count / 2;
+        std::string result(text.substr(0, cuts[count - tail]));
+        result += ellipsis;
+        return result += text.substr(cuts[cuts.size() - 1 - tail]);
+    };
+    const auto fits = [&](std::size_t count) { return ShapedText::width(keeping(count), font) <= width; };
+
+    std::size_t fitting = 0;
+    std::size_t tooMany = cuts.size() < 2 ? 1 : cuts.size() - 1;
+    while (fitting + 1 < tooMany) {
+        const std::size_t middle = (fitting + tooMany) / 2;
+        (fits(middle) ? fitting : tooMany) = middle;
+    }
+    return keeping(fitting);
+}
+
+std::optional<platform::CGSize> QtTextSystem::symbolSize(std::string_view name, platform::Font font) {
+    return desk::symbolSize(name, font);
+}
+
+}  // namespace desk

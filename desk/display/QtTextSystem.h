@@ -1,0 +1,41 @@
+// Measures text of the desk's system font for layout, and remembers what it measured. It paints nothing; Painter shapes the same text with the
+// same fonts. Needs a GuiApplication.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "desk/display/BoundedCache.h"
+#include "desk/display/TextKey.h"
+#include "platform/Text.h"
+
+namespace desk {
+
+class QtTextSystem final : public platform::TextSystem {
+public:
+    QtTextSystem();
+    ~QtTextSystem() override;
+
+    double width(std::string_view text, platform::Font font) override;
+    platform::FontMetrics metrics(platform::Font font) override;
+    std::string truncatedInMiddle(std::string_view text, platform::Font font, double width) override;
+    std::optional<platform::CGSize> symbolSize(std::string_view name, platform::Font font) override;
+
+private:
+    class Clusters;
+    struct Truncation {
+        double width = 0;
+        std::string result;
+    };
+
+    std::string truncate(std::string_view text, platform::Font font, double width);
+
+    std::unique_ptr<Clusters> clusters;
+    BoundedCache<TextKey, double, TextHash, TextEqual> widths;
+    BoundedCache<TextKey, Truncation, TextHash, TextEqual> truncations;  // the last one of each text
+    BoundedCache<TextKey, platform::FontMetrics, TextHash, TextEqual> lines;
+};
+
+}  // namespace desk

@@ -1,0 +1,48 @@
+// Fills and strokes rounded shapes in device pixels. Shapes that lie on whole pixels, as nearly all do, are put together from plain rectangles and
+// small cached pictures of their corners: large antialiased fills cost far more, and the toolkit may hand them to its thread pool.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QRectF>
+#include <array>
+#include <cstddef>
+
+#include "desk/display/BoundedCache.h"
+#include "desk/display/RoundedCorner.h"
+#include "platform/Drawing.h"
+
+class QPainter;
+
+namespace desk {
+
+class ShapePainter {
+public:
+    ShapePainter();
+
+    void fill(QPainter& painter, const QRectF& rect, double radius, platform::CornerStyle style, const QColor& color);
+    // The line is centred on the edge; butt caps, mitred joins with limit 10.
+    void stroke(QPainter& painter, const QRectF& rect, double radius, platform::CornerStyle style, double lineWidth,
+                const QColor& color);
+
+private:
+    // Clockwise from the top left.
+    using Corners = std::array<QImage, 4>;
+    struct Tile {
+        RoundedCorner corner;
+        double lineWidth;  // 0: filled
+        QRgb color;
+        friend bool operator==(const Tile&, const Tile&) = default;
+    };
+    struct TileHash {
+        using is_transparent = void;
+        std::size_t operator()(const Tile& tile) const;
+    };
+
+    const Corners& corners(const Tile& tile);
+    static void drawCorners(QPainter& painter, const Corners& images, const QRect& outer);
+
+    BoundedCache<Tile, Corners, TileHash, std::equal_to<>> tiles;
+};
+
+}  // namespace desk

@@ -1,0 +1,63 @@
+#include "desk/display/TextPictures.h"
+
+#include <QPainter>
+#include <QRectF>
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "desk/display/Symbols.h"
+
+namespace desk {
+
+namespace {
+
+// A long line's picture is worth more memory than its painting is time.
+constexpr qsizetype largestKeptPicture = 96 * 1024;
+// Beyond any screen; what a text is longer by is cut.
+constexpr double widestPicture = 16384;
+
+TextPicture draw(const ShapedText& line, const QColor& color, double scale) {
+    const QRectF bounds = line.bounds();
+    const QRectF scaled(bounds.topLeft() * scale, bounds.size() * scale);
+    QRect pixels = scaled.toAlignedRect().adjusted(-1, -1, 1, 1);
+    pixels.setWidth(static_cast<int>(std::min<double>(pixels.width(), widestPicture)));
+    TextPicture picture{QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied), pixels.topLeft(), line.metrics()};
+    picture.image.fill(Qt::transparent);
+    QPainter painter(&picture.image);
+    painter.setPen(color);
+    painter.translate(-picture.offset);
+    painter.scale(scale, scale);
+    line.paint(painter);
+    return picture;
+}
+
+}  // namespace
+
+TextPictures::TextPictures() : lines(512), texts(96), symbols(64) {}
+
+TextPicture TextPictures::text(std::string_view text, platform::Font font, const QColor& color, double scale) {
+    const TextLookup lookup{text, font};
+    if (const TextPicture* known = texts.find(TintedLookup{lookup, color.rgba(), scale})) return *known;
+    TextPicture made = draw(shaped(text, font), color, scale);
+    if (made.image.sizeInBytes() > largestKeptPicture) return made;
+    return texts.insert({{std::string(text), font}, color.rgba(), scale}, std::move(made));
+}
+
+QImage TextPictures::symbol(std::string_view name, platform::Font font, const QColor& color, double scale) {
+    if (const QImage* known = symbols.find(TintedLookup{{name, font}, color.rgba(), scale})) return *known;
+    QImage image = symbolMask(name, font, scale);
+    if (!image.isNull()) {
+        QPainter tint(&image);
+        tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        tint.fillRect(image.rect(), color);
+    }
+    return symbols.insert({{std::string(name), font}, color.rgba(), scale}, std::move(image));
+}
+
+const ShapedText& TextPictures::shaped(std::string_view text, platform::Font font) {
+    if (const ShapedText* known = lines.find(TextLookup{text, font})) return *known;
+    return lines.insert({std::string(text), font}, ShapedText(text, font));
+}
+
+}  // namespace desk
