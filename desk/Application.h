@@ -6,8 +6,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
-#include <vector>
 
 #include "desk/time/ApplicationLoop.h"
 #include "platform/Application.h"
@@ -31,11 +31,15 @@ struct ApplicationImage {
     std::string name = "Orvane";
     platform::Dictionary info;
     platform::Dictionary storedDefaults;
+
+    // The Info dictionary's own word, where there is a dictionary; a bundle can be without an identifier.
+    std::optional<std::string> identifier() const;
 };
 
 class Application {
 public:
-    Application(Machine& theMachine, std::string theBundlePath, const ApplicationImage& image, std::int32_t theProcessIdentifier);
+    Application(Machine& theMachine, std::string theBundlePath, const ApplicationImage& image,
+                std::int32_t theProcessIdentifier);
     ~Application();
 
     // Makes the program and queues its launch callbacks.
@@ -49,11 +53,14 @@ public:
     Program* program() { return runningProgram.get(); }
     const platform::Dictionary& storedDefaults() const;
 
-    // A call of the application is on the stack while this is above 0.
+    // A call of the application that its loop doesn't know of is on the stack while this is above 0.
     int callDepth = 0;
+    bool isOnStack() const { return callDepth > 0 || runLoop->isOnStack(); }
 
-    // Events for its windows; monitors see them here. Global monitors get copies of events of other processes.
-    void sendEvent(const platform::NSEvent& event);
+    // Asks the delegate, and dies if it agrees.
+    void terminate();
+
+    // An event of another process, its location on the screen: its global monitors get a copy in a later turn.
     void offerToGlobalMonitors(const platform::NSEvent& event);
     void postWorkspaceNotification(platform::WorkspaceNotification notification);
 
@@ -67,21 +74,25 @@ public:
     };
     Registrations registrations() const;
 
+    // From queued events, which lie where they were on the screen, to what the application gets: relative to the window as it stands now.
+    static platform::NSEvent inItsWindow(platform::NSEvent event);
+
 private:
-    friend class WindowPort;
+    friend class PanelHandle;
     struct Ports;  // the adapters behind Platform's references
 
-    void terminate();
+    // Local monitors first, then the window.
+    void sendEvent(const platform::NSEvent& event);
 
     Machine& machine;
     std::string path;
     std::int32_t pid;
     bool dead = false;
     std::unique_ptr<ApplicationLoop> runLoop;
+    std::map<std::int64_t, platform::NSWindow*> ownWindows;
     std::unique_ptr<Ports> ports;
     std::unique_ptr<platform::SharedSlots> slots;
     std::unique_ptr<platform::Platform> platformOfIt;
-    std::map<std::int64_t, platform::NSWindow*> ownWindows;
     std::unique_ptr<Program> runningProgram;
 };
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "desk/AlertLayout.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"
 
@@ -49,14 +50,31 @@ public:
     void frontmostChanged();
 
 private:
-    void deliverMouse(platform::NSEventType type, const platform::CGPoint& point, int clickCount);
+    // Who handles a mouse event. Without a window it is the desktop's, which is Finder's; without an owner nobody's.
+    struct Target {
+        std::int64_t window = 0;
+        std::int32_t owner = 0;
+    };
+
+    Target targetAt(const platform::CGPoint& point) const;
+    bool isMenuBarOrDock(const platform::CGPoint& point) const;
+    std::optional<AlertLayout> alertLayout() const;
+    void pressAlertButton(const platform::CGPoint& point);
+    void bringForward(const Target& target);
+    void deliverMouse(platform::NSEventType type, const Target& target, int clickCount);
     void deliverKey(platform::NSEventType type, const KeyStroke& stroke);
+    void deliver(platform::NSEvent event, const Target& target);
+    std::int32_t ownerOf(std::int64_t window) const;
 
     Machine& machine;
     platform::CGPoint location;
     std::int64_t key = 0;
-    std::int64_t pressed = 0;  // the window that has the mouse from press to release; -1: nobody's
-    MouseButton pressedButton = MouseButton::left;
+    struct Press {
+        Target target;  // has the mouse until the release, wherever that goes
+        MouseButton button;
+        int clickCount;
+    };
+    std::optional<Press> press;
 };
 
 }  // namespace desk

@@ -68,8 +68,8 @@ public:
     void activate(std::int32_t processIdentifier, bool allWindows);
     void switchToSpace(int space);
 
-    void settle() { scheduler.settle(); }
-    void advance(platform::Duration duration) { scheduler.advance(duration); }
+    void settle();
+    void advance(platform::Duration duration);
     double secondsSinceStart() const;
 
     // The system prompt for Automation, while it is up; pressing one of its buttons by label.
@@ -81,10 +81,13 @@ public:
 
 private:
     void notifyApplications(platform::WorkspaceNotification notification);
+    void frontmostHasChanged();
+    std::int64_t mainWindow(std::int32_t processIdentifier) const;
 
     platform::Date start;
-    std::vector<std::unique_ptr<Application>> running;
+    std::int64_t nextOtherNumber;
     std::vector<platform::Token> subscriptions;
+    std::vector<std::unique_ptr<Application>> running;
 };
 
 }  // namespace desk

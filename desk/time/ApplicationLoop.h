@@ -47,8 +47,8 @@ public:
     // The same until the condition holds, pulling the driver's steps; false when the driver ended first.
     bool blockUntil(const std::function<bool()>& condition);
     bool isBlocked() const { return blocked > 0; }
-    // Turns on the stack: above 0, the application's code is running or waiting.
-    int turnDepth() const { return turns; }
+    // The application's code is running or waiting.
+    bool isOnStack() const { return turns + nested + blocked > 0; }
 
     // One turn if anything is ready; answers whether it ran.
     bool turn();

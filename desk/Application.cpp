@@ -1,0 +1,145 @@
+#include "desk/Application.h"
+
+#include <utility>
+
+#include "desk/Machine.h"
+#include "desk/ports/AccessibilityPort.h"
+#include "desk/ports/AppleEventsPort.h"
+#include "desk/ports/BundlePort.h"
+#include "desk/ports/DefaultsPort.h"
+#include "desk/ports/EventsPort.h"
+#include "desk/ports/FilesPort.h"
+#include "desk/ports/NSApplicationPort.h"
+#include "desk/ports/PasteboardPort.h"
+#include "desk/ports/UuidPort.h"
+#include "desk/ports/WindowPort.h"
+#include "desk/ports/WindowServerPort.h"
+#include "desk/ports/WorkspacePort.h"
+
+namespace desk {
+
+std::optional<std::string> ApplicationImage::identifier() const {
+    if (info.empty()) return bundleIdentifier;
+    const platform::Value* entry = platform::find(info, "CFBundleIdentifier");
+    const auto* text = entry == nullptr ? nullptr : entry->as<std::string>();
+    if (text == nullptr) return std::nullopt;
+    return *text;
+}
+
+struct Application::Ports {
+    Ports(Machine& machine, Application& self, const ApplicationImage& image)
+        : workspace(machine, self),
+          windowServer(machine),
+          accessibility(machine, self),
+          appleEvents(machine, self),
+          events(machine.input),
+          application(machine, self),
+          windows(machine, self),
+          files(machine.disk),
+          defaults(image.storedDefaults),
+          bundle(image.identifier(), self.bundlePath()),
+          pasteboard(machine.clipboard),
+          uuids(self.processIdentifier()) {}
+
+    WorkspacePort workspace;
+    WindowServerPort windowServer;
+    AccessibilityPort accessibility;
+    AppleEventsPort appleEvents;
+    EventsPort events;
+    NSApplicationPort application;
+    WindowPort windows;
+    FilesPort files;
+    DefaultsPort defaults;
+    BundlePort bundle;
+    PasteboardPort pasteboard;
+    UuidPort uuids;
+};
+
+Application::Application(Machine& theMachine, std::string theBundlePath, const ApplicationImage& image,
+                         std::int32_t theProcessIdentifier)
+    : machine(theMachine),
+      path(std::move(theBundlePath)),
+      pid(theProcessIdentifier),
+      runLoop(std::make_unique<ApplicationLoop>(
+          theMachine.scheduler, [this](const platform::NSEvent& event) { sendEvent(inItsWindow(event)); })),
+      ports(std::make_unique<Ports>(theMachine, *this, image)),
+      slots(std::make_unique<platform::SharedSlots>()),
+      platformOfIt(new platform::Platform{machine.scheduler, *runLoop, *runLoop, ports->workspace, machine.displays,
+                                          machine.appearance, ports->windowServer, ports->accessibility,
+                                          ports->appleEvents, ports->events, ports->application, ports->windows,
+                                          machine.text, ports->files, ports->defaults, ports->bundle, ports->pasteboard,
+                                          ports->uuids, *slots}) {}
+
+// What is posted may hold on to the program, the program to what is shared, and both to the ports.
+Application::~Application() {
+    dead = true;
+    runLoop->shutDown();
+    runningProgram.reset();
+    slots.reset();
+}
+
+void Application::start(const ProgramFactory& factory) {
+    ++callDepth;
+    runningProgram = factory(*platformOfIt);
+    --callDepth;
+    runLoop->mainAsync([this] {
+        runningProgram->delegate().applicationWillFinishLaunching();
+        if (!dead) runningProgram->delegate().applicationDidFinishLaunching();
+    });
+}
+
+void Application::terminate() {
+    if (dead) return;
+    const bool agreed = !runningProgram || runningProgram->delegate().applicationShouldTerminate() ==
+                                               platform::NSApplicationTerminateReply::terminateNow;
+    if (!agreed) return;
+    dead = true;
+    runLoop->shutDown();
+    for (const auto& [number, window] : ownWindows) {
+        machine.windows.remove(number);
+        machine.input.windowOrderedOut(number);
+    }
+    machine.processes.remove(pid);
+}
+
+const platform::Dictionary& Application::storedDefaults() const {
+    return ports->defaults.storedValues();
+}
+
+platform::NSEvent Application::inItsWindow(platform::NSEvent event) {
+    if (event.window == nullptr) return event;
+    const platform::CGPoint origin = event.window->frame().origin;
+    event.locationInWindow = {event.locationInWindow.x - origin.x, event.locationInWindow.y - origin.y};
+    return event;
+}
+
+void Application::sendEvent(const platform::NSEvent& event) {
+    const auto keepAlive = event.window == nullptr ? nullptr : event.window->weak_from_this().lock();
+    const auto answered = ports->events.runLocalMonitors(event);
+    if (!dead && answered && answered->window != nullptr) answered->window->sendEvent(*answered);
+}
+
+void Application::offerToGlobalMonitors(const platform::NSEvent& event) {
+    if (dead || !ports->events.hasGlobalMonitorFor(event.type)) return;
+    runLoop->mainAsync([this, event] { ports->events.runGlobalMonitors(event); });
+}
+
+void Application::postWorkspaceNotification(platform::WorkspaceNotification notification) {
+    if (!dead) runLoop->mainAsync([this, notification] { ports->workspace.notify(notification); });
+}
+
+platform::NSWindow* Application::window(std::int64_t number) {
+    const auto entry = ownWindows.find(number);
+    return entry == ownWindows.end() ? nullptr : entry->second;
+}
+
+Application::Registrations Application::registrations() const {
+    return {ports->events.globalMonitorCount(),
+            ports->events.localMonitorCount(),
+            ports->workspace.observerCount(),
+            ports->accessibility.subscriptionCount(),
+            runLoop->timerCount(),
+            ownWindows.size()};
+}
+
+}  // namespace desk

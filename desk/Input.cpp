@@ -1,0 +1,174 @@
+#include "desk/Input.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "desk/Machine.h"
+
+namespace desk {
+
+namespace {
+
+using platform::CGPoint;
+using platform::NSEvent;
+using platform::NSEventType;
+
+// Spaces from here on are those of single full-screen windows, which cover menu bar and Dock.
+constexpr int firstFullScreenSpace = 1000;
+
+struct ButtonEvents {
+    NSEventType down;
+    NSEventType dragged;
+    NSEventType up;
+};
+
+ButtonEvents eventsOf(MouseButton button) {
+    if (button == MouseButton::right)
+        return {NSEventType::rightMouseDown, NSEventType::rightMouseDragged, NSEventType::rightMouseUp};
+    return {NSEventType::leftMouseDown, NSEventType::leftMouseDragged, NSEventType::leftMouseUp};
+}
+
+bool isPassive(const platform::NSWindow& window) {
+    return (window.settings().styleMask & platform::NSWindowStyleMask::nonactivatingPanel) != 0;
+}
+
+}  // namespace
+
+void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) {
+    location = point;
+    const Target target = targetAt(point);
+    pressAlertButton(point);
+    if (target.owner != 0 && target.owner != ownerOf(key)) key = 0;
+    press = Press{target, button, clickCount};
+    const bool isFinders = target.window != 0 && target.owner == machine.finder.pid();
+    if (isFinders && button == MouseButton::left)
+        machine.finder.mouseDown(target.window, point);
+    else
+        bringForward(target);
+    deliverMouse(eventsOf(button).down, target, clickCount);
+}
+
+void Input::mouseDragged(const CGPoint& point) {
+    location = point;
+    const Press held = press.value_or(Press{{}, MouseButton::left, 0});
+    const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
+    if (isFinders && held.button == MouseButton::left) machine.finder.mouseDragged(point);
+    deliverMouse(eventsOf(held.button).dragged, held.target, held.clickCount);
+}
+
+void Input::mouseUp(const CGPoint& point, MouseButton button) {
+    location = point;
+    const Press held = std::exchange(press, std::nullopt).value_or(Press{{}, button, 1});
+    const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
+    if (isFinders && button == MouseButton::left) machine.finder.mouseUp(point);
+    deliverMouse(eventsOf(button).up, held.target, held.clickCount);
+}
+
+void Input::mouseMoved(const CGPoint& point) {
+    location = point;
+    NSEvent event;
+    event.type = NSEventType::mouseMoved;
+    // Nobody's: only the copies are of interest.
+    deliver(event, {0, targetAt(point).owner});
+}
+
+void Input::pressAlertButton(const CGPoint& point) {
+    const auto alert = alertLayout();
+    const AlertButton* button = alert ? alert->buttonAt(point) : nullptr;
+    if (button != nullptr) machine.pressAlertButton(button->label);
+}
+
+std::optional<AlertLayout> Input::alertLayout() const {
+    const auto alert = machine.alert();
+    const auto& screens = machine.displays.screens();
+    if (!alert || screens.empty()) return std::nullopt;
+    return layoutOf(*alert, screens.front());
+}
+
+Input::Target Input::targetAt(const CGPoint& point) const {
+    const auto alert = alertLayout();
+    if (isMenuBarOrDock(point) || (alert && platform::CGRectContainsPoint(alert->frame, point))) return {};
+    if (const ServerWindow* window = machine.windows.windowAt(point)) return {window->number, window->owner};
+    return {0, machine.finder.isRunning() ? machine.finder.pid() : 0};
+}
+
+bool Input::isMenuBarOrDock(const CGPoint& point) const {
+    if (machine.windows.currentSpace() >= firstFullScreenSpace) return false;
+    const auto& screens = machine.displays.screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const platform::NSScreen& screen) {
+        return platform::CGRectContainsPoint(screen.frame, point) &&
+               !platform::CGRectContainsPoint(screen.visibleFrame, point);
+    });
+}
+
+// What a press does to the order of windows and processes, apart from what its target makes of it.
+void Input::bringForward(const Target& target) {
+    if (target.owner == 0) return;
+    Application* launched = machine.application(target.owner);
+    const platform::NSWindow* window = launched == nullptr ? nullptr : launched->window(target.window);
+    if (window != nullptr && isPassive(*window)) return;
+    machine.processes.activate(target.owner);
+    if (target.owner == machine.finder.pid())
+        machine.finder.raise(target.window);
+    else
+        machine.windows.raise(target.window);
+}
+
+void Input::deliverMouse(NSEventType type, const Target& target, int clickCount) {
+    NSEvent event;
+    event.type = type;
+    event.clickCount = clickCount;
+    deliver(std::move(event), target);
+}
+
+void Input::deliver(NSEvent event, const Target& target) {
+    event.timestamp = machine.scheduler.now();
+    event.locationInWindow = location;
+    for (const auto& launched : machine.applications())
+        if (launched->processIdentifier() != target.owner) launched->offerToGlobalMonitors(event);
+    Application* owner = machine.application(target.owner);
+    if (owner == nullptr || event.type == NSEventType::mouseMoved) return;
+    event.window = owner->window(target.window);
+    owner->loop().postEvent(std::move(event));
+}
+
+void Input::keyDown(const KeyStroke& stroke) {
+    deliverKey(NSEventType::keyDown, stroke);
+}
+
+void Input::keyUp(const KeyStroke& stroke) {
+    deliverKey(NSEventType::keyUp, stroke);
+}
+
+void Input::deliverKey(NSEventType type, const KeyStroke& stroke) {
+    NSEvent event;
+    event.type = type;
+    event.keyCode = stroke.keyCode;
+    event.modifierFlags = stroke.modifiers;
+    event.characters = stroke.characters;
+    event.charactersIgnoringModifiers = stroke.charactersIgnoringModifiers;
+    const Process* frontmost = machine.processes.frontmost();
+    const Target inFront{0, frontmost == nullptr ? 0 : frontmost->processIdentifier};
+    deliver(std::move(event), key != 0 ? Target{key, ownerOf(key)} : inFront);
+}
+
+std::int32_t Input::ownerOf(std::int64_t window) const {
+    const ServerWindow* entry = machine.windows.find(window);
+    return entry == nullptr ? 0 : entry->owner;
+}
+
+void Input::makeKey(std::int64_t window) {
+    if (std::exchange(key, window) != window) machine.windows.changed();
+}
+
+void Input::windowOrderedOut(std::int64_t window) {
+    if (key == window) key = 0;
+}
+
+void Input::frontmostChanged() {
+    const Process* frontmost = machine.processes.frontmost();
+    const bool isOwn = frontmost != nullptr && frontmost->processIdentifier == ownerOf(key);
+    if (!isOwn) key = 0;
+}
+
+}  // namespace desk

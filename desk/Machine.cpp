@@ -1,0 +1,180 @@
+#include "desk/Machine.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace desk {
+
+namespace {
+
+// 2024-06-03 09:00:00 UTC.
+constexpr platform::Date startOfStories{std::chrono::seconds(1'717'405'200)};
+
+// Apart from the numbers of Finder's windows and of panels.
+constexpr std::int64_t firstOtherNumber = 1'000'001;
+constexpr platform::CGRect frameOfOtherWindow{{220, 140}, {900, 600}};
+
+constexpr const char* dontAllow = "Don't Allow";
+constexpr const char* allow = "OK";
+
+// The last part of a bundle identifier stands in for a name.
+std::string nameOf(const std::string& bundleIdentifier) {
+    return bundleIdentifier.substr(bundleIdentifier.rfind('.') + 1);
+}
+
+}  // namespace
+
+Machine::Machine(platform::TextSystem& theText)
+    : scheduler(startOfStories),
+      input(*this),
+      finder(*this),
+      scripting(*this),
+      text(theText),
+      start(startOfStories),
+      nextOtherNumber(firstOtherNumber) {
+    subscriptions.push_back(processes.frontmostChanged.subscribe([this] { frontmostHasChanged(); }));
+    finder.launch();
+    processes.activate(finder.pid());
+}
+
+Machine::~Machine() {
+    while (!running.empty()) running.pop_back();
+}
+
+Application& Machine::launch(const std::string& bundlePath, const ApplicationImage& image,
+                             const ProgramFactory& factory) {
+    Process process;
+    process.bundleIdentifier = image.identifier();
+    process.bundlePath = bundlePath;
+    process.name = image.name;
+    const std::int32_t pid = processes.add(std::move(process));
+    running.push_back(std::make_unique<Application>(*this, bundlePath, image, pid));
+    Application& launched = *running.back();
+    launched.start(factory);
+    return launched;
+}
+
+Application* Machine::application(std::int32_t processIdentifier) const {
+    const auto found = std::find_if(running.begin(), running.end(), [&](const auto& candidate) {
+        return candidate->processIdentifier() == processIdentifier && !candidate->isDead();
+    });
+    return found == running.end() ? nullptr : found->get();
+}
+
+void Machine::startOtherProcess(const std::string& bundleIdentifier) {
+    Process process;
+    process.bundleIdentifier = bundleIdentifier;
+    process.name = nameOf(bundleIdentifier);
+    process.bundlePath = "/Applications/" + process.name + ".app";
+    ServerWindow window;
+    window.number = nextOtherNumber++;
+    window.title = process.name;
+    window.frame = frameOfOtherWindow;
+    window.owner = processes.add(std::move(process));
+    windows.add(window);
+    windows.order(window.number, platform::NSWindowOrderingMode::below, 0);
+}
+
+bool Machine::activate(const std::string& bundleIdentifier) {
+    const Process* process = processes.findByBundleIdentifier(bundleIdentifier);
+    if (process == nullptr) return false;
+    activate(process->processIdentifier, true);
+    return true;
+}
+
+void Machine::activate(std::int32_t processIdentifier, bool allWindows) {
+    if (processes.find(processIdentifier) == nullptr) return;
+    const Process* before = processes.frontmost();
+    const bool wasFrontmost = before != nullptr && before->processIdentifier == processIdentifier;
+    processes.activate(processIdentifier);
+    const std::int64_t main = mainWindow(processIdentifier);
+    if (allWindows)
+        windows.raiseAll(processIdentifier);
+    else
+        windows.raise(main);
+    Application* launched = application(processIdentifier);
+    platform::NSWindow* window = launched == nullptr ? nullptr : launched->window(main);
+    if (!wasFrontmost && window != nullptr) window->makeKeyWindow();
+}
+
+// 0 when the process has no window on screen that can be main.
+std::int64_t Machine::mainWindow(std::int32_t processIdentifier) const {
+    if (finder.isRunning() && processIdentifier == finder.pid()) return finder.mainWindow();
+    for (const ServerWindow* window : windows.onScreen())
+        if (window->owner == processIdentifier && (window->window == nullptr || window->window->canBecomeMain()))
+            return window->number;
+    return 0;
+}
+
+void Machine::switchToSpace(int space) {
+    if (space == windows.currentSpace()) return;
+    std::vector<std::int64_t> affected;
+    const auto collect = [&] {
+        for (const ServerWindow* window : windows.onScreen())
+            if (window->window != nullptr) affected.push_back(window->number);
+    };
+    collect();
+    windows.setCurrentSpace(space);
+    collect();
+    for (const std::int64_t number : affected) {
+        const ServerWindow* window = windows.find(number);
+        if (window == nullptr) continue;
+        if (auto* content = window->window->contentView()) content->setOnScreen(windows.isOnScreen(*window));
+    }
+    notifyApplications(platform::WorkspaceNotification::activeSpaceDidChange);
+}
+
+void Machine::frontmostHasChanged() {
+    input.frontmostChanged();
+    if (processes.frontmost() != nullptr) notifyApplications(platform::WorkspaceNotification::didActivateApplication);
+}
+
+void Machine::notifyApplications(platform::WorkspaceNotification notification) {
+    for (const auto& launched : running) launched->postWorkspaceNotification(notification);
+}
+
+void Machine::settle() {
+    scheduler.settle();
+    reap();
+}
+
+void Machine::advance(platform::Duration duration) {
+    scheduler.advance(duration);
+    reap();
+}
+
+double Machine::secondsSinceStart() const {
+    return platform::inSeconds(scheduler.now() - start);
+}
+
+std::optional<SystemAlert> Machine::alert() const {
+    if (!permissions.automationPromptIsUp) return std::nullopt;
+    const auto sender =
+        std::find_if(running.begin(), running.end(), [](const auto& candidate) { return !candidate->isDead(); });
+    const Process* process = sender == running.end() ? nullptr : processes.find((*sender)->processIdentifier());
+    const std::string name = process == nullptr ? "An application" : "“" + process->name + "”";
+    return SystemAlert{name +
+                           " wants access to control “Finder”. Allowing control will provide access to documents and "
+                           "data in “Finder”, and to perform actions within that app.",
+                       "",
+                       {dontAllow, allow}};
+}
+
+bool Machine::pressAlertButton(const std::string& label) {
+    if (!permissions.automationPromptIsUp || (label != dontAllow && label != allow)) return false;
+    permissions.automationPromptIsUp = false;
+    permissions.setAutomation(label == allow ? AutomationPermission::allowed : AutomationPermission::denied);
+    return true;
+}
+
+void Machine::reap() {
+    // Out of the list first: what an application does while it goes may look at the others.
+    const auto isAlive = [](const auto& launched) { return !launched->isDead() || launched->isOnStack(); };
+    const auto firstGone = std::stable_partition(running.begin(), running.end(), isAlive);
+    std::vector<std::unique_ptr<Application>> gone(std::make_move_iterator(firstGone),
+                                                   std::make_move_iterator(running.end()));
+    running.erase(firstGone, running.end());
+}
+
+}  // namespace desk

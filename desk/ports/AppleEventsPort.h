@@ -1,0 +1,22 @@
+// AppleScript as one application sends it; the scripts of one that has ended answer an error and reach nobody.
+#pragma once
+
+#include "platform/AppleEvents.h"
+
+namespace desk {
+
+class Application;
+class Machine;
+
+class AppleEventsPort final : public platform::AppleEvents {
+public:
+    AppleEventsPort(Machine& theMachine, Application& theApplication)
+        : machine(theMachine), application(theApplication) {}
+    std::unique_ptr<platform::NSAppleScript> makeAppleScript(const std::string& source) override;
+
+private:
+    Machine& machine;
+    Application& application;
+};
+
+}  // namespace desk

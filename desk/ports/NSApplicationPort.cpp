@@ -1,0 +1,30 @@
+#include "desk/ports/NSApplicationPort.h"
+
+#include "desk/Machine.h"
+
+namespace desk {
+
+void NSApplicationPort::setActivationPolicy(platform::NSApplicationActivationPolicy policy) {
+    machine.processes.setPolicy(application.processIdentifier(), policy);
+}
+
+void NSApplicationPort::activate(bool ignoringOtherApps) {
+    if (application.isDead()) return;
+    if (!ignoringOtherApps && machine.processes.frontmost() != nullptr) return;
+    machine.activate(application.processIdentifier(), false);
+}
+
+void NSApplicationPort::terminate() {
+    application.terminate();
+}
+
+std::optional<platform::NSEvent> NSApplicationPort::nextEventMatchingMask(platform::NSEventMask mask,
+                                                                          platform::Date untilDate,
+                                                                          platform::NSRunLoopMode /*mode*/,
+                                                                          bool dequeue) {
+    auto event = application.loop().nextEvent(mask, untilDate, dequeue);
+    if (event) event = Application::inItsWindow(*event);
+    return event;
+}
+
+}  // namespace desk

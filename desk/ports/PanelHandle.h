@@ -1,0 +1,44 @@
+// One window of an application towards the window stack and the keyboard. When the application has ended, its windows are off the stack already; the handle
+// then answers where the window last was, and does nothing.
+#pragma once
+
+#include <cstdint>
+
+#include "desk/WindowStack.h"
+#include "platform/Windows.h"
+
+namespace desk {
+
+class Application;
+class Machine;
+
+class PanelHandle final : public platform::WindowHandle {
+public:
+    PanelHandle(Machine& theMachine, Application& theApplication, platform::NSWindow& theWindow,
+                const platform::CGRect& frame);
+    ~PanelHandle() override;
+
+    std::int64_t windowNumber() const override { return number; }
+    platform::CGRect frame() const override;
+    void setFrame(const platform::CGRect& frame) override;
+    int level() const override;
+    void setLevel(int level) override;
+    bool isVisible() const override;
+    void orderWindow(platform::NSWindowOrderingMode mode, std::int64_t relativeTo) override;
+    void makeKey() override;
+    bool isKey() const override;
+    void settingsChanged() override;
+    void setNeedsDisplay() override;
+
+private:
+    const ServerWindow* entry() const;
+
+    Machine& machine;
+    Application& application;
+    platform::NSWindow& window;
+    const std::int64_t number;
+    platform::CGRect lastFrame;
+    int lastLevel = platform::NSNormalWindowLevel;
+};
+
+}  // namespace desk

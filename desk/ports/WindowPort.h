@@ -1,0 +1,22 @@
+// Makes the windows of one application: each is an entry of the window stack under a number of its own.
+#pragma once
+
+#include "platform/Windows.h"
+
+namespace desk {
+
+class Application;
+class Machine;
+
+class WindowPort final : public platform::WindowSystem {
+public:
+    WindowPort(Machine& theMachine, Application& theApplication) : machine(theMachine), application(theApplication) {}
+    std::unique_ptr<platform::WindowHandle> makeWindow(platform::NSWindow& window,
+                                                       const platform::CGRect& frame) override;
+
+private:
+    Machine& machine;
+    Application& application;
+};
+
+}  // namespace desk

@@ -1,0 +1,22 @@
+// The window list as an application asks the window server for it: the whole stack in top-left space, with the desktop behind it, and with what Faults spoil.
+#pragma once
+
+#include "platform/WindowServer.h"
+
+namespace desk {
+
+class Machine;
+struct ServerWindow;
+
+class WindowServerPort final : public platform::WindowServer {
+public:
+    explicit WindowServerPort(Machine& theMachine) : machine(theMachine) {}
+    platform::Value CGWindowListCopyWindowInfo(std::uint32_t option, std::int64_t relativeToWindow) override;
+
+private:
+    platform::Dictionary describe(const ServerWindow& window) const;
+
+    Machine& machine;
+};
+
+}  // namespace desk

@@ -1,0 +1,51 @@
+#include "desk/ports/WorkspacePort.h"
+
+#include <utility>
+
+#include "desk/Machine.h"
+
+namespace desk {
+
+using platform::NSRunningApplication;
+
+NSRunningApplication WorkspacePort::describe(const Process& process) {
+    return {process.bundleIdentifier, process.processIdentifier, this};
+}
+
+std::vector<NSRunningApplication> WorkspacePort::runningApplications() {
+    std::vector<NSRunningApplication> all;
+    for (const Process& process : machine.processes.running()) all.push_back(describe(process));
+    return all;
+}
+
+std::optional<NSRunningApplication> WorkspacePort::frontmostApplication() {
+    const Process* process = machine.processes.frontmost();
+    if (process == nullptr) return std::nullopt;
+    return describe(*process);
+}
+
+std::int32_t WorkspacePort::currentProcessIdentifier() const {
+    return application.processIdentifier();
+}
+
+bool WorkspacePort::activate(std::int32_t processIdentifier, unsigned options) {
+    if (application.isDead() || machine.processes.find(processIdentifier) == nullptr) return false;
+    machine.activate(processIdentifier, (options & platform::NSApplicationActivationOptions::activateAllWindows) != 0);
+    return true;
+}
+
+platform::Token WorkspacePort::addObserver(platform::WorkspaceNotification notification, std::function<void()> block) {
+    return observers.add({notification, std::move(block)});
+}
+
+void WorkspacePort::openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) {
+    if (!application.isDead()) machine.opened.push_back({applicationPath, filePaths});
+}
+
+void WorkspacePort::notify(platform::WorkspaceNotification notification) const {
+    observers.visit([&](const Observer& observer) {
+        if (observer.notification == notification) observer.block();
+    });
+}
+
+}  // namespace desk

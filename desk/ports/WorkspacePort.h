@@ -1,0 +1,47 @@
+// The other processes as one application sees them, and its notifications about them.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "desk/ports/Registry.h"
+#include "platform/Workspace.h"
+
+namespace desk {
+
+class Application;
+class Machine;
+struct Process;
+
+class WorkspacePort final : public platform::Workspace {
+public:
+    WorkspacePort(Machine& theMachine, Application& theApplication)
+        : machine(theMachine), application(theApplication) {}
+
+    std::vector<platform::NSRunningApplication> runningApplications() override;
+    std::optional<platform::NSRunningApplication> frontmostApplication() override;
+    std::int32_t currentProcessIdentifier() const override;
+    bool activate(std::int32_t processIdentifier, unsigned options) override;
+    platform::Token addObserver(platform::WorkspaceNotification notification, std::function<void()> block) override;
+    void openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) override;
+
+    // Inside a turn of the application.
+    void notify(platform::WorkspaceNotification notification) const;
+    std::size_t observerCount() const { return observers.size(); }
+
+private:
+    struct Observer {
+        platform::WorkspaceNotification notification;
+        std::function<void()> block;
+    };
+
+    platform::NSRunningApplication describe(const Process& process);
+
+    Machine& machine;
+    Application& application;
+    Registry<Observer> observers;
+};
+
+}  // namespace desk
