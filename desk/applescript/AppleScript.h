@@ -1,0 +1,48 @@
+// Compiles and runs AppleScript: the language subset that scripts to Finder use, with Finder's own terms. The desk's
+// NSAppleScript and osascript call it. Applications other than Finder, and user interaction, it doesn't have.
+#pragma once
+
+#include "desk/applescript/ScriptHost.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace desk::applescript {
+
+struct Program;
+
+class CompiledScript {
+public:
+    explicit CompiledScript(std::unique_ptr<const Program> compiledProgram);
+    ~CompiledScript();
+
+    const Program& program() const { return *compiled; }
+
+private:
+    std::unique_ptr<const Program> compiled;
+};
+
+struct ScriptResult {
+    // The result as text; empty for lists, records, references and a script without a result. Meaningless on an error.
+    std::optional<std::string> stringValue;
+    std::optional<ScriptError> error;
+};
+
+// What a script may use up before it is stopped, which no `try` of its own can prevent.
+struct ScriptLimits {
+    std::int64_t steps = 2'000'000;
+    int depth = 600;
+};
+
+// Empty if the source is refused, with the reason in `error` where one is wanted. Source is UTF-8; other bytes pass
+// through string literals untouched.
+std::unique_ptr<CompiledScript> compile(std::string_view source, ScriptError* error = nullptr);
+
+// A compiled script isn't changed by running, so that several threads may run the same one. The arguments go to an
+// `on run argv` handler.
+ScriptResult run(const CompiledScript& script, ScriptHost& host, const std::vector<std::string>& arguments = {},
+                 const ScriptLimits& limits = {});
+
+}  // namespace desk::applescript

@@ -1,0 +1,79 @@
+#include "desk/applescript/FilePath.h"
+
+#include <algorithm>
+
+namespace desk::applescript {
+
+namespace {
+
+constexpr std::string_view startupDiskName = "Macintosh HD";
+constexpr std::string_view otherDisks = "/Volumes/";
+
+std::string exchanged(std::string_view text) {
+    std::string result(text);
+    for (char& character : result) {
+        character = character == ':' ? '/' : character == '/' ? ':' : character;
+    }
+    return result;
+}
+
+}  // namespace
+
+std::string withoutTrailingSlashes(std::string_view path) {
+    while (path.size() > 1 && path.back() == '/') {
+        path.remove_suffix(1);
+    }
+    return std::string(path);
+}
+
+std::string parentPath(std::string_view path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string_view::npos ? "" : slash == 0 ? "/" : withoutTrailingSlashes(path.substr(0, slash));
+}
+
+std::string_view lastComponent(std::string_view path) {
+    return path == "/" ? startupDiskName : path.substr(path.rfind('/') + 1);
+}
+
+std::string joinedPath(std::string_view folder, std::string_view name) {
+    return std::string(folder) + (folder == "/" ? "" : "/") + std::string(name);
+}
+
+std::string finderName(std::string_view diskName) {
+    return exchanged(diskName);
+}
+
+std::string diskName(std::string_view finderName) {
+    return exchanged(finderName);
+}
+
+std::string colonPath(std::string_view posixPath, bool isFolder) {
+    std::string path(startupDiskName);
+    if (posixPath.substr(0, otherDisks.size()) == otherDisks) {
+        path = exchanged(posixPath.substr(otherDisks.size()));
+    } else if (posixPath != "/") {
+        path += exchanged(posixPath);
+    }
+    return path + (isFolder ? ":" : "");
+}
+
+std::string posixPathFromColons(std::string_view colonPath) {
+    while (!colonPath.empty() && colonPath.back() == ':') {
+        colonPath.remove_suffix(1);
+    }
+    const std::size_t colon = std::min(colonPath.find(':'), colonPath.size());
+    if (colonPath.substr(0, colon) != startupDiskName) {
+        return std::string(otherDisks) + exchanged(colonPath);
+    }
+    return colon == colonPath.size() ? "/" : exchanged(colonPath.substr(colon));
+}
+
+std::string quotedForShell(std::string_view text) {
+    std::string quoted = "'";
+    for (const char character : text) {
+        quoted += character == '\'' ? std::string("'\\''") : std::string(1, character);
+    }
+    return quoted + "'";
+}
+
+}  // namespace desk::applescript
