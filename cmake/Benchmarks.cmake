@@ -1,4 +1,4 @@
-# Every bench/X.cpp is one executable X. They measure and assert nothing, so ctest doesn't run them.
+# Every bench/X.cpp (or X_bench.cpp) is one executable bench_X. They measure and assert nothing, so ctest doesn't run them.
 
 find_package(benchmark QUIET)
 if(NOT benchmark_FOUND)
@@ -10,6 +10,7 @@ brindle_existing(bench_links app desk play)
 file(GLOB benches CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/bench/*.cpp")
 foreach(source IN LISTS benches)
     get_filename_component(name "${source}" NAME_WE)
+    string(REGEX REPLACE "_bench$" "" name "${name}")
     add_executable(bench_${name} "${source}")
     target_include_directories(bench_${name} PRIVATE "${CMAKE_SOURCE_DIR}")
     target_link_libraries(bench_${name} PRIVATE ${bench_links} benchmark::benchmark_main)
