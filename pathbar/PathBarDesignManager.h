@@ -18,6 +18,8 @@ public:
     void select(PathBarDesign design);
 
 private:
+    void store();
+
     platform::Platform& platform;
 
 public:

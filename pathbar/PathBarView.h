@@ -24,6 +24,8 @@ public:
 
     // All crumbs of the window's path, from the root on, whether or not they fit.
     std::vector<BreadcrumbItem> breadcrumbItems() const;
+    // The plate in the chosen style and the present colour scheme.
+    views::View pathBarBackground() const;
     // Reads whether there is a message; writing false clears it.
     views::Binding<bool> errorPresented() const;
     // Copies the path and shows so for 1.4 seconds from now.

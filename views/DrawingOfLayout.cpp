@@ -52,7 +52,8 @@ void drawShape(const LayoutItem& item, platform::Drawing& into) {
 void drawText(const LayoutItem& item, platform::TextSystem& text, platform::Drawing& into) {
     const auto& content = item.view->as<TextContent>();
     if (content.text.empty() || !isVisible(item.color)) return;
-    const bool fits = item.natural.width <= item.frame.width();
+    constexpr double roundingError = 0.01;  // of shares of a length, which must not cost a text its middle
+    const bool fits = item.natural.width <= item.frame.width() + roundingError;
     into.operations.emplace_back(
         platform::DrawText{fits ? content.text : text.truncatedInMiddle(content.text, item.font, item.frame.width()),
                            item.font, item.color, item.frame});

@@ -13,37 +13,38 @@ namespace views {
 template <typename T>
 class State {
 public:
-    explicit State(T initial) : box(std::make_shared<Box>(std::move(initial))) {}
+    explicit State(T theInitial) : initial(std::move(theInitial)) {}
 
+    // The initial value before the view is part of a host.
     const T& get() const {
-        if (box->host && box->host->isEvaluating) box->isRead = true;
+        if (!box) return initial;
+        if (box->host->isEvaluating) box->isRead = true;
         return box->value;
     }
-    void set(T value) const { write(*box, std::move(value)); }
+    void set(T value) const {
+        if (!box) return;
+        box->value = std::move(value);
+        if (box->isRead) box->host->markDirty();
+    }
 
+    // It goes on working when the view is declared anew.
     Binding<T> binding() const {
-        return {[held = box] { return State(held).get(); }, [held = box](T value) { write(*held, std::move(value)); }};
+        return {[state = *this] { return state.get(); }, [state = *this](T value) { state.set(std::move(value)); }};
     }
 
     void attach(Context& context) {
-        box = context.nextSlot<Box>([this] { return box; });
-        box->host = context.host;
+        box = context.nextSlot<Box>([&] { return std::make_shared<Box>(initial, context.host); });
     }
 
 private:
     struct Box final : PropertySlot {
-        explicit Box(T initial) : value(std::move(initial)) {}
+        Box(T theValue, std::shared_ptr<HostLink> theHost) : value(std::move(theValue)), host(std::move(theHost)) {}
         T value;
-        std::shared_ptr<HostLink> host;
+        const std::shared_ptr<HostLink> host;
         bool isRead = false;
     };
 
-    explicit State(std::shared_ptr<Box> theBox) : box(std::move(theBox)) {}
-    static void write(Box& box, T value) {
-        box.value = std::move(value);
-        if (box.isRead && box.host) box.host->markDirty();
-    }
-
+    T initial;
     std::shared_ptr<Box> box;
 };
 

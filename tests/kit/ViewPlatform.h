@@ -1,0 +1,104 @@
+// The part of a platform that views and the path bar use, for tests without a machine: time that the test moves, turns that it ends, user defaults in a
+// map, the fixed text. The other parts must not be called.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/Platform.h"
+#include "tests/kit/FixedText.h"
+
+namespace kit {
+
+class ViewPlatform final : public platform::Clock,
+                           public platform::Dispatch,
+                           public platform::RunLoop,
+                           public platform::NSUserDefaults {
+public:
+    FixedText text;
+    platform::Appearance appearance;
+    std::map<std::string, std::string> stored;
+    int defaultsWrites = 0;
+
+    // Runs what comes due, each in a turn of its own.
+    void advance(platform::Duration duration) {
+        const platform::Date target = time + duration;
+        while (!delayed.empty() && delayed.begin()->first <= target) {
+            time = delayed.begin()->first;
+            const auto item = delayed.begin()->second;
+            delayed.erase(delayed.begin());
+            item->perform();
+            endTurn();
+        }
+        time = target;
+        endTurn();
+    }
+    void endTurn() {
+        for (const auto& block : std::exchange(atTheEnd, {})) block();
+    }
+
+    platform::Date now() const override { return time; }
+    void mainAsync(platform::Block block) override {
+        mainAfter({}, std::make_shared<platform::DispatchWorkItem>(std::move(block)));
+    }
+    void mainAfter(platform::Duration delay, std::shared_ptr<platform::DispatchWorkItem> item) override {
+        delayed.emplace(time + delay, std::move(item));
+    }
+    void mainTask(platform::Block block) override { mainAsync(std::move(block)); }
+    std::unique_ptr<platform::SerialQueue> makeSerialQueue(std::string, platform::QualityOfService) override {
+        return nullptr;
+    }
+    bool isMainThread() const override { return true; }
+    std::unique_ptr<platform::Timer> addTimer(platform::Duration, bool, platform::Duration, platform::Block) override {
+        return nullptr;
+    }
+    void atEndOfTurn(platform::Block block) override { atTheEnd.push_back(std::move(block)); }
+    std::optional<std::string> stringForKey(const std::string& key) override {
+        const auto found = stored.find(key);
+        return found == stored.end() ? std::nullopt : std::optional(found->second);
+    }
+    void setObject(const std::string& key, platform::Value value) override {
+        defaultsWrites += 1;
+        stored[key] = *value.as<std::string>();
+    }
+
+private:
+    alignas(std::max_align_t) std::array<std::byte, 64> nothing{};
+    template <typename T>
+    T& unused() {
+        return *reinterpret_cast<T*>(nothing.data());
+    }
+
+    platform::Date time;
+    std::multimap<platform::Date, std::shared_ptr<platform::DispatchWorkItem>> delayed;
+    std::vector<platform::Block> atTheEnd;
+    platform::SharedSlots slots;
+
+public:
+    platform::Platform platform{*this,
+                                *this,
+                                *this,
+                                unused<platform::Workspace>(),
+                                unused<platform::Screens>(),
+                                appearance,
+                                unused<platform::WindowServer>(),
+                                unused<platform::Accessibility>(),
+                                unused<platform::AppleEvents>(),
+                                unused<platform::Events>(),
+                                unused<platform::NSApplication>(),
+                                unused<platform::WindowSystem>(),
+                                text,
+                                unused<platform::NSFileManager>(),
+                                *this,
+                                unused<platform::NSBundle>(),
+                                unused<platform::NSPasteboard>(),
+                                unused<platform::UUIDSource>(),
+                                slots};
+};
+
+}  // namespace kit
