@@ -1,6 +1,6 @@
 // Finder of the stand-in Mac: windows on real folders, front to back, and what a person or a script does to them. Frames and stacking lie in the
 // WindowStack under the same numbers; this class keeps both in step and posts Accessibility notifications for what changes. Operations on a number that
-// isn't a folder window answer false.
+// isn't a window of Finder's answer false; info panels can only be closed, raised, moved and put on another space.
 #pragma once
 
 #include <cstdint>
@@ -11,6 +11,7 @@
 
 #include "desk/finder/FinderWindow.h"
 #include "platform/Geometry.h"
+#include "platform/Token.h"
 
 namespace desk {
 
@@ -31,26 +32,31 @@ public:
     // Answer the window's number, or nothing when the path is no folder or Finder doesn't run. Numbers count up from 101 and are never reused. The new window stands in front
     // of Finder's others; opening doesn't activate Finder. Without a frame the windows cascade.
     std::optional<std::int64_t> open(const std::string& path, std::optional<platform::CGRect> frame = std::nullopt);
-    std::optional<std::int64_t> openVirtual(const std::string& name, std::optional<platform::CGRect> frame = std::nullopt);
+    std::optional<std::int64_t> openVirtual(const std::string& name,
+                                            std::optional<platform::CGRect> frame = std::nullopt);
     std::optional<std::int64_t> openInfoPanel(const std::string& path);
 
     bool close(std::int64_t number);
     bool minimize(std::int64_t number);
     bool restore(std::int64_t number);
+    // In front of Finder's other windows, and of all windows when Finder is frontmost. Neither its space nor its being minimised changes.
     bool raise(std::int64_t number);
     bool go(std::int64_t number, const std::string& path);
+    // False when one of the items isn't there.
     bool select(std::int64_t number, const std::vector<std::string>& paths);
+    // Not of a full-screen window, which fills its screen.
     bool setFrame(std::int64_t number, const platform::CGRect& frame);
     // A full-screen window fills its screen, in a space of its own which becomes current; it goes back to where it was.
     bool setFullScreen(std::int64_t number, bool fullScreen);
     bool setSpace(std::int64_t number, int space);
 
-    // Folder windows and info panels, front to back, minimised ones and those of other spaces included.
+    // Folder windows and info panels: those on screen front to back, then those of other spaces, then minimised ones. Selected items that have
+    // vanished from the disk are left out of what is answered.
     std::vector<const FinderWindow*> windows() const;
     const FinderWindow* find(std::int64_t number) const;
     // The frontmost folder window that is on screen.
     const FinderWindow* front() const;
-    // The window that is main and focused: the front one on screen, 0 without any.
+    // The window that is main and focused: the front folder window on screen, 0 without any.
     std::int64_t mainWindow() const;
 
     // A person's mouse on one of Finder's windows (AppKit screen points). A press raises the window and activates Finder; from the title bar it begins a drag,
@@ -62,22 +68,44 @@ public:
     FinderAccessibility& accessibility() { return *tree; }
 
 private:
+    friend class FinderAccessibility;
+
     struct Drag {
         std::int64_t window;
         platform::CGPoint grip;  // from the mouse to the frame's origin
     };
 
-    FinderWindow* findFolder(std::int64_t number);
+    // Cheap: they leave the selection as it is.
+    const FinderWindow* entry(std::int64_t number) const;
+    FinderWindow* entry(std::int64_t number);
+    FinderWindow* folderWindow(std::int64_t number);
+    void dropVanishedSelection(FinderWindow& window) const;
+
     std::optional<std::int64_t> add(FinderWindow window, std::optional<platform::CGRect> frame);
+    platform::CGRect defaultFrame(const FinderWindow& window) const;
+    bool isFrontmost() const;
+    void bringForward(std::int64_t number);
+    void placeAmongOthers(std::int64_t number);
+    void moveTo(std::int64_t number, const platform::CGRect& frame);
+    void setMinimized(FinderWindow& window, bool minimized);
+    bool enterFullScreen(FinderWindow& window);
+    void leaveFullScreen(FinderWindow& window);
+    void refitFullScreenWindows();
+    std::int64_t findMainWindow() const;
+    void stackChanged();
     void mainWindowMayHaveChanged();
 
     Machine& machine;
     std::unique_ptr<FinderAccessibility> tree;
-    std::vector<FinderWindow> list;
+    mutable std::vector<FinderWindow> list;  // by number
     std::int32_t processIdentifier = 0;
     std::int64_t nextNumber;
-    std::int64_t lastMainWindow = 0;
     std::optional<Drag> drag;
+
+    std::int64_t announcedMainWindow = 0;
+    mutable std::optional<std::int64_t> knownMainWindow;  // until the window stack changes
+    bool willCheckMainWindow = false;
+    std::vector<platform::Token> subscriptions;
 };
 
 }  // namespace desk

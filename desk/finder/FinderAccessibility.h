@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/Accessibility.h"
+#include "platform/Time.h"
 
 namespace desk {
 
@@ -39,9 +40,30 @@ public:
     platform::AXUIElement windowElement(std::int64_t number) const;
 
 private:
+    std::optional<platform::AXAttributeValue> windowAttribute(std::int64_t number, std::string_view attribute) const;
+    std::optional<platform::AXAttributeValue> desktopAttribute(std::string_view attribute) const;
+    std::optional<platform::AXAttributeValue> applicationAttribute(std::string_view attribute) const;
+    std::optional<platform::AXAttributeValue> applicationRole() const;
+    std::optional<platform::AXAttributeValue> applicationTitle() const;
+    std::optional<platform::AXAttributeValue> isFrontmost() const;
+    std::optional<platform::AXAttributeValue> mainWindowElement() const;
+    std::optional<platform::AXAttributeValue> windowElements() const;
+
+    bool isAlive(const platform::AXUIElement& element) const;
+    platform::AXError setPosition(std::int64_t window, const platform::AXAttributeValue& value);
+    platform::AXError setSize(std::int64_t window, const platform::AXAttributeValue& value);
+    platform::AXError setMain(std::int64_t window, const platform::AXAttributeValue& value);
+    platform::AXError setMinimized(std::int64_t window, const platform::AXAttributeValue& value);
+    platform::AXError setFullScreen(std::int64_t window, const platform::AXAttributeValue& value);
+    platform::AXError setFocusedWindow(std::int64_t application, const platform::AXAttributeValue& value);
+    platform::AXError setFrontmost(std::int64_t application, const platform::AXAttributeValue& value);
+
+    void deliver(const platform::AXUIElement& element, const std::string& notification) const;
+
     Machine& machine;
     std::map<std::uint64_t, Listener> listeners;
     std::uint64_t lastSubscription = 0;
+    platform::Date lastLateDelivery = platform::Date::distantPast();
 };
 
 }  // namespace desk

@@ -1,6 +1,8 @@
-// What scripts see of Finder and do to it: the interpreter's host, over Finder and the disk. Makes the operations of one script run; knows no syntax.
+// AppleScript sent to Finder: makes the script objects that applications hold, and keeps what has been sent for whoever looks at the machine. It knows no
+// syntax; what scripts see of Finder and do to it is FinderScriptHost's.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -24,8 +26,20 @@ public:
     explicit FinderScripting(Machine& theMachine) : machine(theMachine) {}
     std::unique_ptr<platform::NSAppleScript> makeScript(Application& sender, const std::string& source);
 
+    // Since the machine was made.
+    std::uint64_t scriptsSent() const { return sent; }
+
 private:
+    friend class ScriptSender;
+    class Script;
+
+    // A script is listed when it is sent; its error is filled in when that is known.
+    std::uint64_t record(const std::string& source);
+    void recordError(std::uint64_t place, const std::string& error);
+
     Machine& machine;
+    std::uint64_t sent = 0;
+    int promptWaiters = 0;
 };
 
 }  // namespace desk

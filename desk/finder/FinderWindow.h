@@ -17,8 +17,9 @@ enum class FinderWindowKind { folder, infoPanel };
 struct FinderWindow {
     std::int64_t number = 0;
     FinderWindowKind kind = FinderWindowKind::folder;
-    std::optional<std::string> target;   // without a trailing slash, "/" of the root; empty of a virtual location such as Recents
-    std::string name;                    // the title
+    std::optional<std::string>
+        target;        // without a trailing slash, "/" of the root; empty of a virtual location such as Recents
+    std::string name;  // the title
     std::vector<std::string> selection;  // paths
     bool minimized = false;
     bool fullScreen = false;

@@ -1,0 +1,170 @@
+// Where Finder's windows are: stacking, frames, full screen, and the mouse that moves them.
+#include <algorithm>
+#include <cmath>
+
+#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
+#include "desk/finder/FinderAccessibility.h"
+
+namespace desk {
+
+using platform::CGRect;
+using platform::NSWindowOrderingMode;
+
+namespace {
+
+// The screen that shows most of the rectangle, the earliest of equals.
+std::optional<CGRect> bestScreen(const std::vector<platform::NSScreen>& screens, const CGRect& rect) {
+    const platform::NSScreen* best = nullptr;
+    double bestArea = -1;
+    for (const platform::NSScreen& screen : screens) {
+        const CGRect shared = platform::CGRectIntersection(screen.frame, rect);
+        const double area = platform::CGRectIsNull(shared) ? 0 : shared.width() * shared.height();
+        if (area > bestArea) {
+            bestArea = area;
+            best = &screen;
+        }
+    }
+    return best == nullptr ? std::nullopt : std::optional(best->frame);
+}
+
+}  // namespace
+
+bool Finder::isFrontmost() const {
+    const Process* frontmost = machine.processes.frontmost();
+    return frontmost != nullptr && frontmost->processIdentifier == processIdentifier;
+}
+
+bool Finder::raise(std::int64_t number) {
+    if (entry(number) == nullptr) return false;
+    bringForward(number);
+    mainWindowMayHaveChanged();
+    return true;
+}
+
+void Finder::bringForward(std::int64_t number) {
+    if (isFrontmost()) {
+        machine.windows.raise(number);
+        return;
+    }
+    for (const ServerWindow* shown : machine.windows.onScreen()) {
+        if (shown->owner != processIdentifier) continue;
+        if (shown->number == number) return;
+        break;
+    }
+    const int space = machine.windows.find(number)->space;
+    placeAmongOthers(number);
+    machine.windows.setSpace(number, space);
+}
+
+// Finder isn't frontmost: in front of its other windows, or behind those of whoever is.
+void Finder::placeAmongOthers(std::int64_t number) {
+    const Process* frontmost = machine.processes.frontmost();
+    const ServerWindow* ownFront = nullptr;
+    const ServerWindow* othersBack = nullptr;
+    for (const ServerWindow* shown : machine.windows.onScreen()) {
+        if (shown->number == number || shown->level != 0) continue;
+        if (shown->owner == processIdentifier && ownFront == nullptr) ownFront = shown;
+        if (frontmost != nullptr && shown->owner == frontmost->processIdentifier) othersBack = shown;
+    }
+    if (ownFront != nullptr) {
+        machine.windows.order(number, NSWindowOrderingMode::above, ownFront->number);
+    } else if (othersBack != nullptr) {
+        machine.windows.order(number, NSWindowOrderingMode::below, othersBack->number);
+    } else {
+        machine.windows.order(number, NSWindowOrderingMode::above, 0);
+    }
+}
+
+bool Finder::setFrame(std::int64_t number, const CGRect& frame) {
+    const FinderWindow* window = entry(number);
+    const bool isUsable = std::isfinite(frame.origin.x) && std::isfinite(frame.origin.y) &&
+                          std::isfinite(frame.size.width) && std::isfinite(frame.size.height);
+    if (window == nullptr || window->fullScreen || !isUsable) return false;
+    moveTo(number, {frame.origin, {std::max(frame.size.width, 0.0), std::max(frame.size.height, 0.0)}});
+    return true;
+}
+
+void Finder::moveTo(std::int64_t number, const CGRect& frame) {
+    const CGRect before = machine.windows.find(number)->frame;
+    machine.windows.setFrame(number, frame);
+    // Accessibility places a window by its top left corner.
+    if (before.minX() != frame.minX() || before.maxY() != frame.maxY()) tree->post(number, "AXMoved");
+    if (before.size != frame.size) tree->post(number, "AXResized");
+}
+
+bool Finder::setFullScreen(std::int64_t number, bool fullScreen) {
+    FinderWindow* window = folderWindow(number);
+    if (window == nullptr) return false;
+    if (window->fullScreen == fullScreen) return true;
+    if (fullScreen) return enterFullScreen(*window);
+    leaveFullScreen(*window);
+    mainWindowMayHaveChanged();
+    return true;
+}
+
+bool Finder::enterFullScreen(FinderWindow& window) {
+    const auto screen = bestScreen(machine.displays.screens(), machine.windows.find(window.number)->frame);
+    if (!screen) return false;
+    setMinimized(window, false);
+    const ServerWindow* shown = machine.windows.find(window.number);
+    window.frameBeforeFullScreen = shown->frame;
+    window.spaceBeforeFullScreen = shown->space;
+    window.fullScreen = true;
+    const int ownSpace = machine.windows.makeSpace();
+    machine.windows.setSpace(window.number, ownSpace);
+    moveTo(window.number, *screen);
+    machine.switchToSpace(ownSpace);
+    mainWindowMayHaveChanged();
+    return true;
+}
+
+void Finder::leaveFullScreen(FinderWindow& window) {
+    const int ownSpace = machine.windows.find(window.number)->space;
+    window.fullScreen = false;
+    machine.windows.setSpace(window.number, window.spaceBeforeFullScreen);
+    moveTo(window.number, window.frameBeforeFullScreen);
+    if (machine.windows.currentSpace() == ownSpace) machine.switchToSpace(window.spaceBeforeFullScreen);
+}
+
+void Finder::refitFullScreenWindows() {
+    for (const FinderWindow& window : list) {
+        if (!window.fullScreen) continue;
+        if (const auto screen = bestScreen(machine.displays.screens(), machine.windows.find(window.number)->frame))
+            moveTo(window.number, *screen);
+    }
+}
+
+void Finder::mouseDown(std::int64_t number, const platform::CGPoint& point) {
+    drag.reset();
+    const FinderWindow* window = entry(number);
+    if (window == nullptr) return;
+    // Raised before the activation too, so that this is the window which the activation finds in front.
+    machine.windows.raise(number);
+    if (!isFrontmost()) {
+        machine.activate(processIdentifier, false);
+        machine.windows.raise(number);
+    }
+    mainWindowMayHaveChanged();
+    const ServerWindow* shown = machine.windows.find(number);
+    window = entry(number);
+    if (shown == nullptr || window == nullptr || window->fullScreen) return;
+    const CGRect& frame = shown->frame;
+    const CGRect titleBar{{frame.minX(), frame.maxY() - finderTitleBarHeight}, {frame.width(), finderTitleBarHeight}};
+    if (platform::CGRectContainsPoint(titleBar, point))
+        drag = Drag{number, {frame.origin.x - point.x, frame.origin.y - point.y}};
+}
+
+void Finder::mouseDragged(const platform::CGPoint& point) {
+    if (!drag) return;
+    const ServerWindow* shown = machine.windows.find(drag->window);
+    const platform::CGPoint origin{point.x + drag->grip.x, point.y + drag->grip.y};
+    if (shown == nullptr || !setFrame(drag->window, {origin, shown->frame.size})) drag.reset();
+}
+
+void Finder::mouseUp(const platform::CGPoint& point) {
+    mouseDragged(point);
+    drag.reset();
+}
+
+}  // namespace desk

@@ -1,0 +1,138 @@
+#include "desk/finder/FinderScriptHost.h"
+
+#include <cmath>
+
+#include "desk/Machine.h"
+#include "desk/shell/Shell.h"
+#include "platform/FileURL.h"
+
+namespace desk {
+
+using applescript::ScriptPathKind;
+using applescript::ScriptWindow;
+
+namespace {
+
+constexpr const char* editor = "/Applications/TextEdit.app";
+
+applescript::ScriptError finderError(std::int64_t number, const std::string& sentence) {
+    return {number, "Finder got an error: " + sentence};
+}
+
+applescript::ScriptError noSuchWindow(std::int64_t identifier) {
+    return finderError(-1728, "Can’t get Finder window id " + std::to_string(identifier) + ".");
+}
+
+std::int64_t whole(double value) {
+    return static_cast<std::int64_t>(std::llround(std::fmax(-1e9, std::fmin(value, 1e9))));
+}
+
+}  // namespace
+
+std::optional<applescript::ScriptError> FinderScriptHost::refusal() {
+    if (sender.isGone()) return ScriptError{-609, "Connection is invalid."};
+    if (!machine.finder.isRunning()) return ScriptError::finderNotRunning();
+    const bool answered =
+        machine.permissions.automation != AutomationPermission::ask || sender.waitForAutomationAnswer();
+    if (!answered || machine.permissions.automation != AutomationPermission::allowed)
+        return ScriptError::finderNotAuthorized();
+    // It may have quit while the prompt was up.
+    if (!machine.finder.isRunning()) return ScriptError::finderNotRunning();
+    return std::nullopt;
+}
+
+std::vector<std::int64_t> FinderScriptHost::windowIdentifiers() {
+    std::vector<std::int64_t> identifiers;
+    for (const FinderWindow* window : machine.finder.windows())
+        if (window->kind == FinderWindowKind::folder) identifiers.push_back(window->number);
+    return identifiers;
+}
+
+std::optional<ScriptWindow> FinderScriptHost::window(std::int64_t identifier) {
+    const FinderWindow* window = machine.finder.find(identifier);
+    const ServerWindow* shown = machine.windows.find(identifier);
+    if (window == nullptr || shown == nullptr || window->kind != FinderWindowKind::folder) return std::nullopt;
+    const platform::CGRect bounds = machine.displays.topLeftRect(shown->frame);
+    return ScriptWindow{window->name,
+                        window->target,
+                        {whole(bounds.minX()), whole(bounds.minY()), whole(bounds.maxX()), whole(bounds.maxY())}};
+}
+
+std::vector<std::string> FinderScriptHost::selection() {
+    const std::vector<std::int64_t> identifiers = windowIdentifiers();
+    return identifiers.empty() ? std::vector<std::string>() : machine.finder.find(identifiers.front())->selection;
+}
+
+void FinderScriptHost::activate() {
+    machine.activate(machine.finder.pid(), true);
+}
+
+std::variant<std::int64_t, applescript::ScriptError> FinderScriptHost::openWindow(
+    const std::optional<std::string>& path) {
+    const auto number = machine.finder.open(path.value_or(machine.disk.home()));
+    if (!number) return finderError(-10000, "AppleEvent handler failed.");
+    return *number;
+}
+
+std::optional<applescript::ScriptError> FinderScriptHost::closeWindow(std::int64_t identifier) {
+    if (machine.finder.close(identifier)) return std::nullopt;
+    return noSuchWindow(identifier);
+}
+
+std::optional<applescript::ScriptError> FinderScriptHost::setTarget(std::int64_t identifier, const std::string& path) {
+    if (machine.finder.find(identifier) == nullptr) return noSuchWindow(identifier);
+    if (machine.finder.go(identifier, path)) return std::nullopt;
+    return finderError(-10006, "Can’t set target of Finder window id " + std::to_string(identifier) +
+                                   " to POSIX file \"" + path + "\".");
+}
+
+// Items are revealed in the front window, which goes to their folder if it shows another.
+std::optional<applescript::ScriptError> FinderScriptHost::select(const std::vector<std::string>& paths) {
+    const std::vector<std::int64_t> identifiers = windowIdentifiers();
+    if (paths.empty()) {
+        if (!identifiers.empty()) machine.finder.select(identifiers.front(), {});
+        return std::nullopt;
+    }
+    const std::string folder = platform::deletingLastPathComponent(paths.front());
+    const auto number = identifiers.empty() ? machine.finder.open(folder) : std::optional(identifiers.front());
+    const FinderWindow* window = number ? machine.finder.find(*number) : nullptr;
+    const bool isThere = window != nullptr && (window->target == folder || machine.finder.go(*number, folder));
+    if (isThere && machine.finder.select(*number, paths)) return std::nullopt;
+    return finderError(-1728, "Can’t get POSIX file \"" + paths.front() + "\".");
+}
+
+std::optional<applescript::ScriptError> FinderScriptHost::open(const std::string& path) {
+    const auto kind = machine.disk.kind(path);
+    if (kind == platform::FileKind::file) {
+        machine.opened.push_back({editor, {path}});
+        return std::nullopt;
+    }
+    if (kind && machine.finder.open(path)) return std::nullopt;
+    return finderError(-1728, "Can’t get POSIX file \"" + path + "\".");
+}
+
+ScriptPathKind FinderScriptHost::pathKind(const std::string& path) {
+    const auto kind = machine.disk.kind(path);
+    if (!kind) return ScriptPathKind::missing;
+    return *kind == platform::FileKind::directory ? ScriptPathKind::folder : ScriptPathKind::file;
+}
+
+std::string FinderScriptHost::homePath() {
+    return machine.disk.home();
+}
+
+void FinderScriptHost::delay(double seconds) {
+    sender.wait(platform::seconds(seconds));
+}
+
+std::variant<std::string, applescript::ScriptError> FinderScriptHost::doShellScript(
+    const std::string& command, bool /*withAdministratorPrivileges*/) {
+    const auto sleep = [this](platform::Duration duration) { sender.wait(duration); };
+    ShellResult result = Shell(machine.disk, sleep).run(command);
+    if (result.status == 0) return std::move(result.output);
+    while (!result.errors.empty() && result.errors.back() == '\n') result.errors.pop_back();
+    if (result.errors.empty()) result.errors = "The command exited with a non-zero status.";
+    return ScriptError{result.status, std::move(result.errors)};
+}
+
+}  // namespace desk

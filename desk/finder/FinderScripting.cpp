@@ -1,0 +1,83 @@
+#include "desk/finder/FinderScripting.h"
+
+#include <utility>
+
+#include "desk/Application.h"
+#include "desk/Machine.h"
+#include "desk/applescript/AppleScript.h"
+#include "desk/finder/FinderScriptHost.h"
+#include "desk/finder/ScriptSender.h"
+
+namespace desk {
+
+using applescript::ScriptError;
+using applescript::ScriptResult;
+using platform::NSAppleScriptResult;
+
+namespace {
+
+constexpr std::size_t scriptsKept = 20;
+constexpr std::int64_t handlerFailed = -10000;
+
+NSAppleScriptResult failed(const ScriptError& error) {
+    platform::Dictionary dictionary{{platform::NSAppleScriptErrorNumber, error.number}};
+    if (error.message) dictionary.emplace(platform::NSAppleScriptErrorMessage, *error.message);
+    return {std::nullopt, std::move(dictionary)};
+}
+
+}  // namespace
+
+// Holds the compiled script from its first run on.
+class FinderScripting::Script final : public platform::NSAppleScript {
+public:
+    Script(Machine& theMachine, Application& theApplication, std::string theSource)
+        : machine(theMachine), application(theApplication), source(std::move(theSource)) {}
+
+    NSAppleScriptResult executeAndReturnError() override {
+        ScriptSender sender(machine, application);
+        if (sender.isGone()) return failed({-609, "Connection is invalid."});
+        ScriptError compilation;
+        if (!compiled) compiled = applescript::compile(source, &compilation);
+        if (!compiled) return failed(compilation);
+
+        const platform::Duration latency = machine.faults.scriptLatency;
+        const std::uint64_t place = machine.scripting.record(source);
+        const ScriptResult result = evaluate(sender);
+        machine.scripting.recordError(place, result.error ? result.error->message.value_or("") : "");
+        if (!sender.wait(latency)) return failed({-609, "Connection is invalid."});
+        return result.error ? failed(*result.error) : NSAppleScriptResult{result.stringValue, std::nullopt};
+    }
+
+private:
+    ScriptResult evaluate(ScriptSender& sender) {
+        FinderScriptHost host(machine, sender);
+        const Faults& faults = machine.faults;
+        if (!faults.scriptError && !faults.scriptAnswer) return applescript::run(*compiled, host);
+        if (auto refusal = host.refusal()) return {std::nullopt, std::move(refusal)};
+        if (faults.scriptError) return {std::nullopt, ScriptError{handlerFailed, faults.scriptError}};
+        return {faults.scriptAnswer, std::nullopt};
+    }
+
+    Machine& machine;
+    Application& application;
+    const std::string source;
+    std::unique_ptr<applescript::CompiledScript> compiled;
+};
+
+std::unique_ptr<platform::NSAppleScript> FinderScripting::makeScript(Application& sender, const std::string& source) {
+    return std::make_unique<Script>(machine, sender, source);
+}
+
+std::uint64_t FinderScripting::record(const std::string& source) {
+    machine.sentScripts.push_back({source, ""});
+    if (machine.sentScripts.size() > scriptsKept) machine.sentScripts.pop_front();
+    return ++sent;
+}
+
+void FinderScripting::recordError(std::uint64_t place, const std::string& error) {
+    const std::uint64_t fromTheEnd = sent - place;
+    if (fromTheEnd < machine.sentScripts.size())
+        machine.sentScripts[machine.sentScripts.size() - 1 - fromTheEnd].error = error;
+}
+
+}  // namespace desk

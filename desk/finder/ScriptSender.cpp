@@ -1,0 +1,56 @@
+#include "desk/finder/ScriptSender.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include "desk/Application.h"
+#include "desk/Machine.h"
+#include "desk/time/WorkerQueue.h"
+
+namespace desk {
+
+namespace {
+
+// As good as for ever, and far from where times overflow.
+constexpr platform::Duration longestWait = std::chrono::hours(24 * 365);
+
+}  // namespace
+
+bool ScriptSender::isGone() const {
+    return gone || application.isDead();
+}
+
+bool ScriptSender::wait(platform::Duration duration) {
+    if (isGone()) return false;
+    if (duration <= platform::Duration(0)) return true;
+    duration = std::min(duration, longestWait);
+    if (WorkerQueue* queue = WorkerQueue::current()) {
+        gone = !queue->waitFor(duration);
+    } else {
+        application.loop().blockFor(duration);
+    }
+    return !isGone();
+}
+
+bool ScriptSender::waitForAutomationAnswer() {
+    Permissions& permissions = machine.permissions;
+    ++machine.scripting.promptWaiters;
+    permissions.automationPromptIsUp = true;
+    const bool answered = parkUntilAnswered();
+    if (--machine.scripting.promptWaiters == 0) permissions.automationPromptIsUp = false;
+    return answered;
+}
+
+bool ScriptSender::parkUntilAnswered() {
+    const Permissions& permissions = machine.permissions;
+    const auto isAnswered = [&] { return permissions.automation != AutomationPermission::ask; };
+    WorkerQueue* queue = WorkerQueue::current();
+    if (queue == nullptr) return application.loop().blockUntil(isAnswered) && !isGone();
+    const platform::Token token = machine.permissions.changed.subscribe([&isAnswered, queue] {
+        if (isAnswered()) queue->resume();
+    });
+    while (!isGone() && !isAnswered()) gone = !queue->waitForResume();
+    return !isGone();
+}
+
+}  // namespace desk
