@@ -168,7 +168,8 @@ void ApplicationLoop::forgetWindow(const platform::NSWindow* window) {
 }
 
 bool ApplicationLoop::turn() {
-    if (nextDue() > scheduler.now()) return false;
+    const platform::Date due = nextDue();
+    if (due > scheduler.now() || due == platform::Date::distantFuture()) return false;
     const Raised running(turns);
     runReady();
     if (!dead) runEndOfTurn();
