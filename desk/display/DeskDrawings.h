@@ -1,0 +1,35 @@
+// Draws what of the desktop is no window: menu bar, Dock, alerts; and the plain windows of other processes.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "desk/AlertLayout.h"
+#include "desk/Permissions.h"
+#include "desk/display/DrawingBuilder.h"
+#include "desk/display/WindowChrome.h"
+#include "platform/Geometry.h"
+
+namespace desk {
+
+struct MenuBarContent {
+    std::string application;
+    std::vector<std::string> menus;
+    std::string clock;
+};
+
+struct DockItem {
+    std::string name;
+    bool isRunning = false;
+};
+
+void drawMenuBar(DrawingBuilder& builder, platform::CGSize size, const MenuBarContent& content);
+// In the middle of the strip of that size at the bottom of the screen.
+void drawDock(DrawingBuilder& builder, platform::CGSize size, const std::vector<DockItem>& items);
+// The alert's own rectangle at (0, 0); places its buttons as the layout says.
+void drawAlert(DrawingBuilder& builder, const SystemAlert& alert, const AlertLayout& layout);
+void drawOtherWindow(DrawingBuilder& builder, platform::CGSize size, std::string_view title,
+                     std::string_view bundleIdentifier, WindowLook look);
+
+}  // namespace desk

@@ -1,0 +1,29 @@
+// What all of the desk's titled windows have in common: background, title bar with its three buttons, edge. The corners are left square: the
+// compositor rounds them by windowCornerRadius.
+#pragma once
+
+#include <string_view>
+
+#include "desk/display/DrawingBuilder.h"
+#include "platform/Geometry.h"
+
+namespace desk {
+
+inline constexpr double windowTitleBarHeight = 28;
+inline constexpr double windowCornerRadius = 10;
+
+enum class WindowLook { active, inactive };
+
+// Where the title bar's own content may begin.
+inline constexpr double trafficLightsWidth = 78;
+
+void drawTrafficLights(DrawingBuilder& builder, WindowLook look);
+// Background, title bar with a centred title, buttons.
+void drawPlainWindow(DrawingBuilder& builder, platform::CGSize size, std::string_view title, WindowLook look);
+// The last thing drawn of a window.
+void drawWindowEdge(DrawingBuilder& builder, platform::CGSize size);
+
+platform::Color titleColor(WindowLook look);
+platform::Color titleBarColor(const DrawingBuilder& builder, WindowLook look);
+
+}  // namespace desk
