@@ -21,6 +21,8 @@ public:
     using Handler = std::function<void(Arguments...)>;
 
     Token subscribe(Handler handler) {
+        // Here too: what is rarely delivered would otherwise keep the entries of everything that ever came and went.
+        sweep();
         auto entry = std::make_shared<Entry>(Entry{std::move(handler), true});
         auto changed = std::make_shared<List>(*entries);
         changed->push_back(entry);
