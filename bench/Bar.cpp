@@ -1,0 +1,93 @@
+// A bar taking another path, and a bar being made: evaluation, crumbs, fitting and layout, without painting.
+#include <benchmark/benchmark.h>
+
+#include "pathbar/BreadcrumbModel.h"
+#include "pathbar/PathBarView.h"
+#include "tests/kit/ViewPlatform.h"
+
+namespace {
+
+using namespace brindle;
+
+struct Model : platform::ObservableObject {
+    platform::Published<FinderWindowState> windowState{*this, {}};
+    platform::Published<bool> isEditing{*this, false};
+    platform::Published<std::string> inputText{*this, ""};
+    platform::Published<std::optional<std::string>> errorMessage{*this, std::nullopt};
+};
+
+struct Root {
+    platform::Platform* platform;
+    views::ObservedObject<Model> model;
+
+    void connect(views::Context& context) { context.connect(model); }
+    views::View body() const {
+        PathBarView bar(*platform, model->windowState.get(), views::Binding<bool>::to(model->isEditing),
+                        views::Binding<std::string>::to(model->inputText),
+                        views::Binding<std::optional<std::string>>::to(model->errorMessage));
+        const auto nothing = [this] { benchmark::DoNotOptimize(platform); };
+        bar.beginEditing = bar.commitPath = bar.cancelEditing = nothing;
+        bar.copyFullPath = bar.copyFolderName = bar.openInTerminal = bar.openInNewWindow = bar.openInVSCode = nothing;
+        bar.openPath = [this](const std::string&) { benchmark::DoNotOptimize(platform); };
+        return views::Group(std::move(bar)).frame({.maxWidth = views::infinity, .maxHeight = views::infinity});
+    }
+};
+
+FinderWindowState window(std::string path) {
+    FinderWindowState state;
+    state.id = "finder-101";
+    state.windowNumber = 101;
+    state.path = std::move(path);
+    state.displayName = "Reports";
+    return state;
+}
+
+const char* const paths[] = {"/Users/ana/Documents/Projects/Brindle/Reports/",
+                             "/Users/ana/Pictures/Holidays/Summer/Originals/"};
+
+void Bar_Navigate(benchmark::State& state) {
+    kit::ViewPlatform machine;
+    Model model;
+    model.windowState.set(window(paths[0]));
+    views::NSHostingView<Root> host(machine.platform, Root{&machine.platform, views::ObservedObject<Model>(model)},
+                                    views::HostRole::bar);
+    host.setSize({static_cast<double>(state.range(0)), 44});
+    machine.endTurn();
+    const FinderWindowState states[] = {window(paths[0]), window(paths[1])};
+    std::size_t next = 0;
+    for (auto _ : state) {
+        next = 1 - next;
+        model.windowState.set(states[next]);
+        machine.endTurn();
+    }
+    state.counters["items"] = static_cast<double>(host.layout().items.size());
+}
+BENCHMARK(Bar_Navigate)->Arg(400)->Arg(1200)->Arg(2400);
+
+void Bar_Construct(benchmark::State& state) {
+    kit::ViewPlatform machine;
+    Model model;
+    model.windowState.set(window(paths[0]));
+    for (auto _ : state) {
+        views::NSHostingView<Root> host(machine.platform, Root{&machine.platform, views::ObservedObject<Model>(model)},
+                                        views::HostRole::bar);
+        host.setSize({1200, 44});
+        machine.endTurn();
+        benchmark::DoNotOptimize(host.layout().items.data());
+    }
+}
+BENCHMARK(Bar_Construct);
+
+void CrumbsAndFitting(benchmark::State& state) {
+    kit::FixedText text;
+    std::string path;
+    for (std::int64_t level = 0; level < state.range(0); ++level) path += "/Folder " + std::to_string(level);
+    const FinderWindowState shown = window(path);
+    for (auto _ : state) {
+        const auto items = breadcrumbItems(shown);
+        benchmark::DoNotOptimize(visibleItems(text, items, 600));
+    }
+}
+BENCHMARK(CrumbsAndFitting)->Arg(5)->Arg(50)->Arg(200);
+
+}  // namespace
