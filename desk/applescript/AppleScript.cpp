@@ -35,7 +35,7 @@ CompiledScript::~CompiledScript() = default;
 std::unique_ptr<CompiledScript> compile(std::string_view source, ScriptError* error) {
     try {
         if (source.size() > longestSource) {
-            fail(-108, "Out of memory.");
+            fail(ErrorNumber::outOfMemory, "Out of memory.");
         }
         Parser parser(Lexer(source).tokenize());
         return std::make_unique<CompiledScript>(std::make_unique<const Program>(parser.parse()));

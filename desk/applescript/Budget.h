@@ -14,7 +14,7 @@ public:
     void charge(std::int64_t steps) {
         stepsLeft -= steps;
         if (stepsLeft < 0) {
-            throw Failure{{-1712, "The script was stopped because it ran for too long."}, true};
+            throw Failure{{ErrorNumber::timedOut, "The script was stopped because it ran for too long."}, true};
         }
     }
 
@@ -23,7 +23,7 @@ public:
     public:
         explicit Level(Budget& owner) : budget(owner) {
             if (budget.depthLeft <= 0) {
-                fail(-2706, "Stack overflow.");
+                fail(ErrorNumber::stackOverflow, "Stack overflow.");
             }
             --budget.depthLeft;
         }

@@ -170,7 +170,8 @@ Value listOf(const Value& value) {
 }
 
 void failCoercion(const Value& value, ClassTerm wanted) {
-    fail(-1700, "Can’t make " + described(value) + " into type " + std::string(className(wanted)) + ".");
+    fail(ErrorNumber::badCoercion,
+         "Can’t make " + described(value) + " into type " + std::string(className(wanted)) + ".");
 }
 
 }  // namespace desk::applescript

@@ -20,7 +20,7 @@ struct Failure {
 }
 
 [[noreturn]] inline void failSyntax(const std::string& expected, const std::string& found) {
-    fail(-2741, "Expected " + expected + " but found " + found + ".");
+    fail(ErrorNumber::syntaxError, "Expected " + expected + " but found " + found + ".");
 }
 
 }  // namespace desk::applescript

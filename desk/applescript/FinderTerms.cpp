@@ -11,23 +11,18 @@ namespace desk::applescript {
 
 namespace {
 
-constexpr std::int64_t noSuchObject = -1728;
-constexpr std::int64_t fileNotFound = -43;
-constexpr std::int64_t handlerFailed = -10000;
-constexpr std::int64_t writeDenied = -10006;
-
 Value windowReference(std::int64_t identifier) {
     return Value::reference({Reference::Kind::window, "", false, identifier});
-}
-
-[[noreturn]] void failGetting(const Value& value) {
-    failInFinder(noSuchObject, "Can’t get " + described(value) + ".");
 }
 
 }  // namespace
 
 void failInFinder(std::int64_t number, const std::string& sentence) {
     fail(number, "Finder got an error: " + sentence);
+}
+
+void failToFind(const Value& value) {
+    failInFinder(ErrorNumber::noSuchObject, "Can’t get " + described(value) + ".");
 }
 
 Value FinderTerms::application() {
@@ -91,111 +86,6 @@ bool FinderTerms::exists(const Value& value) {
     return !reference->isOnDisk() || host.pathKind(reference->path) != ScriptPathKind::missing;
 }
 
-std::optional<Value> FinderTerms::property(const Reference& owner, PropertyTerm term) {
-    switch (owner.kind) {
-    case Reference::Kind::application:
-        return applicationProperty(term);
-    case Reference::Kind::window:
-        return windowProperty(owner, term);
-    case Reference::Kind::item:
-    case Reference::Kind::alias:
-    case Reference::Kind::posixFile:
-        return fileProperty(owner, term);
-    default:
-        return std::nullopt;
-    }
-}
-
-std::optional<Value> FinderTerms::applicationProperty(PropertyTerm term) {
-    if (term == PropertyTerm::running) {
-        const std::optional<ScriptError> refusal = host.refusal();
-        return Value::boolean(!refusal || refusal->number != ScriptError::finderNotRunning().number);
-    }
-    requireFinder();
-    switch (term) {
-    case PropertyTerm::name:
-        return Value::text("Finder");
-    case PropertyTerm::identifier:
-        return Value::text("com.apple.finder");
-    case PropertyTerm::home:
-        return file(Reference::Kind::item, host.homePath(), true);
-    case PropertyTerm::desktop:
-        return file(Reference::Kind::item, joinedPath(host.homePath(), "Desktop"), true);
-    case PropertyTerm::startupDisk:
-        return file(Reference::Kind::item, "/", true);
-    case PropertyTerm::selection: {
-        std::vector<Value> items;
-        for (const std::string& path : host.selection()) {
-            items.push_back(file(Reference::Kind::item, path));
-        }
-        return Value::list(std::move(items));
-    }
-    default:
-        return std::nullopt;
-    }
-}
-
-std::optional<Value> FinderTerms::windowProperty(const Reference& owner, PropertyTerm term) {
-    requireFinder();
-    ScriptWindow window = requiredWindow(owner);
-    switch (term) {
-    case PropertyTerm::identifier:
-        return Value::number(owner.windowIdentifier);
-    case PropertyTerm::name:
-    case PropertyTerm::displayedName:
-        return Value::text(std::move(window.name));
-    case PropertyTerm::target:
-        return window.path ? file(Reference::Kind::item, *window.path, true)
-                           : Value::reference({Reference::Kind::virtualTarget, "", false, owner.windowIdentifier});
-    case PropertyTerm::index: {
-        const std::vector<std::int64_t> order = host.windowIdentifiers();
-        return Value::number(std::find(order.begin(), order.end(), owner.windowIdentifier) - order.begin() + 1);
-    }
-    case PropertyTerm::bounds: {
-        std::vector<Value> edges;
-        for (const std::int64_t edge : window.bounds) {
-            edges.push_back(Value::number(edge));
-        }
-        return Value::list(std::move(edges));
-    }
-    default:
-        return std::nullopt;
-    }
-}
-
-std::optional<Value> FinderTerms::fileProperty(const Reference& owner, PropertyTerm term) {
-    if (term != PropertyTerm::name && term != PropertyTerm::displayedName && term != PropertyTerm::container) {
-        return std::nullopt;
-    }
-    requireFinder();
-    if (host.pathKind(owner.path) == ScriptPathKind::missing) {
-        failGetting(Value::reference(owner));
-    }
-    if (term != PropertyTerm::container) {
-        return Value::text(finderName(lastComponent(owner.path)));
-    }
-    return owner.path == "/" ? std::nullopt : std::optional(file(Reference::Kind::item, parentPath(owner.path), true));
-}
-
-bool FinderTerms::setProperty(const Reference& owner, PropertyTerm term, const Value& value) {
-    requireFinder();
-    if (owner.kind == Reference::Kind::application && term == PropertyTerm::selection) {
-        select(value);
-        return true;
-    }
-    if (owner.kind != Reference::Kind::window || term != PropertyTerm::target) {
-        return false;
-    }
-    requiredWindow(owner);
-    const std::optional<std::string> path = pathOf(value);
-    if (!path || host.pathKind(*path) != ScriptPathKind::folder) {
-        failInFinder(writeDenied,
-                     "Can’t set target of " + described(Value::reference(owner)) + " to " + described(value) + ".");
-    }
-    requireSuccess(host.setTarget(owner.windowIdentifier, *path));
-    return true;
-}
-
 void FinderTerms::activate() {
     requireFinder();
     host.activate();
@@ -207,7 +97,7 @@ Value FinderTerms::makeWindow(const std::optional<Value>& target) {
     if (target) {
         path = existingPath(*target);
         if (host.pathKind(*path) != ScriptPathKind::folder) {
-            failInFinder(handlerFailed, "AppleEvent handler failed.");
+            failInFinder(ErrorNumber::handlerFailed, "AppleEvent handler failed.");
         }
     }
     const std::variant<std::int64_t, ScriptError> opened = host.openWindow(path);
@@ -223,7 +113,7 @@ void FinderTerms::close(const Value& windows) {
     for (const Value& each : all.list()->items) {
         const Reference* reference = each.reference();
         if (reference == nullptr || reference->kind != Reference::Kind::window) {
-            failInFinder(-1708, described(each) + " doesn’t understand the “close” message.");
+            failInFinder(ErrorNumber::notUnderstood, described(each) + " doesn’t understand the “close” message.");
         }
         requiredWindow(*reference);
         requireSuccess(host.closeWindow(reference->windowIdentifier));
@@ -249,7 +139,7 @@ Value FinderTerms::alias(const Value& value) {
     }
     const Reference* reference = value.reference();
     if (reference != nullptr && reference->kind == Reference::Kind::virtualTarget) {
-        failInFinder(-1700, "Can’t make " + described(value) + " into type alias.");
+        failInFinder(ErrorNumber::badCoercion, "Can’t make " + described(value) + " into type alias.");
     }
     const bool isFile = reference != nullptr && reference->isOnDisk();
     const std::optional<std::string> path = isFile || value.is<Text>() ? pathOf(value) : std::nullopt;
@@ -258,7 +148,8 @@ Value FinderTerms::alias(const Value& value) {
     }
     const ScriptPathKind kind = host.pathKind(*path);
     if (kind == ScriptPathKind::missing) {
-        fail(fileNotFound, "File " + described(file(Reference::Kind::posixFile, *path)) + " wasn’t found.");
+        fail(ErrorNumber::fileNotFound,
+             "File " + described(file(Reference::Kind::posixFile, *path)) + " wasn’t found.");
     }
     return file(Reference::Kind::alias, *path, kind == ScriptPathKind::folder);
 }
@@ -300,7 +191,7 @@ void FinderTerms::requireSuccess(const std::optional<ScriptError>& error) {
 ScriptWindow FinderTerms::requiredWindow(const Reference& reference) {
     std::optional<ScriptWindow> window = host.window(reference.windowIdentifier);
     if (!window) {
-        failGetting(Value::reference(reference));
+        failToFind(Value::reference(reference));
     }
     return std::move(*window);
 }
@@ -325,7 +216,7 @@ std::optional<std::string> FinderTerms::pathOf(const Value& value) const {
 std::string FinderTerms::existingPath(const Value& value) {
     std::optional<std::string> path = pathOf(value);
     if (!path || host.pathKind(*path) == ScriptPathKind::missing) {
-        failGetting(value);
+        failToFind(value);
     }
     return std::move(*path);
 }

@@ -12,6 +12,7 @@ namespace desk::applescript {
 
 // Throws Failure with "Finder got an error: " before the sentence.
 [[noreturn]] void failInFinder(std::int64_t number, const std::string& sentence);
+[[noreturn]] void failToFind(const Value& value);
 
 // Every operation throws Failure when Finder can't be spoken to or refuses.
 class FinderTerms {

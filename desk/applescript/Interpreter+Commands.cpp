@@ -77,7 +77,7 @@ Value Interpreter::makeObject(const CommandCall& node) {
     const Value kind = evaluate(*node.direct);
     const ClassTerm* term = kind.as<ClassTerm>();
     if (term == nullptr || (*term != ClassTerm::finderWindow && *term != ClassTerm::window)) {
-        failInFinder(-2710, "Can’t make class " + described(kind) + ".");
+        failInFinder(ErrorNumber::classCannotBeMade, "Can’t make class " + described(kind) + ".");
     }
     std::optional<Value> shown;
     for (const std::string_view label : {"to", "at"}) {
@@ -98,7 +98,7 @@ Value Interpreter::count(const CommandCall& node) {
     chargeForText(counted.is<Text>() ? counted.as<Text>()->view().size() : 0);
     const std::optional<Value> length = languageProperty(PropertyTerm::length, counted);
     if (!length) {
-        fail(-1708, described(counted) + " doesn’t understand the “count” message.");
+        fail(ErrorNumber::notUnderstood, described(counted) + " doesn’t understand the “count” message.");
     }
     return *length;
 }
@@ -107,7 +107,8 @@ Value Interpreter::exists(const CommandCall& node) {
     try {
         return Value::boolean(finder.exists(evaluate(*node.direct)));
     } catch (const Failure& failure) {
-        constexpr std::array<std::int64_t, 3> absences{-1728, -1719, -43};
+        constexpr std::array<std::int64_t, 3> absences{ErrorNumber::noSuchObject, ErrorNumber::noSuchIndex,
+                                                       ErrorNumber::fileNotFound};
         if (std::find(absences.begin(), absences.end(), failure.error.number) == absences.end()) {
             throw;
         }
@@ -175,7 +176,7 @@ Value Interpreter::characterWithId(const CommandCall& node) {
         const std::optional<std::int64_t> number = integerOf(code);
         const std::optional<std::string> character = number ? characterWithCode(*number) : std::nullopt;
         if (!character) {
-            fail(-1728, "Can’t get character id " + described(code) + ".");
+            fail(ErrorNumber::noSuchObject, "Can’t get character id " + described(code) + ".");
         }
         text += *character;
     }

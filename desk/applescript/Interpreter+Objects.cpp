@@ -39,6 +39,56 @@ Value Interpreter::evaluate(const PropertyAccess& node) {
     return Value::list(std::move(values));
 }
 
+Value Interpreter::evaluate(const Coercion& node) {
+    Value value = evaluate(*node.operand);
+    std::optional<Value> coerced;
+    switch (node.wanted) {
+    case ClassTerm::text:
+        // What kind of item it is decides about the last colon.
+        if (value.reference() != nullptr && value.reference()->kind == Reference::Kind::item) {
+            value = finder.alias(value);
+        }
+        if (const std::optional<Text> text = textOf(value, delimiters.view())) {
+            coerced = Value(*text);
+        }
+        break;
+    case ClassTerm::integer:
+        if (const std::optional<std::int64_t> number = integerOf(value)) {
+            coerced = Value::number(*number);
+        }
+        break;
+    case ClassTerm::real:
+        coerced = numberOf(value);
+        coerced = coerced ? std::optional(Value(Value::Storage(coerced->real()))) : coerced;
+        break;
+    case ClassTerm::number:
+        coerced = numberOf(value);
+        break;
+    case ClassTerm::boolean:
+        if (const std::optional<bool> flag = booleanOf(value)) {
+            coerced = Value::boolean(*flag);
+        }
+        break;
+    case ClassTerm::list:
+        return listOf(value);
+    case ClassTerm::alias:
+        return finder.alias(value);
+    case ClassTerm::aliasList:
+        return finder.aliasList(value);
+    case ClassTerm::posixFile: {
+        const Value found = finder.alias(value);
+        return FinderTerms::file(Reference::Kind::posixFile, found.reference()->path, found.reference()->isFolder);
+    }
+    default:
+        coerced = value.classTerm() == node.wanted ? std::optional(value) : std::nullopt;
+        break;
+    }
+    if (!coerced) {
+        failCoercion(value, node.wanted);
+    }
+    return *coerced;
+}
+
 Value Interpreter::propertyOf(const Value& owner, const PropertyAccess& node) {
     chargeForText(owner.is<Text>() ? owner.as<Text>()->view().size() : 0);
     if (owner.record() != nullptr) {
@@ -67,9 +117,9 @@ Value Interpreter::propertyOf(const Value& owner, const PropertyAccess& node) {
     const bool isFinders = reference != nullptr && reference->kind != Reference::Kind::script &&
                            reference->kind != Reference::Kind::appleScript;
     if (isFinders) {
-        failInFinder(-1728, sentence);
+        failInFinder(ErrorNumber::noSuchObject, sentence);
     }
-    fail(-1728, sentence);
+    fail(ErrorNumber::noSuchObject, sentence);
 }
 
 std::optional<Value> Interpreter::scriptProperty(const Reference& owner, const PropertyAccess& node) {
@@ -211,9 +261,9 @@ void Interpreter::failGetting(const ElementAccess& node, const std::string& whic
     const bool isOfApplication = owner != nullptr && owner->kind == Reference::Kind::application;
     sentence += isOfApplication ? "." : " of " + described(container) + ".";
     if (isOfFinder(node, container)) {
-        failInFinder(-1728, sentence);
+        failInFinder(ErrorNumber::noSuchObject, sentence);
     }
-    fail(-1728, sentence);
+    fail(ErrorNumber::noSuchObject, sentence);
 }
 
 }  // namespace desk::applescript

@@ -26,7 +26,7 @@ Interpreter::Flow Interpreter::execute(const ExpressionStatement& statement) {
 Interpreter::Flow Interpreter::execute(const Assignment& statement) {
     Value value = evaluate(*statement.value);
     if (value.is<Nothing>()) {
-        fail(-2763, "No result was returned from some part of this expression.");
+        fail(ErrorNumber::noResult, "No result was returned from some part of this expression.");
     }
     // The former result would keep a second hold on a list that is changed in place.
     result = Value();
@@ -86,7 +86,7 @@ Interpreter::Flow Interpreter::execute(const RepeatRange& statement) {
     const std::int64_t to = evaluateInteger(*statement.to);
     const std::int64_t by = statement.by == nullptr ? 1 : evaluateInteger(*statement.by);
     if (by == 0) {
-        fail(-1700, "Can’t repeat by 0.");
+        fail(ErrorNumber::badCoercion, "Can’t repeat by 0.");
     }
     std::int64_t index = from;
     while (by > 0 ? index <= to : index >= to) {
@@ -142,8 +142,8 @@ Interpreter::Flow Interpreter::execute(const TryBlock& statement) {
 }
 
 Interpreter::Flow Interpreter::execute(const RaiseError& statement) {
-    constexpr std::int64_t unspecified = -2700;
-    const std::int64_t number = statement.number == nullptr ? unspecified : evaluateInteger(*statement.number);
+    const std::int64_t number =
+        statement.number == nullptr ? ErrorNumber::unspecified : evaluateInteger(*statement.number);
     std::string message = "An error of type " + std::to_string(number) + " has occurred.";
     if (statement.message != nullptr) {
         message = requiredText(evaluate(*statement.message)).string();
@@ -185,7 +185,8 @@ void Interpreter::assign(const Expression& target, const Value& value) {
 void Interpreter::assignEach(const ListLiteral& targetList, const Value& value) {
     for (std::size_t index = 0; index < targetList.items.size(); ++index) {
         if (value.list() == nullptr || index >= value.list()->items.size()) {
-            fail(-1728, "Can’t get item " + std::to_string(index + 1) + " of " + described(value) + ".");
+            fail(ErrorNumber::noSuchObject,
+                 "Can’t get item " + std::to_string(index + 1) + " of " + described(value) + ".");
         }
         assign(*targetList.items[index], value.list()->items[index]);
     }
@@ -219,20 +220,21 @@ void Interpreter::assignProperty(const PropertyAccess& target, const Value& valu
         return;
     }
     if (reference == nullptr || !target.term || !finder.setProperty(*reference, *target.term, value)) {
-        fail(-10006, "Can’t set " + target.name + " of " + described(owner) + " to " + described(value) + ".");
+        fail(ErrorNumber::writeDenied,
+             "Can’t set " + target.name + " of " + described(owner) + " to " + described(value) + ".");
     }
 }
 
 void Interpreter::assignElement(const ElementAccess& target, const Value& value) {
     const std::string what = std::string(className(target.elements));
     if (target.elements != ClassTerm::item || target.selector != Selector::byIndexOrName) {
-        fail(-10006, "Can’t set " + what + " to " + described(value) + ".");
+        fail(ErrorNumber::writeDenied, "Can’t set " + what + " to " + described(value) + ".");
     }
     const std::int64_t number = evaluateInteger(*target.first);
     Value& list = changeable(target.container, value, what);
     const auto index = list.list() == nullptr ? std::nullopt : elementIndex(number, list.list()->items.size());
     if (!index) {
-        fail(-1728, "Can’t get item " + std::to_string(number) + " of " + described(list) + ".");
+        fail(ErrorNumber::noSuchObject, "Can’t get item " + std::to_string(number) + " of " + described(list) + ".");
     }
     list.replaceItem(*index, value);
 }
@@ -240,7 +242,7 @@ void Interpreter::assignElement(const ElementAccess& target, const Value& value)
 Value& Interpreter::changeable(const ExpressionPtr& container, const Value& value, const std::string& what) {
     const Variable* variable = container == nullptr ? nullptr : std::get_if<Variable>(&container->node);
     if (variable == nullptr) {
-        fail(-10006, "Can’t set " + what + " to " + described(value) + ".");
+        fail(ErrorNumber::writeDenied, "Can’t set " + what + " to " + described(value) + ".");
     }
     return place(variable->slot);
 }

@@ -72,7 +72,8 @@ Value Interpreter::evaluate(const Expression& expression) {
 Value Interpreter::evaluate(const Variable& node) {
     const Value& value = place(node.slot);
     if (value.is<Nothing>()) {
-        fail(-2753, "The variable " + frame->handler.writtenNames[node.slot] + " is not defined.");
+        fail(ErrorNumber::undefinedVariable,
+             "The variable " + frame->handler.writtenNames[node.slot] + " is not defined.");
     }
     return value;
 }
@@ -172,56 +173,6 @@ Value Interpreter::concatenated(Value left, const Value& right) {
     return Value::list(std::move(items));
 }
 
-Value Interpreter::evaluate(const Coercion& node) {
-    Value value = evaluate(*node.operand);
-    std::optional<Value> coerced;
-    switch (node.wanted) {
-    case ClassTerm::text:
-        // What kind of item it is decides about the last colon.
-        if (value.reference() != nullptr && value.reference()->kind == Reference::Kind::item) {
-            value = finder.alias(value);
-        }
-        if (const std::optional<Text> text = textOf(value, delimiters.view())) {
-            coerced = Value(*text);
-        }
-        break;
-    case ClassTerm::integer:
-        if (const std::optional<std::int64_t> number = integerOf(value)) {
-            coerced = Value::number(*number);
-        }
-        break;
-    case ClassTerm::real:
-        coerced = numberOf(value);
-        coerced = coerced ? std::optional(Value(Value::Storage(coerced->real()))) : coerced;
-        break;
-    case ClassTerm::number:
-        coerced = numberOf(value);
-        break;
-    case ClassTerm::boolean:
-        if (const std::optional<bool> flag = booleanOf(value)) {
-            coerced = Value::boolean(*flag);
-        }
-        break;
-    case ClassTerm::list:
-        return listOf(value);
-    case ClassTerm::alias:
-        return finder.alias(value);
-    case ClassTerm::aliasList:
-        return finder.aliasList(value);
-    case ClassTerm::posixFile: {
-        const Value found = finder.alias(value);
-        return FinderTerms::file(Reference::Kind::posixFile, found.reference()->path, found.reference()->isFolder);
-    }
-    default:
-        coerced = value.classTerm() == node.wanted ? std::optional(value) : std::nullopt;
-        break;
-    }
-    if (!coerced) {
-        failCoercion(value, node.wanted);
-    }
-    return *coerced;
-}
-
 Value Interpreter::evaluate(const MeReference&) {
     return scriptReference();
 }
@@ -232,7 +183,7 @@ Value Interpreter::evaluate(const AppleScriptReference&) {
 
 Value Interpreter::evaluate(const ResultReference&) {
     if (result.is<Nothing>()) {
-        fail(-2753, "The variable result is not defined.");
+        fail(ErrorNumber::undefinedVariable, "The variable result is not defined.");
     }
     return result;
 }
@@ -241,7 +192,8 @@ Value Interpreter::evaluate(const ApplicationReference& node) {
     const Value name = evaluate(*node.name);
     const std::string wanted = node.isByIdentifier ? "com.apple.finder" : "finder";
     if (foldedCase(requiredText(name).view()) != wanted) {
-        fail(-1728, std::string("Can’t get application ") + (node.isByIdentifier ? "id " : "") + described(name) + ".");
+        fail(ErrorNumber::noSuchObject,
+             std::string("Can’t get application ") + (node.isByIdentifier ? "id " : "") + described(name) + ".");
     }
     return FinderTerms::application();
 }
@@ -251,13 +203,13 @@ Value Interpreter::evaluate(const HandlerCall& node) {
         node.isToMe || (target().reference() != nullptr && target().reference()->kind == Reference::Kind::script);
     const Handler* handler = program.handler(node.name);
     if (!goesToScript) {
-        failInFinder(-1708, "Can’t continue " + node.name + ".");
+        failInFinder(ErrorNumber::notUnderstood, "Can’t continue " + node.name + ".");
     }
     if (handler == nullptr) {
-        fail(-1708, "«script» doesn’t understand the “" + node.name + "” message.");
+        fail(ErrorNumber::notUnderstood, "«script» doesn’t understand the “" + node.name + "” message.");
     }
     if (node.arguments.size() != handler->parameters.size()) {
-        fail(-1721, "The parameters don’t match those of the handler “" + node.name + "”.");
+        fail(ErrorNumber::wrongParameters, "The parameters don’t match those of the handler “" + node.name + "”.");
     }
     std::vector<Value> arguments;
     for (const ExpressionPtr& argument : node.arguments) {

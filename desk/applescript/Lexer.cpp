@@ -206,7 +206,7 @@ void Lexer::readNumber() {
         }
     }
     if (isWordStart(peek())) {
-        fail(-2740, "A identifier can’t go after this number.");
+        fail(ErrorNumber::misplacedToken, "A identifier can’t go after this number.");
     }
     std::int64_t integer = 0;
     if (std::from_chars(text.data(), text.data() + text.size(), integer).ec == std::errc::result_out_of_range) {

@@ -22,7 +22,7 @@ Value requiredNumber(const Value& value) {
 }
 
 [[noreturn]] void failDivision(const Value& dividend) {
-    fail(-2701, "Can’t divide " + described(dividend) + " by zero.");
+    fail(ErrorNumber::divisionByZero, "Can’t divide " + described(dividend) + " by zero.");
 }
 
 std::optional<std::int64_t> integerResult(Operator operation, std::int64_t left, std::int64_t right) {
@@ -174,7 +174,7 @@ Value arithmetic(Operator operation, const Value& left, const Value& right) {
     }
     const double result = realResult(operation, first.real(), second.real());
     if (!std::isfinite(result)) {
-        fail(-2702, "The result of a numeric operation was too large.");
+        fail(ErrorNumber::numberTooLarge, "The result of a numeric operation was too large.");
     }
     return operation == Operator::integerDivide ? wholeOrReal(result) : Value(Value::Storage(result));
 }

@@ -1,6 +1,7 @@
 #include "desk/applescript/Parser.h"
 
 #include "desk/applescript/Failure.h"
+#include "desk/applescript/TextCase.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,7 +14,7 @@ constexpr int deepestNesting = 400;
 constexpr int deepestExpression = 200;
 
 [[noreturn]] void failTooDeep() {
-    fail(-2706, "Stack overflow.");
+    fail(ErrorNumber::stackOverflow, "Stack overflow.");
 }
 
 }  // namespace
@@ -140,14 +141,16 @@ bool Parser::isAtWord(std::string_view word, std::size_t ahead) const {
 }
 
 std::size_t Parser::wordsAhead(std::string_view term, std::size_t ahead) const {
+    // Most terms are ruled out by their first letter.
+    if (term.empty() || peek(ahead).folded.empty() || peek(ahead).folded.front() != foldedCase(term.front())) {
+        return 0;
+    }
     std::size_t count = 0;
     while (!term.empty()) {
         const std::size_t blank = std::min(term.find(' '), term.size());
         const Token& token = peek(ahead + count);
         const bool hasWords = token.kind == TokenKind::word || token.kind == TokenKind::symbol;
-        const auto isSameLetter = [](char left, char right) {
-            return left == (right >= 'A' && right <= 'Z' ? static_cast<char>(right - 'A' + 'a') : right);
-        };
+        const auto isSameLetter = [](char left, char right) { return left == foldedCase(right); };
         if (!hasWords || !std::equal(token.folded.begin(), token.folded.end(), term.begin(),
                                      term.begin() + static_cast<std::ptrdiff_t>(blank), isSameLetter)) {
             return 0;

@@ -16,7 +16,7 @@ class Parser {
 public:
     explicit Parser(std::vector<Token> scriptTokens) : tokens(std::move(scriptTokens)) {}
 
-    // Throws Failure with number -2741 or a neighbour of it.
+    // Throws Failure with ErrorNumber::syntaxError or a neighbour of it.
     Program parse();
 
 private:
@@ -67,19 +67,22 @@ private:
     ExpressionPtr parseWord();
     ExpressionPtr parseConstant();
     ExpressionPtr parseApplication();
-    ExpressionPtr parseOrdinal();
     ExpressionPtr parseTerm();
     const CommandWords* commandAhead() const;
     const ClassWords* classAhead(bool& isPlural) const;
     const PropertyWords* propertyAhead() const;
-    ExpressionPtr parseElement(const ClassWords& words, bool isPlural);
-    ExpressionPtr parseIndex(ExpressionPtr first, ClassTerm elements);
     ExpressionPtr parseCommand(const CommandWords& words);
     ExpressionPtr parseMake();
     ExpressionPtr parsePathTo();
     ExpressionPtr withParameters(CommandCall call);
     ExpressionPtr parseHandlerCall(bool isToMe);
     ExpressionPtr parseVariable();
+
+    // Elements (Parser+Elements.cpp)
+    bool isAtOrdinal() const;
+    ExpressionPtr parseOrdinal();
+    ExpressionPtr parseElement(const ClassWords& words, bool isPlural);
+    ExpressionPtr parseIndex(ExpressionPtr first, ClassTerm elements);
     bool beginsIndex(bool isPlural) const;
 
     // Tokens

@@ -2,6 +2,8 @@
 // answers when Finder refuses something. The numbers and sentences are those that macOS uses.
 #pragma once
 
+#include "desk/applescript/ErrorNumber.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -14,8 +16,12 @@ struct ScriptError {
 
     bool operator==(const ScriptError&) const = default;
 
-    static ScriptError finderNotRunning() { return {-600, "Finder got an error: Application isn’t running."}; }
-    static ScriptError finderNotAuthorized() { return {-1743, "Not authorized to send Apple events to Finder."}; }
+    static ScriptError finderNotRunning() {
+        return {ErrorNumber::applicationNotRunning, "Finder got an error: Application isn’t running."};
+    }
+    static ScriptError finderNotAuthorized() {
+        return {ErrorNumber::notAuthorized, "Not authorized to send Apple events to Finder."};
+    }
 };
 
 }  // namespace desk::applescript

@@ -33,7 +33,7 @@ public:
             return *this;
         }
         if (length + more.size() > greatestLength) {
-            fail(-108, "Out of memory.");
+            fail(ErrorNumber::outOfMemory, "Out of memory.");
         }
         Text result = *this;
         if (!growsInPlace()) {

@@ -18,7 +18,7 @@ void accountFor(const Value& value, int& depth, std::size_t& weight) {
     depth = std::max(depth, value.depth() + 1);
     weight += value.weight();
     if (depth > greatestDepth || weight > greatestWeight) {
-        fail(-108, "Out of memory.");
+        fail(ErrorNumber::outOfMemory, "Out of memory.");
     }
 }
 

@@ -16,7 +16,7 @@ struct FakeFinder : ScriptHost {
         ScriptWindow state;
     };
 
-    std::vector<Window> open_windows;
+    std::vector<Window> openWindows;
     std::vector<std::string> selected;
     std::set<std::string> folders{"/", "/Users", "/Users/ana", "/Users/ana/Desktop", "/Users/ana/Fotos"};
     std::set<std::string> files{"/Users/ana/note.txt", "/Users/ana/Desktop/todo.txt"};
@@ -25,32 +25,32 @@ struct FakeFinder : ScriptHost {
     std::vector<std::string> calls;
 
     void addWindow(std::int64_t identifier, std::string name, std::optional<std::string> path) {
-        open_windows.push_back({identifier, {std::move(name), std::move(path), {10, 20, 810, 620}}});
+        openWindows.push_back({identifier, {std::move(name), std::move(path), {10, 20, 810, 620}}});
     }
 
     std::optional<ScriptError> refusal() override { return refused; }
     std::vector<std::int64_t> windowIdentifiers() override {
         std::vector<std::int64_t> identifiers;
-        for (const Window& window : open_windows) {
+        for (const Window& window : openWindows) {
             identifiers.push_back(window.identifier);
         }
         return identifiers;
     }
     std::optional<ScriptWindow> window(std::int64_t identifier) override {
         const auto found = find(identifier);
-        return found == open_windows.end() ? std::nullopt : std::optional(found->state);
+        return found == openWindows.end() ? std::nullopt : std::optional(found->state);
     }
     std::vector<std::string> selection() override { return selected; }
     void activate() override { calls.push_back("activate"); }
     std::variant<std::int64_t, ScriptError> openWindow(const std::optional<std::string>& path) override {
         calls.push_back("open window " + path.value_or("?"));
-        const std::int64_t identifier = 101 + static_cast<std::int64_t>(open_windows.size());
-        open_windows.insert(open_windows.begin(), {identifier, {"new", path, {}}});
+        const std::int64_t identifier = 101 + static_cast<std::int64_t>(openWindows.size());
+        openWindows.insert(openWindows.begin(), {identifier, {"new", path, {}}});
         return identifier;
     }
     std::optional<ScriptError> closeWindow(std::int64_t identifier) override {
         calls.push_back("close " + std::to_string(identifier));
-        open_windows.erase(find(identifier));
+        openWindows.erase(find(identifier));
         return std::nullopt;
     }
     std::optional<ScriptError> setTarget(std::int64_t identifier, const std::string& path) override {
@@ -84,7 +84,7 @@ struct FakeFinder : ScriptHost {
 
 private:
     std::vector<Window>::iterator find(std::int64_t identifier) {
-        return std::find_if(open_windows.begin(), open_windows.end(),
+        return std::find_if(openWindows.begin(), openWindows.end(),
                             [&](const Window& window) { return window.identifier == identifier; });
     }
 };
