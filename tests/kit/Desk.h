@@ -69,12 +69,12 @@ public:
         release(point, button);
     }
     // Press, moves evenly spread over the seconds, release.
-    void drag(platform::CGPoint from, platform::CGPoint to, int steps = 10, double over = 0) {
+    void drag(platform::CGPoint from, platform::CGPoint to, int stepCount = 10, double over = 0) {
         then([this, from] { machine.input.mouseDown(from, desk::MouseButton::left); });
-        for (int step = 1; step <= steps; ++step) {
-            const double part = static_cast<double>(step) / steps;
+        for (int step = 1; step <= stepCount; ++step) {
+            const double part = static_cast<double>(step) / stepCount;
             const platform::CGPoint point{from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part};
-            then([this, over, steps] { run(over / steps); });
+            then([this, over, stepCount] { run(over / stepCount); });
             then([this, point] { machine.input.mouseDragged(point); });
         }
         release(to);
