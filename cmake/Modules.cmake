@@ -17,7 +17,7 @@ function(brindle_module NAME)
         return()
     endif()
 
-    set(include "${CMAKE_BINARY_DIR}/include/${NAME}")
+    set(include "${CMAKE_SOURCE_DIR}/build/include/${NAME}")
     file(MAKE_DIRECTORY "${include}")
     file(CREATE_LINK "${directory}" "${include}/${NAME}" SYMBOLIC)
 

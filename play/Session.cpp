@@ -7,7 +7,7 @@ namespace {
 class OrvaneProgram final : public desk::Program {
 public:
     explicit OrvaneProgram(platform::Platform& platform) : orvane(platform) {}
-    platform::NSApplicationDelegate& delegate() override { return orvane.appDelegate(); }
+    platform::NSApplicationDelegate& delegate() override { return orvane.appDelegate; }
 
     brindle::OrvaneApp orvane;
 };

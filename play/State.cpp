@@ -67,7 +67,7 @@ QJsonObject publishedWindow(const brindle::FinderWindowState& state) {
             {"isFullScreen", state.isFullScreen}};
 }
 
-const char* trackingName(brindle::LiveGeometryState state) {
+const char* trackingName(brindle::FinderObserver::LiveGeometryState state) {
     constexpr const char* names[] = {"idle", "waiting", "predicting"};
     return names[static_cast<int>(state)];
 }
@@ -83,7 +83,7 @@ QJsonObject observerState(const brindle::FinderObserver& observer) {
 }
 
 QJsonObject observer(const Session& session) {
-    if (const auto* orvane = session.orvane()) return observerState(orvane->observer());
+    if (const auto* orvane = session.orvane()) return observerState(orvane->appDelegate.finderObserver());
     return {{"windows", QJsonArray()},
             {"activeWindow", QJsonValue()},
             {"finderIsFrontmost", false},
@@ -168,7 +168,7 @@ QJsonArray opened(const desk::Machine& machine) {
 
 QJsonObject counts(Session& session) {
     brindle::FinderObserver::Counts observed;
-    if (const auto* orvane = session.orvane()) observed = orvane->observer().counts();
+    if (const auto* orvane = session.orvane()) observed = orvane->appDelegate.finderObserver().counts();
     return {{"passes", numberOf(observed.passes)},
             {"pathFetches", numberOf(observed.pathFetches)},
             {"selectionFetches", numberOf(observed.selectionFetches)},

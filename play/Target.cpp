@@ -1,5 +1,6 @@
 #include "play/Target.h"
 
+#include "desk/AlertLayout.h"
 #include "desk/finder/FinderWindow.h"
 #include "play/BarParts.h"
 #include "play/Commands.h"
@@ -48,9 +49,14 @@ Target barPart(ScriptPlayer& player, const Arguments& words) {
 
 Target labelled(ScriptPlayer& player, const Arguments& words) {
     const std::string& label = words.text(0);
-    const auto button = player.session().compositor.alertButton(player.machine(), label);
-    if (!button) missingTarget("nothing is labelled " + label);
-    return {middleOf(*button), 2};
+    auto& machine = player.machine();
+    const auto alert = machine.alert();
+    const auto screen = machine.displays.screens().begin();
+    if (alert && screen != machine.displays.screens().end()) {
+        const desk::AlertLayout layout = desk::layoutOf(*alert, *screen);
+        if (const auto* button = layout.buttonLabelled(label)) return {middleOf(button->frame), 2};
+    }
+    missingTarget("nothing is labelled " + label);
 }
 
 struct Kind {

@@ -1,0 +1,18 @@
+// The locale's order of names: numbers inside them compare by value, upper and lower case don't separate. Any thread.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+class Collation {
+public:
+    virtual ~Collation() = default;
+    // localizedStandardCompare: below 0, 0 or above 0 as the first name goes before, with or after the second.
+    virtual int localizedStandardCompare(std::string_view a, std::string_view b) = 0;
+    // A key whose bytes compare as the names do; worth making when many names are sorted.
+    virtual std::string localizedStandardKey(std::string_view name) = 0;
+};
+
+}  // namespace platform
