@@ -85,9 +85,14 @@ FinderWindow* Finder::folderWindow(std::int64_t number) {
 std::optional<std::int64_t> Finder::open(const std::string& path, std::optional<CGRect> frame) {
     FinderWindow window;
     window.target = platform::standardizedPath(path, "/");
-    if (machine.disk.kind(*window.target) != platform::FileKind::directory) return std::nullopt;
+    if (!isFolder(path)) return std::nullopt;
     window.name = nameOf(*window.target);
     return add(std::move(window), frame);
+}
+
+bool Finder::isFolder(const std::string& path) const {
+    return machine.disk.kind(path) == platform::FileKind::directory &&
+           machine.disk.kind(platform::standardizedPath(path, "/")) == platform::FileKind::directory;
 }
 
 std::optional<std::int64_t> Finder::openVirtual(const std::string& name, std::optional<CGRect> frame) {
@@ -180,7 +185,7 @@ void Finder::setMinimized(FinderWindow& window, bool minimized) {
 bool Finder::go(std::int64_t number, const std::string& path) {
     FinderWindow* window = folderWindow(number);
     const std::string target = platform::standardizedPath(path, "/");
-    if (window == nullptr || machine.disk.kind(target) != platform::FileKind::directory) return false;
+    if (window == nullptr || !isFolder(path)) return false;
     window->target = target;
     window->selection.clear();
     if (std::exchange(window->name, nameOf(target)) == nameOf(target)) return true;

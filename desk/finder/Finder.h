@@ -83,6 +83,7 @@ private:
 
     std::optional<std::int64_t> add(FinderWindow window, std::optional<platform::CGRect> frame);
     platform::CGRect defaultFrame(const FinderWindow& window) const;
+    bool isFolder(const std::string& path) const;
     bool isFrontmost() const;
     void bringForward(std::int64_t number);
     void placeAmongOthers(std::int64_t number);

@@ -15,12 +15,12 @@ namespace {
 
 constexpr const char* editor = "/Applications/TextEdit.app";
 
-applescript::ScriptError finderError(std::int64_t number, const std::string& sentence) {
-    return {number, "Finder got an error: " + sentence};
+applescript::ScriptError handlerFailed() {
+    return {-10000, "Finder got an error: AppleEvent handler failed."};
 }
 
 applescript::ScriptError noSuchWindow(std::int64_t identifier) {
-    return finderError(-1728, "Can’t get Finder window id " + std::to_string(identifier) + ".");
+    return {-1728, "Finder got an error: Can’t get Finder window id " + std::to_string(identifier) + "."};
 }
 
 std::int64_t whole(double value) {
@@ -70,7 +70,7 @@ void FinderScriptHost::activate() {
 std::variant<std::int64_t, applescript::ScriptError> FinderScriptHost::openWindow(
     const std::optional<std::string>& path) {
     const auto number = machine.finder.open(path.value_or(machine.disk.home()));
-    if (!number) return finderError(-10000, "AppleEvent handler failed.");
+    if (!number) return handlerFailed();
     return *number;
 }
 
@@ -82,8 +82,7 @@ std::optional<applescript::ScriptError> FinderScriptHost::closeWindow(std::int64
 std::optional<applescript::ScriptError> FinderScriptHost::setTarget(std::int64_t identifier, const std::string& path) {
     if (machine.finder.find(identifier) == nullptr) return noSuchWindow(identifier);
     if (machine.finder.go(identifier, path)) return std::nullopt;
-    return finderError(-10006, "Can’t set target of Finder window id " + std::to_string(identifier) +
-                                   " to POSIX file \"" + path + "\".");
+    return handlerFailed();
 }
 
 // Items are revealed in the front window, which goes to their folder if it shows another.
@@ -98,7 +97,7 @@ std::optional<applescript::ScriptError> FinderScriptHost::select(const std::vect
     const FinderWindow* window = number ? machine.finder.find(*number) : nullptr;
     const bool isThere = window != nullptr && (window->target == folder || machine.finder.go(*number, folder));
     if (isThere && machine.finder.select(*number, paths)) return std::nullopt;
-    return finderError(-1728, "Can’t get POSIX file \"" + paths.front() + "\".");
+    return handlerFailed();
 }
 
 std::optional<applescript::ScriptError> FinderScriptHost::open(const std::string& path) {
@@ -108,7 +107,7 @@ std::optional<applescript::ScriptError> FinderScriptHost::open(const std::string
         return std::nullopt;
     }
     if (kind && machine.finder.open(path)) return std::nullopt;
-    return finderError(-1728, "Can’t get POSIX file \"" + path + "\".");
+    return handlerFailed();
 }
 
 ScriptPathKind FinderScriptHost::pathKind(const std::string& path) {
