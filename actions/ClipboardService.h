@@ -1,4 +1,5 @@
-// Puts text on the general pasteboard in place of all that was there. The bar's root view uses it; it doesn't look whether the write succeeded.
+// Puts text on the general pasteboard in place of all that was there. The bar's root view uses it; it doesn't look
+// whether the write succeeded.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// Why a navigation didn't happen. FinderNavigationService throws it; description() is the sentence that the bar shows its user.
-// It doesn't say which path was meant.
+// Why a navigation didn't happen. FinderNavigationService throws it; description() is the sentence that the bar shows
+// its user. It doesn't say which path was meant.
 #pragma once
 
 #include <exception>

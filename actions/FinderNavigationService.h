@@ -1,5 +1,6 @@
-// Makes Finder show a location that the user typed or picked, by an AppleScript written for that one request. The bar's root view uses it.
-// It remembers nothing, shows no failure itself, and each of its operations blocks until Finder has answered. Main thread only.
+// Makes Finder show a location that the user typed or picked, by an AppleScript written for that one request. The bar's
+// root view uses it. It remembers nothing, shows no failure itself, and each of its operations blocks until Finder has
+// answered. Main thread only.
 #pragma once
 
 #include <string>
@@ -13,7 +14,8 @@ class FinderNavigationService {
 public:
     explicit FinderNavigationService(platform::Platform& thePlatform) : platform(thePlatform) {}
 
-    // Shows a folder in Finder's front window, or the folder that holds a file, with the file selected. Throws FinderNavigationError.
+    // Shows a folder in Finder's front window, or the folder that holds a file, with the file selected. Throws
+    // FinderNavigationError.
     void navigateFrontWindow(const std::string& to);
 
     // Folders only. Throws FinderNavigationError.

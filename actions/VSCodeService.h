@@ -1,4 +1,5 @@
-// Opens a folder in Visual Studio Code, from wherever it is installed. The bar's root view uses it; what becomes of the launch isn't looked at.
+// Opens a folder in Visual Studio Code, from wherever it is installed. The bar's root view uses it; what becomes of the
+// launch isn't looked at.
 #pragma once
 
 #include <optional>

@@ -1,5 +1,6 @@
-// Builds and owns every long-lived object of the application, in a fixed order, answers the platform's launch callbacks, and lets nobody end the application but
-// through its own exits. It exists once, for the life of the process, and does no work of its own. Main thread only.
+// Builds and owns every long-lived object of the application, in a fixed order, answers the platform's launch
+// callbacks, and lets nobody end the application but through its own exits. It exists once, for the life of the
+// process, and does no work of its own. Main thread only.
 //
 //   state        entered by                                      left by
 //   constructed  process start                                   the will-finish callback
@@ -39,7 +40,8 @@ private:
     platform::Platform& platform;
     std::shared_ptr<AccessibilityManager> accessibilityManager;
     std::shared_ptr<FinderObserver> observer;
-    // Between these two belong the login item, updates, analytics, the installer and the Automation permission, in this order.
+    // Between these two belong the login item, updates, analytics, the installer and the Automation permission, in this
+    // order.
     std::unique_ptr<FinderOverlayCoordinator> overlayCoordinator;
     // Here belong the controllers of the three ordinary windows.
     bool observerStarted = false;

@@ -1,5 +1,6 @@
-// The application value and its entry. A backend makes it from a Platform when the process starts, keeps it for the life of the process, and tells its delegate of the
-// launch. It shows nothing itself: there is no window scene, every window is built by a controller.
+// The application value and its entry. A backend makes it from a Platform when the process starts, keeps it for the
+// life of the process, and tells its delegate of the launch. It shows nothing itself: there is no window scene, every
+// window is built by a controller.
 #pragma once
 
 #include <memory>

@@ -1,7 +1,9 @@
-// Keeps one overlay for each Finder window that the observer publishes: makes, updates, places, stacks and removes them, opens the path field on the
-// observer's request, and closes it on a click elsewhere. The application delegate makes one, for good. It never asks Finder anything. Main thread only.
+// Keeps one overlay for each Finder window that the observer publishes: makes, updates, places, stacks and removes
+// them, opens the path field on the observer's request, and closes it on a click elsewhere. The application delegate
+// makes one, for good. It never asks Finder anything. Main thread only.
 //
-// The active window's bar floats; every other one stands right above its own window, where what covers the window covers the bar.
+// The active window's bar floats; every other one stands right above its own window, where what covers the window
+// covers the bar.
 #pragma once
 
 #include <functional>

@@ -1,5 +1,6 @@
-// The window of one bar: borderless, and able to take the keyboard without its application becoming active. It tells gestures apart, a press anywhere from a drag by the
-// brand, and hands them to its callbacks; what they do to Finder isn't its business. FinderOverlayWindowController makes it. Main thread only.
+// The window of one bar: borderless, and able to take the keyboard without its application becoming active. It tells
+// gestures apart, a press anywhere from a drag by the brand, and hands them to its callbacks; what they do to Finder
+// isn't its business. FinderOverlayWindowController makes it. Main thread only.
 #pragma once
 
 #include <functional>
@@ -14,7 +15,8 @@ public:
 
     // At each left or right mouse down, before anything else is done about it.
     std::function<void()> onInteraction;
-    // A press on the brand: the panel's frame and the mouse position, on the screen. The answer says whether to follow the mouse.
+    // A press on the brand: the panel's frame and the mouse position, on the screen. The answer says whether to follow
+    // the mouse.
     std::function<bool(const platform::CGRect& panelFrame, platform::CGPoint mousePosition)> onDragBegan;
     std::function<void(platform::CGPoint mousePosition)> onDragChanged;
     std::function<void()> onDragEnded;

@@ -1,5 +1,6 @@
-// The observable state of one bar: which window it shows, whether its path field is open, what stands in the field and under it. The coordinator writes
-// the window state, the views bind to the rest. It keeps refreshes from disturbing the user's typing, and commits nothing. Main thread only.
+// The observable state of one bar: which window it shows, whether its path field is open, what stands in the field and
+// under it. The coordinator writes the window state, the views bind to the rest. It keeps refreshes from disturbing the
+// user's typing, and commits nothing. Main thread only.
 //
 //   state    entered by                                              left by
 //   showing  creation, cancelEditing()                               beginEditing() with a window state

@@ -24,7 +24,8 @@ FinderOverlayWindowController::FinderOverlayWindowController(platform::Platform&
                                   std::move(terminalService), std::move(vscodeService))));
 }
 
-// The panel may outlive the controller and the view model in the middle of a drag. The service is held, so that a drag that has begun ends in order.
+// The panel may outlive the controller and the view model in the middle of a drag. The service is held, so that a drag
+// that has begun ends in order.
 void FinderOverlayWindowController::connectPanel() {
     const std::weak_ptr<FinderOverlayViewModel> weakModel = viewModel;
     const auto currentState = [weakModel]() -> std::optional<FinderWindowState> {

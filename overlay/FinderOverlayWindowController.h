@@ -1,5 +1,6 @@
-// One overlay: its panel, the state of its bar, and the service that steers its Finder window, connected with each other. The coordinator makes one for each
-// published window and drops it with the window, which may happen while the panel is tracking a drag. It decides nothing about place and order.
+// One overlay: its panel, the state of its bar, and the service that steers its Finder window, connected with each
+// other. The coordinator makes one for each published window and drops it with the window, which may happen while the
+// panel is tracking a drag. It decides nothing about place and order.
 #pragma once
 
 #include <cstdint>

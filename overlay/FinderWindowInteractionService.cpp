@@ -106,7 +106,8 @@ void FinderWindowInteractionService::focusAndRaise(const AXUIElement& element, c
     accessibility.AXUIElementPerformAction(element, "AXRaise");
 }
 
-// Activating Finder brings forward the window that was its main one when it handles the activation, which may be the old one.
+// Activating Finder brings forward the window that was its main one when it handles the activation, which may be the
+// old one.
 void FinderWindowInteractionService::activate(const AXUIElement& element, const AXUIElement& application,
                                               const platform::NSRunningApplication& finder) {
     focusAndRaise(element, application);

@@ -1,6 +1,7 @@
-// Acts on a Finder window through Accessibility on behalf of its bar: brings the window forward, and moves it while the bar is dragged. The panel's
-// callbacks use it, one for each overlay. A window state holds no element, so the window is looked for anew at each gesture, by its geometry alone.
-// Nothing is reported: a window that isn't found, or can't be read, stays as it is. Main thread only.
+// Acts on a Finder window through Accessibility on behalf of its bar: brings the window forward, and moves it while the
+// bar is dragged. The panel's callbacks use it, one for each overlay. A window state holds no element, so the window is
+// looked for anew at each gesture, by its geometry alone. Nothing is reported: a window that isn't found, or can't be
+// read, stays as it is. Main thread only.
 #pragma once
 
 #include <optional>
@@ -18,8 +19,9 @@ public:
     // Brings the window forward, and Finder with it. The state's frame says where to look.
     void raise(const FinderWindowState& window);
 
-    // Whether a drag has started; a full-screen window is only brought forward. The panel's frame, in AppKit space, says where the window's top left corner is
-    // now, which is more than the state may know. The mouse position is in AppKit space.
+    // Whether a drag has started; a full-screen window is only brought forward. The panel's frame, in AppKit space,
+    // says where the window's top left corner is now, which is more than the state may know. The mouse position is in
+    // AppKit space.
     bool beginDrag(const FinderWindowState& window, const platform::CGRect& panelFrame,
                    platform::CGPoint mousePosition);
     // Moves the window as far from where it was as the mouse is from where it was: one write, no read.

@@ -1,4 +1,5 @@
-// Hosts a bar's view in its panel, so that the first click on the bar of a window in the background acts at once instead of only being swallowed.
+// Hosts a bar's view in its panel, so that the first click on the bar of a window in the background acts at once
+// instead of only being swallowed.
 #pragma once
 
 #include <utility>

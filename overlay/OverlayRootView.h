@@ -1,5 +1,6 @@
-// The content of one panel: the bar, once there is a window to show, and the one place where a bar's action becomes a call to Finder, the clipboard, Terminal or the
-// editor, and where a failure of it becomes the bar's message. It has no look of its own. Its actions block the main thread until Finder has answered.
+// The content of one panel: the bar, once there is a window to show, and the one place where a bar's action becomes a
+// call to Finder, the clipboard, Terminal or the editor, and where a failure of it becomes the bar's message. It has no
+// look of its own. Its actions block the main thread until Finder has answered.
 #pragma once
 
 #include <memory>
@@ -26,7 +27,8 @@ public:
     void connect(views::Context& context) { context.connect(observedModel); }
     views::View body() const;
 
-    // The bar for this state, all its callbacks connected; they act on the state as handed over here, and need this view.
+    // The bar for this state, all its callbacks connected; they act on the state as handed over here, and need this
+    // view.
     PathBarView pathBar(const FinderWindowState& windowState) const;
 
 private:

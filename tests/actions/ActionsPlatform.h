@@ -1,4 +1,5 @@
-// What the actions reach of the outside world, as plain lists: what stands on disk, the scripts sent, the pasteboard, the files opened.
+// What the actions reach of the outside world, as plain lists: what stands on disk, the scripts sent, the pasteboard,
+// the files opened.
 #pragma once
 
 #include <functional>

@@ -11,11 +11,6 @@ using platform::NSApplicationTerminateReply;
 
 class AppDelegateTest : public testing::Test {
 protected:
-    void launch() {
-        delegate.applicationWillFinishLaunching();
-        delegate.applicationDidFinishLaunching();
-    }
-
     kit::OverlayPlatform mac;
     AppDelegate delegate{mac.platform};
 };
@@ -30,21 +25,9 @@ TEST_F(AppDelegateTest, RunsAsAnAgentWithItsCoordinatorBeforeTheFirstPass) {
     EXPECT_EQ(delegate.finderObserver().counts().passes, 1);
     mac.fake.advance({});
     EXPECT_EQ(delegate.coordinator()->liveControllers().size(), 1u);
+    EXPECT_EQ(delegate.applicationShouldTerminate(), NSApplicationTerminateReply::terminateCancel);
     const std::string& log = mac.fake.fileContents["/tmp/Orvane-debug.log"];
     EXPECT_LT(log.find("launch trusted=true\n"), log.find("trusted=true tracked=1"));
-}
-
-// The log tells the trust of the start, even when it has changed since.
-TEST_F(AppDelegateTest, LogsTheTrustOfTheStart) {
-    mac.fake.isTrusted = false;
-    launch();
-    EXPECT_NE(mac.fake.fileContents["/tmp/Orvane-debug.log"].find("launch trusted=true\n"), std::string::npos);
-    EXPECT_EQ(delegate.finderObserver().windows->size(), 0u);
-}
-
-TEST_F(AppDelegateTest, RefusesEveryTerminationFromOutside) {
-    launch();
-    EXPECT_EQ(delegate.applicationShouldTerminate(), NSApplicationTerminateReply::terminateCancel);
 }
 
 TEST_F(AppDelegateTest, QuitsBesideAnInstanceThatRunsAlready) {

@@ -74,11 +74,6 @@ TEST_F(FinderOverlayPanelTest, TakesALeftPressOnTheBrandForADragAndAnyOtherForAC
     }
 }
 
-TEST_F(FinderOverlayPanelTest, PassesOnOtherEventsUntouched) {
-    for (const auto type : {NSEventType::leftMouseUp, NSEventType::mouseMoved, NSEventType::keyDown})
-        EXPECT_EQ(callsOf(type, {50, 22}), Calls{});
-}
-
 TEST_F(FinderOverlayPanelTest, FollowsTheMouseFromPressToReleaseWithoutDrift) {
     // The locations are of a panel that has moved along.
     mac.steps = {[this] {
@@ -96,12 +91,6 @@ TEST_F(FinderOverlayPanelTest, FollowsTheMouseFromPressToReleaseWithoutDrift) {
                      "panel 1: moved to 130 680", "changed 180 702", "wait for mask 68", "panel 1: moved to 130 680",
                      "changed 180 702", "wait for mask 68", "ended", "not dragging"}));
     EXPECT_EQ(mac.steps.size(), 1u);
-}
-
-TEST_F(FinderOverlayPanelTest, RunsTheWholeSequenceForAPressThatMovesNothing) {
-    EXPECT_EQ(
-        callsOf(NSEventType::leftMouseDown, {50, 22}),
-        (Calls{"interaction", "began 100 700 at 150 722", "dragging", "wait for mask 68", "ended", "not dragging"}));
 }
 
 TEST_F(FinderOverlayPanelTest, ReadsTheMouseForAnEventWithoutAWindow) {

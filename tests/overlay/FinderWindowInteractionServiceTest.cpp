@@ -9,7 +9,8 @@ namespace {
 
 using Calls = std::vector<std::string>;
 
-// The screen is 900 points high: the window at top-left (100, 200), 800 by 500, has its AppKit origin at (100, 200) as well.
+// The screen is 900 points high: the window at top-left (100, 200), 800 by 500, has its AppKit origin at (100, 200) as
+// well.
 class FinderWindowInteractionServiceTest : public testing::Test {
 protected:
     FinderWindowInteractionServiceTest() {

@@ -1,5 +1,6 @@
-// The fake platform with panels on it: windows keep a frame, a level and whether they are on screen, a tracking loop takes the steps that the test lists,
-// and whatever is asked of the outside is noted in one list of sentences. Nothing here decides an order of windows.
+// The fake platform with panels on it: windows keep a frame, a level and whether they are on screen, a tracking loop
+// takes the steps that the test lists, and whatever is asked of the outside is noted in one list of sentences. Nothing
+// here decides an order of windows.
 #pragma once
 
 #include <deque>
@@ -22,7 +23,8 @@ class OverlayPlatform final : public platform::Accessibility,
 public:
     FakePlatform fake;
 
-    // What the test sets. A step of a tracking loop may do anything before it answers its event; without steps the loop ends.
+    // What the test sets. A step of a tracking loop may do anything before it answers its event; without steps the loop
+    // ends.
     using Step = std::function<std::optional<platform::NSEvent>()>;
     std::deque<Step> steps;
     std::optional<std::string> ownBundleIdentifier = "com.velmora.Brindle";
