@@ -1,7 +1,7 @@
 #include "overlay/FinderOverlayCoordinator.h"
 
-#include <algorithm>
 #include <cmath>
+#include <unordered_set>
 #include <utility>
 
 #include "tracking/DebugLog.h"
@@ -87,10 +87,11 @@ void FinderOverlayCoordinator::update(const std::vector<FinderWindowState>& wind
 }
 
 void FinderOverlayCoordinator::removeControllersExcept(const std::vector<FinderWindowState>& windows) {
+    std::unordered_set<std::string_view> shown;
+    shown.reserve(windows.size());
+    for (const FinderWindowState& state : windows) shown.insert(state.id);
     for (auto each = controllers.begin(); each != controllers.end();) {
-        const bool stays = std::any_of(windows.begin(), windows.end(),
-                                       [&each](const FinderWindowState& state) { return state.id == each->first; });
-        if (stays) {
+        if (shown.contains(each->first)) {
             ++each;
             continue;
         }
