@@ -78,7 +78,8 @@ private:
     std::size_t frontOfLevel(int level) const;
     std::size_t backOfLevel(int level) const;
     // Index in the order without the window itself.
-    std::size_t destination(const ServerWindow& window, platform::NSWindowOrderingMode mode, std::int64_t relativeTo) const;
+    std::size_t destination(const ServerWindow& window, platform::NSWindowOrderingMode mode,
+                            std::int64_t relativeTo) const;
     // Takes the window out, asks where to, and puts it in there; answers whether that's another place.
     template <typename Where>
     bool move(ServerWindow& window, Where where);

@@ -248,7 +248,8 @@ TEST_F(MachineTest, FilesAreReachedThroughTheMacsPaths) {
 TEST_F(MachineTest, TheSystemPromptIsAnsweredByItsButtons) {
     desk.machine.permissions.automation = desk::AutomationPermission::ask;
     Probe& probe = kit::launchProbe(desk);
-    const auto script = probe.platform.appleEvents.makeAppleScript("tell application \"Finder\" to count Finder windows");
+    const auto script =
+        probe.platform.appleEvents.makeAppleScript("tell application \"Finder\" to count Finder windows");
     const auto queue = probe.platform.dispatch.makeSerialQueue("scripts", platform::QualityOfService::utility);
     std::optional<platform::NSAppleScriptResult> result;
     queue->async([&] { result = script->executeAndReturnError(); });
