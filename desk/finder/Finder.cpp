@@ -227,6 +227,7 @@ std::vector<const FinderWindow*> Finder::windows() const {
     }
     std::stable_sort(ranked.begin(), ranked.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<const FinderWindow*> result;
+    result.reserve(ranked.size());
     for (const auto& [rank, window] : ranked) result.push_back(window);
     return result;
 }

@@ -2,13 +2,13 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <utility>
 
@@ -67,6 +67,7 @@ pid_t spawnBash(const std::vector<std::string>& words, const std::string& folder
     ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
 
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);
     std::string environment[] = {"HOME=/Users/ana", "USER=ana", "LANG=C.UTF-8", "PATH=/nonexistent"};

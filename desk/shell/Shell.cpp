@@ -41,7 +41,7 @@ std::string preamble() {
     std::string text = askForTool;
     for (const std::string& path : ShellTools::paths()) {
         for (const std::string& name : {path, std::string(platform::lastPathComponent(path))})
-            text += "function " + name + " { __desk_tool " + path + " \"$@\"; }\n";
+            text.append("function ").append(name).append(" { __desk_tool ").append(path).append(" \"$@\"; }\n");
     }
     return text + shutIn;
 }
