@@ -6,11 +6,14 @@
 #include "desk/ports/AccessibilityPort.h"
 #include "desk/ports/AppleEventsPort.h"
 #include "desk/ports/BundlePort.h"
+#include "desk/ports/CollationPort.h"
 #include "desk/ports/DefaultsPort.h"
 #include "desk/ports/EventsPort.h"
 #include "desk/ports/FilesPort.h"
+#include "desk/ports/MenusPort.h"
 #include "desk/ports/NSApplicationPort.h"
 #include "desk/ports/PasteboardPort.h"
+#include "desk/ports/TextBoundariesPort.h"
 #include "desk/ports/UuidPort.h"
 #include "desk/ports/WindowPort.h"
 #include "desk/ports/WindowServerPort.h"
@@ -48,6 +51,9 @@ struct Application::Ports {
     EventsPort events;
     NSApplicationPort application;
     WindowPort windows;
+    MenusPort menus;
+    TextBoundariesPort textBoundaries;
+    CollationPort collation;
     FilesPort files;
     DefaultsPort defaults;
     BundlePort bundle;
@@ -64,11 +70,28 @@ Application::Application(Machine& theMachine, std::string theBundlePath, const A
           theMachine.scheduler, [this](const platform::NSEvent& event) { sendEvent(inItsWindow(event)); })),
       ports(std::make_unique<Ports>(theMachine, *this, image)),
       slots(std::make_unique<platform::SharedSlots>()),
-      platformOfIt(new platform::Platform{machine.scheduler, *runLoop, *runLoop, ports->workspace, machine.displays,
-                                          machine.appearance, ports->windowServer, ports->accessibility,
-                                          ports->appleEvents, ports->events, ports->application, ports->windows,
-                                          machine.text, ports->files, ports->defaults, ports->bundle, ports->pasteboard,
-                                          ports->uuids, *slots}) {}
+      platformOfIt(new platform::Platform{machine.scheduler,
+                                          *runLoop,
+                                          *runLoop,
+                                          ports->workspace,
+                                          machine.displays,
+                                          machine.appearance,
+                                          ports->windowServer,
+                                          ports->accessibility,
+                                          ports->appleEvents,
+                                          ports->events,
+                                          ports->application,
+                                          ports->windows,
+                                          ports->menus,
+                                          machine.text,
+                                          ports->textBoundaries,
+                                          ports->collation,
+                                          ports->files,
+                                          ports->defaults,
+                                          ports->bundle,
+                                          ports->pasteboard,
+                                          ports->uuids,
+                                          *slots}) {}
 
 // What is posted may hold on to the program, the program to what is shared, and both to the ports.
 Application::~Application() {

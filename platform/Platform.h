@@ -11,14 +11,17 @@
 #include "platform/AppleEvents.h"
 #include "platform/Application.h"
 #include "platform/Bundle.h"
+#include "platform/Collation.h"
 #include "platform/Defaults.h"
 #include "platform/Dispatch.h"
 #include "platform/Events.h"
 #include "platform/Files.h"
+#include "platform/Menus.h"
 #include "platform/Pasteboard.h"
 #include "platform/RunLoop.h"
 #include "platform/Screens.h"
 #include "platform/Text.h"
+#include "platform/TextBoundaries.h"
 #include "platform/Time.h"
 #include "platform/Uuid.h"
 #include "platform/WindowServer.h"
@@ -63,7 +66,10 @@ struct Platform {
     Events& events;
     NSApplication& application;
     WindowSystem& windows;
+    Menus& menus;
     TextSystem& text;
+    TextBoundaries& textBoundaries;
+    Collation& collation;
     NSFileManager& files;
     NSUserDefaults& defaults;
     NSBundle& bundle;

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "platform/Platform.h"
+#include "tests/kit/PlainText.h"
 
 namespace kit {
 
@@ -369,6 +370,21 @@ private:
         }
         std::optional<platform::CGSize> symbolSize(std::string_view, platform::Font) override { return std::nullopt; }
     };
+    struct NoMenus final : platform::Menus {
+        std::unique_ptr<platform::MenuHandle> popUpBelow(const platform::CGRect&,
+                                                         std::vector<platform::MenuItem>) override {
+            return nullptr;
+        }
+        std::unique_ptr<platform::MenuHandle> popUpAt(const platform::CGPoint&,
+                                                      std::vector<platform::MenuItem>) override {
+            return nullptr;
+        }
+        std::unique_ptr<platform::PopoverHandle> showPopover(platform::NSWindow&, const platform::CGRect&,
+                                                             platform::RectEdge, std::unique_ptr<platform::ContentView>,
+                                                             platform::CGSize, std::function<void()>) override {
+            return nullptr;
+        }
+    };
     struct NoDefaults final : platform::NSUserDefaults {
         std::optional<std::string> stringForKey(const std::string&) override { return std::nullopt; }
         void setObject(const std::string&, platform::Value) override {}
@@ -439,7 +455,10 @@ private:
     platform::Appearance noAppearance;
     NoApplication noApplication;
     NoWindows noWindows;
+    NoMenus noMenus;
     NoText noText;
+    PlainBoundaries boundaries;
+    PlainCollation collation;
     NoDefaults noDefaults;
     NoBundle noBundle;
     NoPasteboard noPasteboard;
@@ -458,7 +477,10 @@ public:
                                 .events = *this,
                                 .application = noApplication,
                                 .windows = noWindows,
+                                .menus = noMenus,
                                 .text = noText,
+                                .textBoundaries = boundaries,
+                                .collation = collation,
                                 .files = *this,
                                 .defaults = noDefaults,
                                 .bundle = noBundle,

@@ -1,5 +1,5 @@
-// The part of a platform that views and the path bar use, for tests without a machine: time that the test moves, turns that it ends, user defaults in a
-// map, the fixed text. The other parts must not be called.
+// The part of a platform that views and the path bar use, for tests without a machine: time that the test moves, turns
+// that it ends, user defaults in a map, the fixed text. The other parts must not be called.
 #pragma once
 
 #include <array>
@@ -12,6 +12,7 @@
 
 #include "platform/Platform.h"
 #include "tests/kit/FixedText.h"
+#include "tests/kit/PlainText.h"
 
 namespace kit {
 
@@ -21,6 +22,8 @@ class ViewPlatform final : public platform::Clock,
                            public platform::NSUserDefaults {
 public:
     FixedText text;
+    PlainBoundaries boundaries;
+    PlainCollation collation;
     platform::Appearance appearance;
     std::map<std::string, std::string> stored;
     int defaultsWrites = 0;
@@ -92,7 +95,10 @@ public:
                                 unused<platform::Events>(),
                                 unused<platform::NSApplication>(),
                                 unused<platform::WindowSystem>(),
+                                unused<platform::Menus>(),
                                 text,
+                                boundaries,
+                                collation,
                                 unused<platform::NSFileManager>(),
                                 *this,
                                 unused<platform::NSBundle>(),

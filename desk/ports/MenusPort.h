@@ -1,0 +1,32 @@
+// Menus and popovers of one application, on the machine's layer above all windows.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/Menus.h"
+
+namespace desk {
+
+class Application;
+class Machine;
+
+class MenusPort final : public platform::Menus {
+public:
+    MenusPort(Machine& theMachine, Application& theApplication) : machine(theMachine), application(theApplication) {}
+
+    std::unique_ptr<platform::MenuHandle> popUpBelow(const platform::CGRect& anchor,
+                                                     std::vector<platform::MenuItem> items) override;
+    std::unique_ptr<platform::MenuHandle> popUpAt(const platform::CGPoint& point,
+                                                  std::vector<platform::MenuItem> items) override;
+    std::unique_ptr<platform::PopoverHandle> showPopover(platform::NSWindow& window, const platform::CGRect& anchor,
+                                                         platform::RectEdge arrowEdge,
+                                                         std::unique_ptr<platform::ContentView> content,
+                                                         platform::CGSize contentSize,
+                                                         std::function<void()> onDismiss) override;
+
+private:
+    Machine& machine;
+    Application& application;
+};
+
+}  // namespace desk

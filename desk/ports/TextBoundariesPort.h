@@ -1,0 +1,27 @@
+// Characters and words by the rules of Unicode (UAX 29). The two iterators are made once, and read the text where it lies.
+#pragma once
+
+#include <memory>
+
+#include <unicode/brkiter.h>
+
+#include "platform/TextBoundaries.h"
+
+namespace desk {
+
+class TextBoundariesPort final : public platform::TextBoundaries {
+public:
+    TextBoundariesPort();
+
+    std::size_t nextCharacter(std::string_view text, std::size_t offset) override;
+    std::size_t previousCharacter(std::string_view text, std::size_t offset) override;
+    std::size_t nextWord(std::string_view text, std::size_t offset) override;
+    std::size_t previousWord(std::string_view text, std::size_t offset) override;
+
+private:
+    // Null when the library's data is missing.
+    std::unique_ptr<icu::BreakIterator> characters;
+    std::unique_ptr<icu::BreakIterator> words;
+};
+
+}  // namespace desk
