@@ -3,16 +3,18 @@
 #include <cmath>
 #include <string_view>
 
+#include "pathbar/PathBarMetrics.h"
+
 namespace brindle {
 
 namespace {
 
 constexpr double crumbInset = 6;
-constexpr double chevronWidth = 22;
 constexpr double ellipsisRoom = 40;
 
 double widthOf(platform::TextSystem& text, const BreadcrumbItem& item) {
-    return std::ceil(text.width(item.title, breadcrumbFont)) + crumbInset + (item.isLast ? 0 : chevronWidth);
+    return std::ceil(text.width(item.title, breadcrumbFont)) + crumbInset +
+           (item.isLast ? 0 : PathBarMetrics::chevronWidth);
 }
 
 std::string_view withoutLeadingSlashes(std::string_view path) {
@@ -57,7 +59,8 @@ double fullWidth(platform::TextSystem& text, std::span<const BreadcrumbItem> ite
     return width;
 }
 
-// Every width is a whole number of points, so adding one item's to the sum of the rest gives what measuring the candidate anew would.
+// Every width is a whole number of points, so adding one item's to the sum of the rest gives what measuring the
+// candidate anew would.
 VisibleItems visibleItems(platform::TextSystem& text, std::span<const BreadcrumbItem> items, double width) {
     if (items.size() < 2 || fullWidth(text, items) <= width) return {{}, items};
     std::size_t first = items.size() - 1;

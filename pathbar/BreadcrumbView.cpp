@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "pathbar/PathBarMetrics.h"
+
 namespace brindle {
 
 using namespace views;
@@ -10,7 +12,6 @@ using namespace views;
 namespace {
 
 constexpr double rowInset = 10;
-constexpr double chevronWidth = 22;
 constexpr double crumbLeading = 4;
 constexpr double crumbTrailing = 2;
 constexpr double lastCrumbTrailing = 4;
@@ -72,7 +73,8 @@ View BreadcrumbView::crumbButton(const BreadcrumbItem& item) const {
 }
 
 View BreadcrumbView::folderMenu(const BreadcrumbItem& /*item*/) const {
-    return Menu({}, chevron().frame({.width = chevronWidth}).frame({.maxHeight = infinity}).contentShape())
+    return Menu({},
+                chevron().frame({.width = PathBarMetrics::chevronWidth}).frame({.maxHeight = infinity}).contentShape())
         .accessibilityIdentifier("chevron")
         .fixedSize(true, false);
 }

@@ -1,5 +1,5 @@
-// The numbers of the bar that several files share: its look here, and the overlay's panel, whose drag zone lies over the brand label.
-// Lengths are in points.
+// The numbers of the bar that several files share: its look here, and the overlay's panel, whose drag zone lies over
+// the brand label. Lengths are in points.
 #pragma once
 
 #include <algorithm>
@@ -14,6 +14,9 @@ inline constexpr double brandFraction = 0.13;
 inline constexpr double brandMinimum = 112;
 inline constexpr double brandLimit = 150;
 inline constexpr double brandMaximum = 149;
+
+// The folder menu behind a crumb.
+inline constexpr double chevronWidth = 22;
 
 inline constexpr double copyButtonWidth = 30;
 inline constexpr double copyButtonHeight = 28;

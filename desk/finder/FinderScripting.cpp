@@ -17,7 +17,7 @@ using platform::NSAppleScriptResult;
 namespace {
 
 constexpr std::size_t scriptsKept = 20;
-constexpr std::int64_t handlerFailed = -10000;
+constexpr std::int64_t appleEventHandlerFailed = -10000;
 
 NSAppleScriptResult failed(const ScriptError& error) {
     platform::Dictionary dictionary{{platform::NSAppleScriptErrorNumber, error.number}};
@@ -54,7 +54,7 @@ private:
         const Faults& faults = machine.faults;
         if (!faults.scriptError && !faults.scriptAnswer) return applescript::run(*compiled, host);
         if (auto refusal = host.refusal()) return {std::nullopt, std::move(refusal)};
-        if (faults.scriptError) return {std::nullopt, ScriptError{handlerFailed, faults.scriptError}};
+        if (faults.scriptError) return {std::nullopt, ScriptError{appleEventHandlerFailed, faults.scriptError}};
         return {faults.scriptAnswer, std::nullopt};
     }
 
