@@ -6,7 +6,7 @@ if(NOT benchmark_FOUND)
     return()
 endif()
 
-brindle_existing(bench_links app desk play)
+brindle_existing(bench_links test_kit app desk play)
 file(GLOB benches CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/bench/*.cpp")
 foreach(source IN LISTS benches)
     get_filename_component(name "${source}" NAME_WE)

@@ -1,5 +1,5 @@
 # The check-only tree: clang reads every source (-fsyntax-only), clang-tidy those of the product, and what would be built is an empty file.
-# So ninja knows what has been checked since which header last changed, and a second run costs nothing.
+# The suites are left to the sanitized trees, which clang builds. Ninja knows what was checked since which header last changed: a second run costs nothing.
 
 if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     message(FATAL_ERROR "BRINDLE_CHECK_ONLY needs clang: use the preset `check`")

@@ -17,6 +17,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     add_compile_options(-Wno-restrict -Wno-maybe-uninitialized)
 endif()
 
+# Qt's `emit`, `signals` and `slots` macros would rewrite identifiers of headers that know nothing of Qt.
+add_compile_definitions(QT_NO_KEYWORDS)
+
 if(BRINDLE_SANITIZE)
     add_compile_options(-fsanitize=${BRINDLE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${BRINDLE_SANITIZE})

@@ -32,6 +32,9 @@ function(brindle_module NAME)
         add_library(${NAME} STATIC ${sources})
         target_include_directories(${NAME} PUBLIC "${include}")
         target_link_libraries(${NAME} PUBLIC ${linked})
+        # Most of a compilation goes into the standard library's headers: a batch reads them once. What it asks is that names in a
+        # directory's unnamed namespaces differ.
+        set_target_properties(${NAME} PROPERTIES UNITY_BUILD ${BRINDLE_UNITY} UNITY_BUILD_BATCH_SIZE 10)
         brindle_tidy(${NAME})
     else()
         add_library(${NAME} INTERFACE)
