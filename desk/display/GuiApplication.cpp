@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <cstdlib>
 
-#include "desk/display/SystemFont.h"
+#include "desk/display/SystemFonts.h"
 
 namespace desk {
 

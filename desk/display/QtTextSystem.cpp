@@ -8,7 +8,6 @@
 
 #include "desk/display/ShapedText.h"
 #include "desk/display/Symbols.h"
-#include "desk/display/SystemFont.h"
 
 namespace desk {
 
@@ -47,18 +46,17 @@ private:
     std::unique_ptr<icu::BreakIterator> iterator;
 };
 
-QtTextSystem::QtTextSystem() : clusters(std::make_unique<Clusters>()), widths(4096), truncations(1024), lines(64) {}
+QtTextSystem::QtTextSystem() : clusters(std::make_unique<Clusters>()), widths(4096), truncations(1024) {}
 
 QtTextSystem::~QtTextSystem() = default;
 
 double QtTextSystem::width(std::string_view text, platform::Font font) {
     if (const double* known = widths.find(TextLookup{text, font})) return *known;
-    return widths.insert({std::string(text), font}, ShapedText::width(text, font));
+    return widths.insert({std::string(text), font}, ShapedText::width(text, fonts.face(font)));
 }
 
 platform::FontMetrics QtTextSystem::metrics(platform::Font font) {
-    if (const platform::FontMetrics* known = lines.find(TextLookup{{}, font})) return *known;
-    return lines.insert({{}, font}, systemFontMetrics(font));
+    return fonts.face(font).line;
 }
 
 std::string QtTextSystem::truncatedInMiddle(std::string_view text, platform::Font font, double width) {
@@ -78,7 +76,8 @@ std::string QtTextSystem::truncate(std::string_view text, platform::Font font, d
         result += ellipsis;
         return result += text.substr(cuts[cuts.size() - 1 - tail]);
     };
-    const auto fits = [&](std::size_t count) { return ShapedText::width(keeping(count), font) <= width; };
+    const FontFace& face = fonts.face(font);
+    const auto fits = [&](std::size_t count) { return ShapedText::width(keeping(count), face) <= width; };
 
     std::size_t fitting = 0;
     std::size_t tooMany = cuts.size() < 2 ? 1 : cuts.size() - 1;

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "desk/display/BoundedCache.h"
+#include "desk/display/SystemFonts.h"
 #include "desk/display/TextKey.h"
 #include "platform/Text.h"
 
@@ -32,10 +33,10 @@ private:
 
     std::string truncate(std::string_view text, platform::Font font, double width);
 
+    SystemFonts fonts;
     std::unique_ptr<Clusters> clusters;
     BoundedCache<TextKey, double, TextHash, TextEqual> widths;
     BoundedCache<TextKey, Truncation, TextHash, TextEqual> truncations;  // the last one of each text
-    BoundedCache<TextKey, platform::FontMetrics, TextHash, TextEqual> lines;
 };
 
 }  // namespace desk

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Drawing.h"
+#include "desk/display/SystemFonts.h"
 #include "platform/Text.h"
 
 class QPainter;
@@ -16,16 +16,16 @@ namespace desk {
 
 class ShapedText {
 public:
-    ShapedText(std::string_view text, platform::Font font);
+    ShapedText(std::string_view text, const FontFace& face);
 
     // The painter's pen gives the colour.
     void paint(QPainter& painter) const;
     const platform::FontMetrics& metrics() const { return line; }
-    // Everything that is inked.
+    // Around everything that is inked.
     const QRectF& bounds() const { return inked; }
 
     // Measures without keeping anything: what the painted line takes, trailing blanks included.
-    static double width(std::string_view text, platform::Font font);
+    static double width(std::string_view text, const FontFace& face);
 
 private:
     platform::FontMetrics line;

@@ -57,7 +57,7 @@ QImage TextPictures::symbol(std::string_view name, platform::Font font, const QC
 
 const ShapedText& TextPictures::shaped(std::string_view text, platform::Font font) {
     if (const ShapedText* known = lines.find(TextLookup{text, font})) return *known;
-    return lines.insert({std::string(text), font}, ShapedText(text, font));
+    return lines.insert({std::string(text), font}, ShapedText(text, fonts.face(font)));
 }
 
 }  // namespace desk

@@ -9,6 +9,7 @@
 
 #include "desk/display/BoundedCache.h"
 #include "desk/display/ShapedText.h"
+#include "desk/display/SystemFonts.h"
 #include "desk/display/TextKey.h"
 #include "desk/display/TintedKey.h"
 #include "platform/Drawing.h"
@@ -34,6 +35,7 @@ public:
 private:
     const ShapedText& shaped(std::string_view text, platform::Font font);
 
+    SystemFonts fonts;
     BoundedCache<TextKey, ShapedText, TextHash, TextEqual> lines;
     BoundedCache<TintedKey, TextPicture, TintedHash, TintedEqual> texts;
     BoundedCache<TintedKey, QImage, TintedHash, TintedEqual> symbols;

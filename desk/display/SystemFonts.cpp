@@ -1,7 +1,5 @@
-#include "desk/display/SystemFont.h"
+#include "desk/display/SystemFonts.h"
 
-#include <QFontInfo>
-#include <QFontMetricsF>
 #include <QStringList>
 #include <algorithm>
 #include <array>
@@ -21,9 +19,7 @@ int pixelSizeOf(double size) {
     return static_cast<int>(std::lround(std::clamp(size, 1.0, 512.0)));
 }
 
-}  // namespace
-
-QFont systemFont(platform::Font font) {
+QFont toolkitFont(platform::Font font) {
     QFont result;
     result.setFamilies({QString::fromLatin1(systemFontFamily), QStringLiteral("Noto Sans"),
                         QStringLiteral("Noto Color Emoji"), QStringLiteral("Noto Sans Symbols2")});
@@ -35,13 +31,26 @@ QFont systemFont(platform::Font font) {
 }
 
 // In halves of a point and whole lines, so that what is stacked below text starts on a pixel at 2x.
-platform::FontMetrics systemFontMetrics(platform::Font font) {
-    const QFontMetricsF raw(systemFont(font));
+platform::FontMetrics lineOf(const QFontMetricsF& raw) {
     platform::FontMetrics result;
     result.ascent = std::round(raw.ascent() * 2) / 2;
     result.descent = std::ceil(raw.ascent() + raw.descent() - 0.25) - result.ascent;
     result.capHeight = raw.capHeight();
     return result;
+}
+
+constexpr std::size_t mostFaces = 64;
+
+}  // namespace
+
+const FontFace& SystemFonts::face(platform::Font font) {
+    const auto known =
+        std::find_if(faces.begin(), faces.end(), [&](const FontFace& each) { return each.font == font; });
+    if (known != faces.end()) return *known;
+    if (faces.size() == mostFaces) faces.pop_front();
+    const QFont made = toolkitFont(font);
+    const QFontMetricsF measure(made);
+    return faces.emplace_back(FontFace{font, made, measure, lineOf(measure)});
 }
 
 }  // namespace desk
