@@ -1,4 +1,5 @@
-// Laying out a tree of 40 nodes anew after a change: making the items, measuring and placing. Text is measured by a table in the text system.
+// Laying out a tree of 40 nodes anew after a change: making the items, measuring and placing. Text is measured by a
+// table in the text system.
 #include <benchmark/benchmark.h>
 
 #include "tests/kit/FixedText.h"

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "play/ScriptReader.h"
 #include "platform/Geometry.h"
+#include "play/ScriptReader.h"
 
 namespace play {
 

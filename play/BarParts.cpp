@@ -48,12 +48,13 @@ struct Part {
     std::string_view identifier;
     bool hasTitle;
 };
-constexpr Part parts[] = {{"crumb", "crumb", true},        {"chevron", "chevron", true}, {"ellipsis", "ellipsis", false},
-                          {"copy", "copy", false},         {"brand", "brand", false},    {"empty", "row", false},
-                          {"field", "field", false},       {"plate", "plate", false}};
+constexpr Part parts[] = {{"crumb", "crumb", true},  {"chevron", "chevron", true}, {"ellipsis", "ellipsis", false},
+                          {"copy", "copy", false},   {"brand", "brand", false},    {"empty", "row", false},
+                          {"field", "field", false}, {"plate", "plate", false}};
 
 const Part* partNamed(std::string_view name) {
-    const auto* part = std::find_if(std::begin(parts), std::end(parts), [&](const Part& each) { return each.name == name; });
+    const auto* part =
+        std::find_if(std::begin(parts), std::end(parts), [&](const Part& each) { return each.name == name; });
     return part == std::end(parts) ? nullptr : part;
 }
 
@@ -90,7 +91,8 @@ struct DrawnCrumbs {
 };
 
 // What the bar shows is told by its elements; the items behind them by the window's state.
-DrawnCrumbs drawnCrumbs(const FinderOverlayWindowController& controller, const std::vector<AccessibilityElement>& elements) {
+DrawnCrumbs drawnCrumbs(const FinderOverlayWindowController& controller,
+                        const std::vector<AccessibilityElement>& elements) {
     DrawnCrumbs drawn;
     const auto& state = controller.viewModel->windowState.get();
     if (!state || controller.viewModel->isEditing.get()) return drawn;

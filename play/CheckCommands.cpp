@@ -72,8 +72,7 @@ void expect(ScriptPlayer& player, const Arguments& arguments) {
     const QJsonValue expected = expectedValue(arguments, 1);
     const auto found = valueAt(stateOf(player.session()), pointer);
     if (!found) missingTarget("nothing stands at " + pointer + ", expected " + toText(expected));
-    if (!equal(*found, expected))
-        missingTarget(pointer + " is " + toText(*found) + ", expected " + toText(expected));
+    if (!equal(*found, expected)) missingTarget(pointer + " is " + toText(*found) + ", expected " + toText(expected));
 }
 
 void expectNear(ScriptPlayer& player, const Arguments& arguments) {

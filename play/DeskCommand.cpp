@@ -7,6 +7,8 @@
 #include <optional>
 #include <string_view>
 
+#include <QLoggingCategory>
+
 #include "desk/display/GuiApplication.h"
 #include "play/ScriptPlayer.h"
 #include "play/Session.h"
@@ -16,11 +18,10 @@ namespace play {
 
 namespace {
 
-constexpr const char* usage =
-    "desk                 play the tour: it says what it does and where its pictures lie\n"
-    "desk --tour [DIR]    the same, with the pictures in DIR\n"
-    "desk --script FILE   play a desk script; - reads it from standard input\n"
-    "desk --help          this page\n";
+constexpr const char* usage = "desk                 play the tour: it says what it does and where its pictures lie\n"
+                              "desk --tour [DIR]    the same, with the pictures in DIR\n"
+                              "desk --script FILE   play a desk script; - reads it from standard input\n"
+                              "desk --help          this page\n";
 
 int complain(const std::string& message) {
     std::cerr << "desk: " << message << '\n';
@@ -60,9 +61,17 @@ struct Mode {
 };
 constexpr Mode modes[] = {{"--script", playScript}, {"--tour", playTour}, {"--help", showHelp}};
 
+// Scripts and the tour need no display, and are the same wherever they are played. The toolkit would warn of a missing runtime folder that it doesn't use then.
+void drawWithoutDisplay() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        QLoggingCategory::setFilterRules(QStringLiteral("qt.core.qstandardpaths.warning=false"));
+}
+
 }  // namespace
 
 int runDesk(const std::vector<std::string>& arguments) {
+    drawWithoutDisplay();
     const desk::GuiApplication gui;
     if (arguments.empty()) return playTour({});
     for (const Mode& mode : modes)

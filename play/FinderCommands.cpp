@@ -116,9 +116,8 @@ void setScriptAnswer(ScriptPlayer& player, const Arguments& arguments) {
     player.machine().faults.scriptAnswer = textOrOff(arguments);
 }
 
-constexpr Choice<desk::ReadFault> readFaults[] = {{"missing", desk::ReadFault::missing},
-                                                  {"wrong-type", desk::ReadFault::wrongType},
-                                                  {"off", desk::ReadFault::none}};
+constexpr Choice<desk::ReadFault> readFaults[] = {
+    {"missing", desk::ReadFault::missing}, {"wrong-type", desk::ReadFault::wrongType}, {"off", desk::ReadFault::none}};
 
 std::int64_t optionalWindow(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(2, 3);

@@ -62,7 +62,8 @@ void addScreen(ScriptPlayer& player, const Arguments& arguments) {
     for (std::size_t i = 4; i < arguments.count(); i += 2) {
         if (arguments.is(i, "fps")) {
             options.framesPerSecond = static_cast<int>(arguments.integer(i + 1));
-            if (options.framesPerSecond < 1 || options.framesPerSecond > 1000) badCommand("no rate: " + arguments.text(i + 1));
+            if (options.framesPerSecond < 1 || options.framesPerSecond > 1000)
+                badCommand("no rate: " + arguments.text(i + 1));
         } else if (arguments.is(i, "menubar")) {
             options.menuBar = arguments.number(i + 1);
         } else if (arguments.is(i, "dock")) {
@@ -108,8 +109,8 @@ void setPermission(ScriptPlayer& player, const Arguments& arguments) {
 }
 
 void setDefault(ScriptPlayer& player, const Arguments& arguments) {
-    static constexpr Choice<bool> booleans[] = {{"true", true}, {"false", false}, {"1", true}, {"0", false},
-                                                {"yes", true},  {"no", false}};
+    static constexpr Choice<bool> booleans[] = {{"true", true}, {"false", false}, {"1", true},
+                                                {"0", false},   {"yes", true},    {"no", false}};
     arguments.requireCount(3, 100);
     requireBeforeLaunch(player);
     auto& stored = player.session().image.storedDefaults;

@@ -28,8 +28,7 @@ ScriptPlayer::~ScriptPlayer() {
 
 int ScriptPlayer::play() {
     machine().settle();
-    while (step()) {
-    }
+    while (step()) {}
     return exitCode;
 }
 

@@ -84,12 +84,9 @@ QJsonObject observerState(const brindle::FinderObserver& observer) {
 
 QJsonObject observer(const Session& session) {
     if (const auto* orvane = session.orvane()) return observerState(orvane->appDelegate.finderObserver());
-    return {{"windows", QJsonArray()},
-            {"activeWindow", QJsonValue()},
-            {"finderIsFrontmost", false},
-            {"frontmostApplicationBundleIdentifier", QJsonValue()},
-            {"tracking", "idle"},
-            {"editRequests", 0}};
+    return {{"windows", QJsonArray()},    {"activeWindow", QJsonValue()},
+            {"finderIsFrontmost", false}, {"frontmostApplicationBundleIdentifier", QJsonValue()},
+            {"tracking", "idle"},         {"editRequests", 0}};
 }
 
 std::string nameOfOther(const desk::Machine& machine, std::int32_t owner) {

@@ -57,8 +57,8 @@ TEST(Json, FindsWhatStandsAtAPointer) {
         std::string_view pointer;
         const char* found;  // null: nothing
     } cases[] = {
-        {"/a/0/b~1c", "1"}, {"/a/0/~0", "null"},    {"/a/1", "2.5"},     {"/", "\"empty\""}, {"/a/2", nullptr},
-        {"/a/-1", nullptr}, {"/a/0/b/c", nullptr},  {"/x", nullptr},     {"/a/1/0", nullptr}, {"/a/01x", nullptr},
+        {"/a/0/b~1c", "1"}, {"/a/0/~0", "null"},   {"/a/1", "2.5"}, {"/", "\"empty\""},  {"/a/2", nullptr},
+        {"/a/-1", nullptr}, {"/a/0/b/c", nullptr}, {"/x", nullptr}, {"/a/1/0", nullptr}, {"/a/01x", nullptr},
     };
     for (const auto& each : cases) {
         const auto found = play::valueAt(document, each.pointer);
@@ -73,12 +73,14 @@ TEST(Json, ComparesNumbersAsDoublesAndEverythingElseExactly) {
         const char* b;
         bool equal;
     } cases[] = {
-        {"1", "1.0", true},          {"[1,{\"x\":2}]", "[1.0,{\"x\":2e0}]", true}, {"1", "\"1\"", false},
-        {"null", "false", false},    {"[1]", "[1,2]", false},                      {"{\"a\":1}", "{\"a\":1,\"b\":2}", false},
-        {"\"a\"", "\"a\"", true},    {"\"é\"", "\"e\\u0301\"", false},
+        {"1", "1.0", true},       {"[1,{\"x\":2}]", "[1.0,{\"x\":2e0}]", true},
+        {"1", "\"1\"", false},    {"null", "false", false},
+        {"[1]", "[1,2]", false},  {"{\"a\":1}", "{\"a\":1,\"b\":2}", false},
+        {"\"a\"", "\"a\"", true}, {"\"é\"", "\"e\\u0301\"", false},
     };
     for (const auto& each : cases)
-        EXPECT_EQ(play::equal(*play::parseJson(each.a), *play::parseJson(each.b)), each.equal) << each.a << ' ' << each.b;
+        EXPECT_EQ(play::equal(*play::parseJson(each.a), *play::parseJson(each.b)), each.equal)
+            << each.a << ' ' << each.b;
     EXPECT_FALSE(play::parseJson("1 2"));
     EXPECT_FALSE(play::parseJson("nothing"));
 }
