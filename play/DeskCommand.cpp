@@ -7,7 +7,8 @@
 #include <optional>
 #include <string_view>
 
-#include <QLoggingCategory>
+#include <QString>
+#include <QtGlobal>
 
 #include "desk/display/GuiApplication.h"
 #include "play/ScriptPlayer.h"
@@ -61,11 +62,15 @@ struct Mode {
 };
 constexpr Mode modes[] = {{"--script", playScript}, {"--tour", playTour}, {"--help", showHelp}};
 
-// Scripts and the tour need no display, and are the same wherever they are played. The toolkit would warn of a missing runtime folder that it doesn't use then.
+// A toolkit without a session of a desktop warns of what it doesn't need here.
+void writeToolkitMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message) {
+    if (!message.startsWith(QLatin1String("QStandardPaths: "))) std::cerr << message.toStdString() << '\n';
+}
+
+// Scripts and the tour are the same wherever they are played.
 void drawWithoutDisplay() {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
-        QLoggingCategory::setFilterRules(QStringLiteral("qt.core.qstandardpaths.warning=false"));
+    qInstallMessageHandler(writeToolkitMessage);
 }
 
 }  // namespace
