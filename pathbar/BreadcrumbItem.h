@@ -1,4 +1,5 @@
-// One crumb of a path: what it is called and which folder it stands for. A plain value, made from the text of a path alone; see BreadcrumbModel.h.
+// One crumb of a path: what it is called and which folder it stands for. A plain value, made from the text of a path
+// alone; see BreadcrumbModel.h.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// What crumbs a window's bar has, and which of them fit a row: pure logic on the text of a path and the widths of titles. Nothing here touches the
-// disk: no volume name, home folder or localised name is looked up.
+// What crumbs a window's bar has, and which of them fit a row: pure logic on the text of a path and the widths of
+// titles. Nothing here touches the disk: no volume name, home folder or localised name is looked up.
 #pragma once
 
 #include <span>

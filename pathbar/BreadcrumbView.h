@@ -1,5 +1,6 @@
-// The row of crumbs: a button for each, a folder menu behind each but the last, an ellipsis menu for those that don't fit, and empty space that asks for
-// editing. It reports what was chosen and navigates nothing itself; which crumbs fit is BreadcrumbModel's business.
+// The row of crumbs: a button for each, a folder menu behind each but the last, an ellipsis menu for those that don't
+// fit, and empty space that asks for editing. It reports what was chosen and navigates nothing itself; which crumbs fit
+// is BreadcrumbModel's business.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
-// The styles of the plate behind every bar. What each looks like is PathBarBackground's business; which one is chosen, PathBarDesignManager's.
+// The styles of the plate behind every bar. What each looks like is PathBarBackground's business; which one is chosen,
+// PathBarDesignManager's.
 #pragma once
 
 #include <array>

@@ -1,4 +1,5 @@
-// Holds the chosen style of all bars and keeps it in the user defaults. There is one for each application: platform.shared<PathBarDesignManager>().
+// Holds the chosen style of all bars and keeps it in the user defaults. There is one for each application:
+// platform.shared<PathBarDesignManager>().
 #pragma once
 
 #include "pathbar/PathBarDesign.h"

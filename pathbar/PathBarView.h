@@ -1,5 +1,6 @@
-// Everything that one bar shows: brand label, crumbs or path field, and copy button on a plate in the chosen style, with one context menu and two popovers.
-// It decides nothing about paths or Finder: each action is a callback of its owner, who also holds the editing state behind the bindings.
+// Everything that one bar shows: brand label, crumbs or path field, and copy button on a plate in the chosen style,
+// with one context menu and two popovers. It decides nothing about paths or Finder: each action is a callback of its
+// owner, who also holds the editing state behind the bindings.
 #pragma once
 
 #include <functional>

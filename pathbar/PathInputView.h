@@ -1,4 +1,5 @@
-// The path field that takes the crumbs' place while a bar is edited. It has no policy about paths: it edits a text and reports Return and Escape.
+// The path field that takes the crumbs' place while a bar is edited. It has no policy about paths: it edits a text and
+// reports Return and Escape.
 #pragma once
 
 #include <functional>

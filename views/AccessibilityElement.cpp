@@ -16,6 +16,15 @@ void addText(const Layout& layout, std::int32_t index, std::string& text) {
         addText(layout, child, text);
 }
 
+std::string firstSymbol(const Layout& layout, std::int32_t index) {
+    const LayoutItem& item = layout[index];
+    if (item.kind == ItemKind::symbol) return item.view->as<ImageContent>().systemName;
+    std::string found;
+    for (std::int32_t child = item.firstChild; child >= 0 && found.empty(); child = layout[child].nextSibling)
+        found = firstSymbol(layout, child);
+    return found;
+}
+
 std::optional<AccessibilityRole> roleOf(const LayoutItem& item) {
     switch (item.viewKind) {
     case ViewKind::button:
@@ -71,8 +80,10 @@ private:
         element.label = said.label;
         if (element.label.empty() && role != AccessibilityRole::group) addText(layout, index, element.label);
         const LayoutItem& item = layout[index];
-        if (item.kind == ItemKind::text) element.value = item.view->as<TextContent>().text;
-        if (item.kind == ItemKind::symbol) element.value = item.view->as<ImageContent>().systemName;
+        if (item.kind == ItemKind::text)
+            element.value = item.view->as<TextContent>().text;
+        else if (role != AccessibilityRole::group)
+            element.value = firstSymbol(layout, index);
         element.identifier = said.identifier;
         element.key = said.key;
         element.help = said.help;
@@ -80,7 +91,8 @@ private:
         elements.push_back(std::move(element));
     }
 
-    // A frame or padding that was given an identifier, around one element, is that element: its frame, the element's role.
+    // A frame or padding that was given an identifier, around one element, is that element: its frame, the element's
+    // role.
     void mergeOnlyChild(std::size_t group, const std::string& identifier) {
         const bool hasOne = elements.size() == group + 2 && elements.back().identifier == identifier;
         if (!hasOne) {

@@ -13,7 +13,7 @@ enum class AccessibilityRole : std::uint8_t { group, staticText, image, button, 
 struct AccessibilityElement {
     AccessibilityRole role = AccessibilityRole::group;
     std::string label;       // accessibilityLabel() if given, else the texts inside
-    std::string value;       // of text: the text; of an image: the symbol's name; of a field: its text
+    std::string value;       // of a text: the text; of an image, and of what has one for a label: the symbol's name
     std::string identifier;  // accessibilityIdentifier() of this or the nearest view around it that isn't an element
     std::string key;         // the nearest id() of repeated content
     std::string help;

@@ -1,5 +1,5 @@
-// Where a view stands inside something larger than itself, and which edges and axes a modifier is about. Leading is left: the system has no
-// right-to-left layout.
+// Where a view stands inside something larger than itself, and which edges and axes a modifier is about. Leading is
+// left: the system has no right-to-left layout.
 #pragma once
 
 #include <cstdint>
@@ -28,6 +28,14 @@ inline constexpr Alignment Alignment::trailing{HorizontalAlignment::trailing, Ve
 inline constexpr Alignment Alignment::top{HorizontalAlignment::center, VerticalAlignment::top};
 inline constexpr Alignment Alignment::bottom{HorizontalAlignment::center, VerticalAlignment::bottom};
 inline constexpr Alignment Alignment::topLeading{HorizontalAlignment::leading, VerticalAlignment::top};
+
+// How far from the leading or top edge something stands when there is this much room to spare.
+constexpr double offsetOf(HorizontalAlignment alignment, double room) {
+    return alignment == HorizontalAlignment::leading ? 0 : alignment == HorizontalAlignment::center ? room / 2 : room;
+}
+constexpr double offsetOf(VerticalAlignment alignment, double room) {
+    return alignment == VerticalAlignment::top ? 0 : alignment == VerticalAlignment::center ? room / 2 : room;
+}
 
 enum class Edge : std::uint8_t {
     top = 1,

@@ -1,5 +1,5 @@
-// A two-way connection to a value that lives elsewhere: in a view's state, in an observed object, or worked out on the fly.
-// It owns nothing; what its closures capture has to live as long as the view that holds it.
+// A two-way connection to a value that lives elsewhere: in a view's state, in an observed object, or worked out on the
+// fly. It owns nothing; what its closures capture has to live as long as the view that holds it.
 #pragma once
 
 #include <functional>

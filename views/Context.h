@@ -1,5 +1,6 @@
-// How the properties of a view (State, ObservedObject, Environment) reach what their host keeps for the view's place in the tree. A view with such
-// properties has `void connect(views::Context& context)`, which hands them to context.connect() in a fixed order; the host calls it before body().
+// How the properties of a view (State, ObservedObject, Environment) reach what their host keeps for the view's place in
+// the tree. A view with such properties has `void connect(views::Context& context)`, which hands them to
+// context.connect() in a fixed order; the host calls it before body().
 #pragma once
 
 #include <cstddef>

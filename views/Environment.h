@@ -1,4 +1,5 @@
-// The colour scheme as a view's body sees it. A view that reads it is evaluated again when it changes; one that doesn't isn't.
+// The colour scheme as a view's body sees it. A view that reads it is evaluated again when it changes; one that doesn't
+// isn't.
 #pragma once
 
 #include <memory>

@@ -4,6 +4,7 @@
 
 #include "views/DrawingOfLayout.h"
 #include "views/LayoutPass.h"
+#include "views/PresentedPopover.h"
 #include "views/Reconciler.h"
 
 namespace views {
@@ -29,6 +30,9 @@ HostingView::~HostingView() {
 
 void HostingView::didMoveToWindow(platform::NSWindow* theWindow) {
     window = theWindow;
+    if (window != nullptr) return;
+    menu.reset();
+    popovers.clear();
 }
 
 void HostingView::setSize(CGSize theSize) {
@@ -41,6 +45,7 @@ void HostingView::setSize(CGSize theSize) {
 void HostingView::setOnScreen(bool onScreen) {
     if (onScreen == isOnScreen) return;
     isOnScreen = onScreen;
+    if (!isOnScreen) menu.reset();
     runTasks();
 }
 
@@ -56,9 +61,11 @@ void HostingView::scheduleUpdate() {
 
 void HostingView::update() {
     isScheduled = false;
-    if (needsEvaluation) evaluate();
+    // Laying out for another size declares parts of the tree anew.
+    if (needsEvaluation || (needsLayout && isTreeNeeded())) evaluate();
     if (needsLayout) layOut();
     runTasks();
+    presentPopovers();
 }
 
 void HostingView::evaluate() {
@@ -69,14 +76,12 @@ void HostingView::evaluate() {
     Reconciler reconciler(link, tasks);
     const bool looksAlike = reconciler.update(*fresh, tree.get());
     followColorScheme();
-    // While an action runs, what it was declared in has to stay, so the tree is replaced as a whole.
-    if (looksAlike && actionsRunning == 0) {
+    if (looksAlike && !isTreeNeeded()) {
         Reconciler::takeBehaviour(*tree, *fresh);
         return;
     }
-    std::swap(tree, fresh);
+    tree = std::move(fresh);
     needsLayout = true;
-    if (actionsRunning > 0) retired.push_back(std::move(fresh));
 }
 
 void HostingView::layOut() {
@@ -139,7 +144,8 @@ void HostingView::handleEvent(const platform::NSEvent& event) {
         void (HostingView::*handler)(const platform::NSEvent&);
     };
     static constexpr Entry handlers[] = {{NSEventType::leftMouseDown, &HostingView::mouseDown},
-                                         {NSEventType::leftMouseUp, &HostingView::mouseUp}};
+                                         {NSEventType::leftMouseUp, &HostingView::mouseUp},
+                                         {NSEventType::rightMouseDown, &HostingView::rightMouseDown}};
     for (const Entry& entry : handlers)
         if (entry.type == event.type) (this->*entry.handler)(event);
 }
@@ -150,7 +156,14 @@ std::optional<std::int32_t> HostingView::reactingItem(CGPoint point) const {
 
 void HostingView::mouseDown(const platform::NSEvent& event) {
     press.reset();
-    if (const auto item = reactingItem(convertFromWindow(event.locationInWindow))) press = Press{frames.placeOf(*item)};
+    const bool isControlClick = (event.modifierFlags & platform::NSEventModifierFlags::control) != 0;
+    if (isControlClick && openContextMenu(event)) return;
+    const auto item = reactingItem(convertFromWindow(event.locationInWindow));
+    if (!item) return;
+    if (frames[*item].viewKind == ViewKind::menu)
+        openMenu(frames[*item]);
+    else
+        press = Press{frames.placeOf(*item)};
 }
 
 // The place is compared, not the item: the tree may have been rebuilt since the press.
@@ -163,13 +176,8 @@ void HostingView::mouseUp(const platform::NSEvent& event) {
 
 void HostingView::run(const std::function<void()>& action) {
     if (!action) return;
-    const auto alive = lifetime.watch();
     const auto keptTree = tree;
-    actionsRunning += 1;
     action();
-    if (alive.expired()) return;
-    actionsRunning -= 1;
-    if (actionsRunning == 0) retired.clear();
 }
 
 }  // namespace views

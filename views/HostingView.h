@@ -1,9 +1,12 @@
-// Shows a tree of views in a window. It evaluates the tree when something observed has changed, once at the end of the turn, compares it with the one before, and
-// lays out and repaints only if they differ; a window that merely moves costs nothing. Mouse events go to the views under them.
+// Shows a tree of views in a window. It evaluates the tree when something observed has changed, once at the end of the
+// turn, compares it with the one before, and lays out and repaints only if they differ; a window that merely moves
+// costs nothing. Mouse events go to the views under them; menus open on a press, with their content as of then, and
+// popovers are up while they are presented.
 #pragma once
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,6 +21,8 @@
 #include "views/View.h"
 
 namespace views {
+
+struct PresentedPopover;
 
 class HostingView : public platform::ContentView {
 public:
@@ -59,16 +64,26 @@ private:
     void runTasks();
     void mouseDown(const platform::NSEvent& event);
     void mouseUp(const platform::NSEvent& event);
+    void rightMouseDown(const platform::NSEvent& event);
     void run(const std::function<void()>& action);
     std::optional<std::int32_t> reactingItem(CGPoint point) const;
+    // An action that runs, or may yet run from an open menu, needs what it was declared in as it was then.
+    bool isTreeNeeded() const { return tree.use_count() > 1; }
+
+    // In HostingView+Menus.cpp.
+    CGRect convertToScreen(const CGRect& rect) const;
+    std::vector<platform::MenuItem> evaluateMenu(const View& declaredAt);
+    void openMenu(const LayoutItem& item);
+    bool openContextMenu(const platform::NSEvent& event);
+    void presentPopovers();
+    void present(const std::string& place, const LayoutItem& item, const Popover& declared);
+    static void refresh(PresentedPopover& popover, const CGRect& anchor, const Popover& declared);
+    void dismissed(std::string place);
 
     const std::shared_ptr<Composite> root;
     RenderCounts::Counts& counts;
     const std::shared_ptr<HostLink> link;
-    // An action keeps what it was declared in while it runs, even if the view is rebuilt or the host goes meanwhile.
     std::shared_ptr<View> tree;
-    std::vector<std::shared_ptr<View>> retired;
-    int actionsRunning = 0;
     std::vector<std::weak_ptr<TaskSlot>> tasks;
     Layout frames;
     platform::Drawing painted;
@@ -76,6 +91,8 @@ private:
     CGSize size;
     platform::NSWindow* window = nullptr;
     std::optional<Press> press;
+    std::unique_ptr<platform::MenuHandle> menu;
+    std::map<std::string, std::unique_ptr<PresentedPopover>> popovers;  // by place
     platform::Token colorSchemeToken;
     bool isOnScreen = false;
     bool needsEvaluation = true;

@@ -1,5 +1,6 @@
-// Where everything stands: the tree of frames of one evaluated tree, as a value. Drawing, hit testing, accessibility and tests read it; LayoutPass.h makes it.
-// Frames are in view space: points from the top left of the host, y downward. It refers into the tree it was made from.
+// Where everything stands: the tree of frames of one evaluated tree, as a value. Drawing, hit testing, accessibility
+// and tests read it; LayoutPass.h makes it. Frames are in view space: points from the top left of the host, y downward.
+// It refers into the tree it was made from.
 #pragma once
 
 #include <array>
@@ -52,15 +53,23 @@ struct LayoutItem {
     Color color;
     CGSize natural;  // of text and symbols
 
-    // What the parent offered last, and answers given in this pass.
-    ProposedSize offered;
+    ProposedSize offered;  // by the parent, last
+    ProposedSize shared;   // of a stack: the proposal that its children's offers were worked out for
+    bool isShared = false;
+
+    // What it answered in this pass. Left as they are until they count.
     struct Answer {
-        ProposedSize proposal;
-        CGSize size;
+        double proposedWidth;
+        double proposedHeight;
+        double width;
+        double height;
     };
     std::array<Answer, 3> answers;
     std::uint8_t answerCount = 0;
     std::uint8_t nextAnswer = 0;
+
+    // Written out so that `answers` isn't cleared for every item of every pass.
+    LayoutItem() {}  // NOLINT(cppcoreguidelines-pro-type-member-init,modernize-use-equals-default)
 };
 
 class Layout {

@@ -1,4 +1,5 @@
-// How a stack shares its length among its children: higher layout priorities first, and among equals the least flexible first.
+// How a stack shares its length among its children: higher layout priorities first, and among equals the least flexible
+// first.
 #include <algorithm>
 
 #include "views/LayoutPass.h"
@@ -19,7 +20,7 @@ private:
     const double cross;
 };
 
-CGSize LayoutPass::measureStack(std::int32_t index, ProposedSize proposal) {
+CGSize LayoutPass::measureStack(std::int32_t index, const ProposedSize& proposal) {
     distribute(index, proposal);
     const LayoutItem& stack = layout[index];
     const double spacing = stack.view->as<StackContent>().spacing;
@@ -34,8 +35,11 @@ CGSize LayoutPass::measureStack(std::int32_t index, ProposedSize proposal) {
     return total;
 }
 
-void LayoutPass::distribute(std::int32_t index, ProposedSize proposal) {
-    const LayoutItem& stack = layout[index];
+void LayoutPass::distribute(std::int32_t index, const ProposedSize& proposal) {
+    LayoutItem& stack = layout[index];
+    if (stack.isShared && stack.shared == proposal) return;
+    stack.shared = proposal;
+    stack.isShared = true;
     const bool isVertical = stack.kind == ItemKind::vStack;
     const Axis axis(stack, isVertical ? proposal.width : proposal.height);
     const double length = isVertical ? proposal.height : proposal.width;
@@ -52,7 +56,8 @@ void LayoutPass::distribute(std::int32_t index, ProposedSize proposal) {
     if (!offerAmpleRoom(stack, axis, available)) offerByPriority(stack, axis, available);
 }
 
-// When all have priorities of their own and their largest sizes fit together, each gets its largest, whatever the order: one question each.
+// When all have priorities of their own and their largest sizes fit together, each gets its largest, whatever the
+// order: one question each.
 bool LayoutPass::offerAmpleRoom(const LayoutItem& stack, const Axis& axis, double available) {
     double last = -infinity;
     for (std::int32_t child = stack.firstChild; child >= 0; child = layout[child].nextSibling) {
@@ -106,9 +111,9 @@ void LayoutPass::placeStack(std::int32_t index, const CGRect& frame) {
     double y = frame.minY();
     for (std::int32_t child = layout[index].firstChild; child >= 0; child = layout[child].nextSibling) {
         const CGSize size = measure(child, layout[child].offered);
-        const CGRect lane =
-            isVertical ? CGRectMake(x, y, frame.width(), size.height) : CGRectMake(x, y, size.width, frame.height());
-        placeAligned(child, lane, stack.alignment, layout[child].offered);
+        const double aside = isVertical ? offsetOf(stack.alignment.horizontal, frame.width() - size.width)
+                                        : offsetOf(stack.alignment.vertical, frame.height() - size.height);
+        place(child, {isVertical ? CGPoint{x + aside, y} : CGPoint{x, y + aside}, size});
         (isVertical ? y : x) += (isVertical ? size.height : size.width) + stack.spacing;
     }
 }

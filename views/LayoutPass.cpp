@@ -32,13 +32,6 @@ double flexibleLength(double offered, double minimum, double maximum, double con
     return std::max(low, std::min(wanted, high));
 }
 
-double offsetOf(HorizontalAlignment alignment, double room) {
-    return alignment == HorizontalAlignment::leading ? 0 : alignment == HorizontalAlignment::center ? room / 2 : room;
-}
-double offsetOf(VerticalAlignment alignment, double room) {
-    return alignment == VerticalAlignment::top ? 0 : alignment == VerticalAlignment::center ? room / 2 : room;
-}
-
 CGSize larger(CGSize a, CGSize b) {
     return {std::max(a.width, b.width), std::max(a.height, b.height)};
 }
@@ -58,37 +51,56 @@ CGSize LayoutPass::idealSize(View& root) {
     return measure(layout.root(), {});
 }
 
-CGSize LayoutPass::measure(std::int32_t index, ProposedSize proposal) {
+CGSize LayoutPass::measure(std::int32_t index, const ProposedSize& proposal) {
     LayoutItem& item = layout[index];
-    for (std::size_t answer = 0; answer < item.answerCount; ++answer)
-        if (item.answers[answer].proposal == proposal) return item.answers[answer].size;
+    if (const auto size = measureAtOnce(item, proposal)) return *size;
+    for (std::size_t known = 0; known < item.answerCount; ++known) {
+        const LayoutItem::Answer& answer = item.answers[known];
+        if (answer.proposedWidth == proposal.width && answer.proposedHeight == proposal.height)
+            return {answer.width, answer.height};
+    }
     const CGSize size = measureAnew(index, proposal);
-    item.answers[item.nextAnswer] = {proposal, size};
+    item.answers[item.nextAnswer] = {proposal.width, proposal.height, size.width, size.height};
     item.answerCount = std::max<std::uint8_t>(item.answerCount, static_cast<std::uint8_t>(item.nextAnswer + 1));
     item.nextAnswer = static_cast<std::uint8_t>((item.nextAnswer + 1U) % item.answers.size());
     return size;
 }
 
-CGSize LayoutPass::measureAnew(std::int32_t index, ProposedSize proposal) {
-    const LayoutItem& item = layout[index];
+// What is no more work than looking an answer up.
+std::optional<CGSize> LayoutPass::measureAtOnce(const LayoutItem& item, const ProposedSize& proposal) {
     switch (item.kind) {
     case ItemKind::empty:
-        return {};
+        return CGSize{};
     case ItemKind::text:
         return measureText(item, proposal);
     case ItemKind::symbol:
         return item.natural;
     case ItemKind::shape:
     case ItemKind::geometryReader:
-        return {orElse(proposal.width, withoutPreference), orElse(proposal.height, withoutPreference)};
+        return CGSize{orElse(proposal.width, withoutPreference), orElse(proposal.height, withoutPreference)};
     case ItemKind::spacer: {
         const double least = item.natural.width;
-        if (item.isVertical) return {0, std::max(least, proposal.height)};
-        return {std::max(least, proposal.width), 0};
+        return item.isVertical ? CGSize{0, std::max(least, proposal.height)}
+                               : CGSize{std::max(least, proposal.width), 0};
     }
     case ItemKind::divider:
-        if (item.isVertical) return {orElse(proposal.width, withoutPreference), 1};
-        return {1, orElse(proposal.height, withoutPreference)};
+        return item.isVertical ? CGSize{orElse(proposal.width, withoutPreference), 1}
+                               : CGSize{1, orElse(proposal.height, withoutPreference)};
+    case ItemKind::passThrough:
+        return measure(item.firstChild, proposal);
+    case ItemKind::fixedFrame: {
+        const auto& frame = std::get<FixedFrame>(*item.modifier);
+        if (frame.width == unspecified || frame.height == unspecified) return std::nullopt;
+        return CGSize{frame.width, frame.height};
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+CGSize LayoutPass::measureAnew(std::int32_t index, const ProposedSize& proposal) {
+    const LayoutItem& item = layout[index];
+    switch (item.kind) {
     case ItemKind::hStack:
     case ItemKind::vStack:
         return measureStack(index, proposal);
@@ -99,23 +111,22 @@ CGSize LayoutPass::measureAnew(std::int32_t index, ProposedSize proposal) {
     }
 }
 
-CGSize LayoutPass::measureText(const LayoutItem& item, ProposedSize proposal) {
+CGSize LayoutPass::measureText(const LayoutItem& item, const ProposedSize& proposal) {
     if (proposal.width == unspecified || item.natural.width <= proposal.width) return item.natural;
     const double least = std::min(item.natural.width, std::ceil(text.width("…", item.font)));
     return {std::max(proposal.width, least), item.natural.height};
 }
 
-CGSize LayoutPass::measureLayers(const LayoutItem& item, ProposedSize proposal) {
+CGSize LayoutPass::measureLayers(const LayoutItem& item, const ProposedSize& proposal) {
     CGSize size;
     for (std::int32_t child = item.firstChild; child >= 0; child = layout[child].nextSibling)
         size = larger(size, measure(child, proposal));
     return size;
 }
 
-CGSize LayoutPass::measureChild(const LayoutItem& item, ProposedSize proposal) {
+CGSize LayoutPass::measureChild(const LayoutItem& item, const ProposedSize& proposal) {
     if (item.kind == ItemKind::fixedFrame) {
         const auto& frame = std::get<FixedFrame>(*item.modifier);
-        if (frame.width != unspecified && frame.height != unspecified) return {frame.width, frame.height};
         const CGSize inner = measure(contentOf(item), proposalInside(item, proposal));
         return {orElse(frame.width, inner.width), orElse(frame.height, inner.height)};
     }
@@ -132,7 +143,7 @@ CGSize LayoutPass::measureChild(const LayoutItem& item, ProposedSize proposal) {
     return inner;
 }
 
-ProposedSize LayoutPass::proposalInside(const LayoutItem& item, ProposedSize proposal) const {
+ProposedSize LayoutPass::proposalInside(const LayoutItem& item, const ProposedSize& proposal) const {
     switch (item.kind) {
     case ItemKind::padding: {
         const auto& insets = std::get<EdgeInsets>(*item.modifier);
@@ -180,12 +191,17 @@ void LayoutPass::place(std::int32_t index, const CGRect& frame) {
             placeAligned(child, frame, alignment, layout[index].offered);
         break;
     }
+    case ItemKind::passThrough:
+        layout[item.firstChild].offered = item.offered;
+        place(item.firstChild, frame);
+        break;
     default:
         if (item.firstChild >= 0) placeContent(item, frame);
     }
 }
 
-void LayoutPass::placeAligned(std::int32_t child, const CGRect& inside, Alignment alignment, ProposedSize offered) {
+void LayoutPass::placeAligned(std::int32_t child, const CGRect& inside, Alignment alignment,
+                              const ProposedSize& offered) {
     layout[child].offered = offered;
     const CGSize size = measure(child, offered);
     const double x = offsetOf(alignment.horizontal, inside.size.width - size.width);

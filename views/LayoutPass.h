@@ -1,8 +1,10 @@
-// Works out a Layout by the proposal model: a parent proposes a size, the child answers the size it takes, the parent places it. One object lays out
-// one tree once. It measures text through the TextSystem and asks for the content of geometry readers, and knows nothing of windows or drawing.
+// Works out a Layout by the proposal model: a parent proposes a size, the child answers the size it takes, the parent
+// places it. One object lays out one tree once. It measures text through the TextSystem and asks for the content of
+// geometry readers, and knows nothing of windows or drawing.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "platform/Text.h"
@@ -61,23 +63,24 @@ private:
     std::int32_t open(ItemKind kind, View& view, Siblings& siblings, Pending& pending,
                       const Modifier* modifier = nullptr);
 
-    CGSize measure(std::int32_t index, ProposedSize proposal);
-    CGSize measureAnew(std::int32_t index, ProposedSize proposal);
-    CGSize measureText(const LayoutItem& item, ProposedSize proposal);
-    CGSize measureLayers(const LayoutItem& item, ProposedSize proposal);
-    CGSize measureStack(std::int32_t index, ProposedSize proposal);
-    CGSize measureChild(const LayoutItem& item, ProposedSize proposal);
-    ProposedSize proposalInside(const LayoutItem& item, ProposedSize proposal) const;
+    CGSize measure(std::int32_t index, const ProposedSize& proposal);
+    std::optional<CGSize> measureAtOnce(const LayoutItem& item, const ProposedSize& proposal);
+    CGSize measureAnew(std::int32_t index, const ProposedSize& proposal);
+    CGSize measureText(const LayoutItem& item, const ProposedSize& proposal);
+    CGSize measureLayers(const LayoutItem& item, const ProposedSize& proposal);
+    CGSize measureStack(std::int32_t index, const ProposedSize& proposal);
+    CGSize measureChild(const LayoutItem& item, const ProposedSize& proposal);
+    ProposedSize proposalInside(const LayoutItem& item, const ProposedSize& proposal) const;
     std::int32_t contentOf(const LayoutItem& item) const;
 
     // Offers every child of the stack its share; what they took is then their answer to `offered`.
-    void distribute(std::int32_t stack, ProposedSize proposal);
+    void distribute(std::int32_t stack, const ProposedSize& proposal);
     bool offerAmpleRoom(const LayoutItem& stack, const Axis& axis, double available);
     void offerByPriority(const LayoutItem& stack, const Axis& axis, double available);
     double offer(std::int32_t child, const Axis& axis, double length);
 
     void place(std::int32_t index, const CGRect& frame);
-    void placeAligned(std::int32_t child, const CGRect& inside, Alignment alignment, ProposedSize offered);
+    void placeAligned(std::int32_t child, const CGRect& inside, Alignment alignment, const ProposedSize& offered);
     void placeStack(std::int32_t index, const CGRect& frame);
     void placeReader(std::int32_t index, const CGRect& frame);
     void placeContent(const LayoutItem& item, const CGRect& frame);

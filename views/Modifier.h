@@ -1,5 +1,5 @@
-// The modifiers that are plain numbers and apply to one child: they are kept inside the view they modify, in order from the inside out. Those that carry
-// closures or further views (background, popover, ...) are nodes of their own.
+// The modifiers that are plain numbers and apply to one child: they are kept inside the view they modify, in order from
+// the inside out. Those that carry closures or further views (background, popover, ...) are nodes of their own.
 #pragma once
 
 #include <array>

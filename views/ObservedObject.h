@@ -1,4 +1,5 @@
-// An object that a view reads: any change of it has the view evaluated again, once, at the end of the turn. The object outlives the view.
+// An object that a view reads: any change of it has the view evaluated again, once, at the end of the turn. The object
+// outlives the view.
 #pragma once
 
 #include <memory>

@@ -81,7 +81,8 @@ bool Reconciler::updateComposite(View& fresh, View* previous) {
     return update(fresh.children.front(), previous == nullptr ? nullptr : &previous->children.front());
 }
 
-// With the size it had, so that a difference inside is found before anything is laid out. A new reader waits for its size.
+// With the size it had, so that a difference inside is found before anything is laid out. A new reader waits for its
+// size.
 bool Reconciler::updateReader(View& fresh, View* previous) {
     if (previous == nullptr || previous->children.empty()) return false;
     auto& content = fresh.as<ReaderContent>();

@@ -1,5 +1,6 @@
-// Carries what a tree's places keep (state, subscriptions, tasks) over into the tree that replaces it, evaluates the bodies in it on the way, and finds out
-// whether the two look alike. Places match by position and type, among repeated siblings by key.
+// Carries what a tree's places keep (state, subscriptions, tasks) over into the tree that replaces it, evaluates the
+// bodies in it on the way, and finds out whether the two look alike. Places match by position and type, among repeated
+// siblings by key.
 #pragma once
 
 #include <memory>
@@ -15,7 +16,8 @@ public:
     // `theTasks` gets the slots of tasks that weren't there before.
     Reconciler(std::shared_ptr<HostLink> theHost, std::vector<std::weak_ptr<TaskSlot>>& theTasks);
 
-    // Answers whether both would be laid out and drawn the same. `previous` is null where there was nothing, and has lost its state afterwards.
+    // Answers whether both would be laid out and drawn the same. `previous` is null where there was nothing, and has
+    // lost its state afterwards.
     bool update(View& fresh, View* previous);
 
     // Makes sure that the geometry reader's child is its content for this size.

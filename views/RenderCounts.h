@@ -1,4 +1,5 @@
-// How often the hosts of one application evaluated and laid out their trees, by what they show. Reached by platform.shared<RenderCounts>().
+// How often the hosts of one application evaluated and laid out their trees, by what they show. Reached by
+// platform.shared<RenderCounts>().
 #pragma once
 
 #include <array>

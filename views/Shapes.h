@@ -1,4 +1,5 @@
-// Shapes: they take the size they are offered. Without fill or stroke they are filled with the foreground colour in force.
+// Shapes: they take the size they are offered. Without fill or stroke they are filled with the foreground colour in
+// force.
 #pragma once
 
 #include <utility>

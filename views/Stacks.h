@@ -51,7 +51,8 @@ View ZStack(ZStackArguments arguments, Children&&... children) {
     return container(ViewKind::zStack, StackContent{arguments.alignment, 0}, std::forward<Children>(children)...);
 }
 
-// Its children count as children of the container around it, unless it has modifiers: then they are layered within those.
+// Its children count as children of the container around it, unless it has modifiers: then they are layered within
+// those.
 template <typename... Children>
 View Group(Children&&... children) {
     return container(ViewKind::group, {}, std::forward<Children>(children)...);
@@ -61,7 +62,8 @@ inline View EmptyView() {
     return View();
 }
 
-// One view for each item, keyed by `id`, so that what belongs to an item stays with it when others come and go. `build` gets the offset and the item.
+// One view for each item, keyed by `id`, so that what belongs to an item stays with it when others come and go. `build`
+// gets the offset and the item.
 template <typename Items, typename Id, typename Build>
 View ForEach(const Items& items, Id id, Build build) {
     View group(ViewKind::group);
@@ -71,8 +73,8 @@ View ForEach(const Items& items, Id id, Build build) {
     return group;
 }
 
-// Takes all it is offered, tells the builder how much that is, and shows the answer from the top left. The builder is called during layout, and again only
-// when the size or the declaration has changed.
+// Takes all it is offered, tells the builder how much that is, and shows the answer from the top left. The builder is
+// called during layout, and again only when the size or the declaration has changed.
 inline View GeometryReader(std::function<View(CGSize)> content) {
     return View(ViewKind::geometryReader, ReaderContent{std::move(content), {}});
 }

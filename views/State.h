@@ -1,5 +1,6 @@
-// A value that a view keeps for itself between evaluations. It lives in the host, by the view's place in the tree, and goes when that place goes; the field in
-// the view is a reference to it. Writing it has the view evaluated again at the end of the turn, if its body reads it.
+// A value that a view keeps for itself between evaluations. It lives in the host, by the view's place in the tree, and
+// goes when that place goes; the field in the view is a reference to it. Writing it has the view evaluated again at the
+// end of the turn, if its body reads it.
 #pragma once
 
 #include <memory>

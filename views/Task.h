@@ -1,5 +1,5 @@
-// A handle of work on the main thread that waits before it acts and can be cancelled until then. Copies share the task; letting go of the handle doesn't
-// cancel it.
+// A handle of work on the main thread that waits before it acts and can be cancelled until then. Copies share the task;
+// letting go of the handle doesn't cancel it.
 #pragma once
 
 #include <functional>

@@ -1,10 +1,12 @@
-// A node of the declarative tree: what a window shows, said as a value by the body() of some view. Views are made by the builders (Stacks.h, Text.h, Shapes.h,
-// Controls.h), take modifiers by chaining, and are moved into the view that contains them. A node says nothing of where it stands: see Layout.h.
+// A node of the declarative tree: what a window shows, said as a value by the body() of some view. Views are made by
+// the builders (Stacks.h, Text.h, Shapes.h, Controls.h), take modifiers by chaining, and are moved into the view that
+// contains them. A node says nothing of where it stands: see Layout.h.
 //
-//     HStack({.spacing = 0}, Text("Orvane").font({.size = 13}).padding(Edge::leading, 4), Rectangle().fill(color).frame({.width = 1}))
+//     HStack({.spacing = 0}, Text("Orvane").font({.size = 13}).padding(Edge::leading, 4),
+//            Rectangle().fill(color).frame({.width = 1}))
 //
-// A type of one's own is a view when it has `View body() const`; it can be used wherever a View is expected. The tree keeps the value that declared it, so
-// closures in body() may capture `this`.
+// A type of one's own is a view when it has `View body() const`; it can be used wherever a View is expected. The tree
+// keeps the value that declared it, so closures in body() may capture `this`.
 #pragma once
 
 #include <concepts>
@@ -17,15 +19,11 @@
 #include <vector>
 
 #include "views/Binding.h"
+#include "views/Composite.h"
 #include "views/Modifier.h"
 #include "views/ViewContent.h"
 
 namespace views {
-
-template <typename T>
-concept DeclaresBody = requires(const T& view) {
-    { view.body() } -> std::same_as<View>;
-};
 
 enum class ViewKind : std::uint8_t {
     empty,
@@ -128,28 +126,10 @@ private:
     View&& wrap(ViewKind outerKind, ViewContent outerContent);
 };
 
-// The value of a type with a body(), as the tree keeps it.
-class Composite {
-public:
-    virtual ~Composite() = default;
-    virtual const std::type_info& type() const = 0;
-    virtual void connect(Context& context) = 0;
-    virtual View body() const = 0;
-};
-
 template <DeclaresBody T>
-class CompositeOf final : public Composite {
-public:
-    explicit CompositeOf(T theView) : view(std::move(theView)) {}
-    const std::type_info& type() const override { return typeid(T); }
-    void connect(Context& context) override {
-        if constexpr (requires { view.connect(context); }) view.connect(context);
-    }
-    View body() const override { return view.body(); }
-
-private:
-    T view;
-};
+View CompositeOf<T>::body() const {
+    return view.body();
+}
 
 template <DeclaresBody T>
 View::View(T view)

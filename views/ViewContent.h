@@ -1,4 +1,5 @@
-// What a node holds beside its children and modifiers, by kind of node. Plain data and closures; the builders fill it, layout and drawing read it.
+// What a node holds beside its children and modifiers, by kind of node. Plain data and closures; the builders fill it,
+// layout and drawing read it.
 #pragma once
 
 #include <functional>

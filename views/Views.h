@@ -1,4 +1,5 @@
-// Everything one needs to declare what a window shows: include this one. A view is a type with a body() that answers a tree of nodes:
+// Everything one needs to declare what a window shows: include this one. A view is a type with a body() that answers a
+// tree of nodes:
 //
 //     struct Counter {
 //         views::ObservedObject<Model> model;

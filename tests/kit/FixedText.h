@@ -1,5 +1,5 @@
-// A text system whose answers can be worked out by hand: every character is 0.6 of the font size wide and a line 1.2 high; symbols are squares of the font
-// size. Titles can be given widths of their own.
+// A text system whose answers can be worked out by hand: every character is 0.6 of the font size wide and a line 1.2
+// high; symbols are squares of the font size. Titles can be given widths of their own.
 #pragma once
 
 #include <algorithm>
@@ -31,7 +31,8 @@ public:
         const double each = widthOfCharacter * font.size;
         const auto kept = static_cast<std::size_t>(std::max(0.0, room / each - 1));
         const std::size_t tail = kept / 2;
-        return prefix(text, kept - tail) + "…" + std::string(text.substr(prefix(text, characters(text) - tail).size()));
+        const std::size_t tailBegin = prefix(text, characters(text) - tail).size();
+        return prefix(text, kept - tail) + "…" + std::string(text.substr(tailBegin));
     }
     std::optional<platform::CGSize> symbolSize(std::string_view name, platform::Font font) override {
         if (name.empty()) return std::nullopt;

@@ -1,15 +1,16 @@
 // A whole bar in its host. With the fixed text a crumb's character is 9 points wide, the brand's 7.8.
 #include <gtest/gtest.h>
 
-#include "pathbar/BarParts.h"
 #include "pathbar/PathBarBackground.h"
 #include "pathbar/PathBarMetrics.h"
 #include "pathbar/PathBarView.h"
 #include "tests/kit/ViewPlatform.h"
+#include "tests/pathbar/BarParts.h"
 
 namespace {
 
 using namespace brindle;
+using kit::BarParts;
 using platform::CGPoint;
 using platform::CGRect;
 
@@ -69,10 +70,9 @@ protected:
         for (const auto& crumb : parts().crumbs) titles.push_back(crumb.title);
         return titles;
     }
-    std::string copySymbol() {
-        for (const auto& operation : host.drawing().operations)
-            if (const auto* symbol = std::get_if<platform::DrawSymbol>(&operation); symbol && symbol->rect.midX() > 750)
-                return symbol->name;
+    std::string copySymbol() const {
+        for (const auto& element : host.elements())
+            if (element.identifier == "copy") return element.value;
         return "";
     }
 
@@ -90,14 +90,15 @@ TEST_F(PathBarViewTest, PutsItsPartsWhereTheRulesSay) {
     EXPECT_EQ(bar.copy, platform::CGRectMake(761, 8, 30, 28));
     EXPECT_FALSE(bar.field);
     EXPECT_FALSE(bar.ellipsis);
-    // The row begins behind brand and divider with an inset of 10; a crumb is its text, 4 before and 2 behind it, and a chevron of 22.
+    // The row begins behind brand and divider with an inset of 10; a crumb is its text, 4 before and 2 behind it, and a
+    // chevron of 22.
     const std::vector<BarParts::Crumb> expected{
         {"0-root", "Macintosh HD", {{128, 6}, {114, 32}}, CGRect{{242, 6}, {22, 32}}},
         {"1-Users", "Users", {{264, 6}, {51, 32}}, CGRect{{315, 6}, {22, 32}}},
         {"2-ana", "ana", {{337, 6}, {35, 32}}, std::nullopt}};
     EXPECT_EQ(bar.crumbs, expected);
-    // The row ends before the second divider: 761 - 2 - 1.
-    EXPECT_EQ(bar.empty, (CGPoint{(372 + 758) / 2.0, 22}));
+    // Between the two dividers: 761 - 2 - 1 is where the second begins.
+    EXPECT_EQ(bar.row, platform::CGRectMake(118, 6, 758 - 118, 32));
 }
 
 TEST_F(PathBarViewTest, TheBrandGrowsWithTheBarBetweenItsBounds) {
@@ -128,7 +129,8 @@ TEST_F(PathBarViewTest, ACrumbTooWideForItsRowIsCutInTheMiddle) {
     std::vector<std::string> texts;
     for (const auto& operation : host.drawing().operations)
         if (const auto* text = std::get_if<platform::DrawText>(&operation)) texts.push_back(text->text);
-    // 140 points of row less 20 of insets, some 15 for the ellipsis menu's text and chevron with paddings and spacing, and 8 for the crumb's own.
+    // 140 points of row less 20 of insets, some 15 for the ellipsis menu's text and chevron with paddings and spacing,
+    // and 8 for the crumb's own.
     ASSERT_EQ(texts.size(), 3U);
     EXPECT_EQ(texts[1], "…");
     EXPECT_EQ(texts[2].substr(0, 2), "ab");
@@ -141,10 +143,11 @@ TEST_F(PathBarViewTest, ClicksReportWhatTheyLandOn) {
     const BarParts bar = parts();
     click(bar.crumbs[1].frame);
     click(bar.crumbs[2].frame);
-    click(*bar.empty);
+    click(CGPoint{(bar.crumbs[2].frame.maxX() + bar.row->maxX()) / 2, 22});
+    click(CGPoint{bar.row->minX() + 5, 22});
     click(*bar.crumbs[0].chevron);
     click(*bar.brand);
-    EXPECT_EQ(log, (std::vector<std::string>{"openPath /Users", "beginEditing", "beginEditing"}));
+    EXPECT_EQ(log, (std::vector<std::string>{"openPath /Users", "beginEditing", "beginEditing", "beginEditing"}));
 }
 
 TEST_F(PathBarViewTest, APressOnACrumbThatIsReplacedBeforeTheReleaseOpensNothing) {
@@ -182,7 +185,7 @@ TEST_F(PathBarViewTest, TheFieldTakesTheCrumbsPlaceWhileEditing) {
     const BarParts bar = parts();
     EXPECT_EQ(bar.field, platform::CGRectMake(130, 6, 758 - 130 - 6, 32));
     EXPECT_TRUE(bar.crumbs.empty());
-    EXPECT_FALSE(bar.empty);
+    EXPECT_FALSE(bar.row);
     EXPECT_EQ(bar.brand, before.brand);
     EXPECT_EQ(bar.copy, before.copy);
 }

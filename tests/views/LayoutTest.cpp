@@ -1,4 +1,5 @@
-// Frames worked out by hand: a character is 0.6 of the font size wide (6 points at size 10), a line 1.2 high (12 at 10), a symbol a square.
+// Frames worked out by hand: a character is 0.6 of the font size wide (6 points at size 10), a line 1.2 high (12 at
+// 10), a symbol a square.
 #include <gtest/gtest.h>
 
 #include "tests/kit/FixedText.h"

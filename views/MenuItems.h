@@ -1,0 +1,16 @@
+// What the platform's menu shows of a menu's declared content. HostingView asks when a menu opens.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/Menus.h"
+#include "views/View.h"
+
+namespace views {
+
+// A button is an entry, a divider a separator, a text or label an entry that can't be chosen; containers give what they
+// contain. The content has been evaluated, and stays as long as the actions do.
+std::vector<platform::MenuItem> menuItems(const View& content);
+
+}  // namespace views

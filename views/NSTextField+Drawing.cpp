@@ -1,0 +1,84 @@
+// What a field looks like: the whole text, shortened in its middle, while it isn't edited; else the part around the caret, with selection or caret.
+#include <algorithm>
+#include <cmath>
+
+#include "views/NSTextField.h"
+
+namespace views {
+
+namespace {
+
+constexpr double lineFragmentPadding = 2;
+constexpr double caretWidth = 1;
+
+platform::RoundedShape boxed(const platform::CGRect& rect) {
+    return {rect, 0, platform::CornerStyle::circular};
+}
+
+double toHalfPoint(double position) {
+    return std::round(position * 2) / 2;
+}
+
+}  // namespace
+
+// As high as a line, in the middle.
+platform::CGRect NSTextField::textArea() const {
+    const double height = platform.text.metrics(font).lineHeight();
+    const platform::CGRect& all = frame();
+    return platform::CGRectMake(all.minX() + lineFragmentPadding, all.midY() - height / 2,
+                                std::max(0.0, all.width() - 2 * lineFragmentPadding), height);
+}
+
+double NSTextField::positionOf(std::size_t offset) const {
+    return platform.text.width(std::string_view(stringValue()).substr(0, offset), font);
+}
+
+void NSTextField::scrollToCaret() {
+    const double caret = positionOf(editor->state().caret());
+    scrolled = std::clamp(scrolled, caret + caretWidth - textArea().width(), caret);
+    keepScrolledWithinText();
+}
+
+void NSTextField::keepScrolledWithinText() {
+    const double end = positionOf(stringValue().size()) + caretWidth;
+    scrolled = std::max(0.0, std::min(scrolled, end - textArea().width()));
+}
+
+void NSTextField::drawShapes(platform::Drawing& into) const {
+    if (drawsBackground)
+        into.operations.emplace_back(platform::FillShape{boxed(frame()), platform::Color::of(platform::ColorRole::controlBackground)});
+    if (isBordered)
+        into.operations.emplace_back(platform::StrokeShape{boxed(platform::CGRectInset(frame(), 0.5, 0.5)), platform::Color::of(platform::ColorRole::separator), 1});
+    if (!editor) return;
+    const platform::CGRect area = textArea();
+    const auto onScreen = [&](std::size_t offset) { return toHalfPoint(area.minX() - scrolled + positionOf(offset)); };
+    const TextFieldEngine& state = editor->state();
+    if (state.selectionBegin() == state.selectionEnd()) {
+        const double x = onScreen(state.caret());
+        into.operations.emplace_back(
+            platform::FillShape{boxed(platform::CGRectMake(x, area.minY(), caretWidth, area.height())), platform::Color::of(platform::ColorRole::primary)});
+        return;
+    }
+    const double begin = std::max(frame().minX(), onScreen(state.selectionBegin()));
+    const double end = std::min(frame().maxX(), onScreen(state.selectionEnd()));
+    if (end > begin)
+        into.operations.emplace_back(platform::FillShape{boxed(platform::CGRectMake(begin, area.minY(), end - begin, area.height())), platform::Color::of(platform::ColorRole::selectedText)});
+}
+
+void NSTextField::drawText(platform::Drawing& into) const {
+    const std::string& text = stringValue();
+    platform::CGRect line = textArea();
+    if (text.empty() || line.width() <= 0) return;
+    const platform::Color color = platform::Color::of(platform::ColorRole::primary);
+    if (!editor && lineBreakMode == NSLineBreakMode::byTruncatingMiddle) {
+        into.operations.emplace_back(platform::DrawText{platform.text.truncatedInMiddle(text, font, line.width()), font, color, line});
+        return;
+    }
+    into.operations.emplace_back(platform::BeginClip{frame()});
+    line.origin.x -= scrolled;
+    line.size.width = std::max(line.width(), positionOf(text.size()));
+    into.operations.emplace_back(platform::DrawText{text, font, color, line});
+    into.operations.emplace_back(platform::EndClip{});
+}
+
+}  // namespace views
