@@ -17,9 +17,9 @@ using platform::ColorRole;
 using platform::Font;
 using platform::FontWeight;
 
-constexpr Font menuFont{13, FontWeight::regular};
+constexpr Font menuBarFont{13, FontWeight::regular};
 constexpr Font applicationFont{13, FontWeight::bold};
-constexpr double menuPadding = 10;
+constexpr double menuBarPadding = 10;
 
 }  // namespace
 
@@ -27,23 +27,23 @@ void drawMenuBar(DrawingBuilder& builder, CGSize size, const MenuBarContent& con
     builder.fill(CGRectMake(0, 0, size.width, size.height), builder.shade(0xF4F4F6, 0x1C1C1E, 0.86));
     const Color ink = Color::of(ColorRole::primary);
     builder.symbol("desk.mark", {13, FontWeight::regular}, ink, CGRectMake(14, 0, 18, size.height));
-    const double clockWidth = builder.width(content.clock, menuFont);
+    const double clockWidth = builder.width(content.clock, menuBarFont);
     const CGRect clock = CGRectMake(size.width - clockWidth - 14, 0, clockWidth, size.height);
     const CGRect glass = CGRectMake(clock.minX() - 34, 0, 18, size.height);
-    builder.text(content.clock, menuFont, ink, clock);
+    builder.text(content.clock, menuBarFont, ink, clock);
     builder.symbol("magnifyingglass", {12, FontWeight::medium}, ink, glass);
 
     double x = 42;
     const auto title = [&](const std::string& text, Font font) {
         const double width = builder.width(text, font);
-        if (x + width + menuPadding > glass.minX()) return false;
+        if (x + width + menuBarPadding > glass.minX()) return false;
         builder.text(text, font, ink, CGRectMake(x, 0, width, size.height));
-        x += width + 2 * menuPadding;
+        x += width + 2 * menuBarPadding;
         return true;
     };
     if (!title(content.application, applicationFont)) return;
     for (const std::string& menu : content.menus)
-        if (!title(menu, menuFont)) return;
+        if (!title(menu, menuBarFont)) return;
 }
 
 void drawDock(DrawingBuilder& builder, CGSize size, const std::vector<DockItem>& items) {
@@ -82,7 +82,7 @@ void drawAlert(DrawingBuilder& builder, const SystemAlert& alert, const AlertLay
         const CGRect rect = inside(button.frame);
         builder.fill(rect, isDefault ? Color::of(ColorRole::accent) : builder.shade(0xFFFFFF, 0x5A5A5E), 6);
         if (!isDefault) builder.border(rect, Color::of(ColorRole::primary, 0.15), 0.5, 6);
-        builder.text(button.label, menuFont, Color::of(isDefault ? ColorRole::white : ColorRole::primary), rect,
+        builder.text(button.label, menuBarFont, Color::of(isDefault ? ColorRole::white : ColorRole::primary), rect,
                      TextAlignment::center);
     }
     drawWindowEdge(builder, frame.size);
@@ -96,7 +96,7 @@ void drawOtherWindow(DrawingBuilder& builder, CGSize size, std::string_view titl
     if (middle - icon > windowTitleBarHeight)
         drawApplicationIcon(
             builder, CGRectMake(std::floor((size.width - icon) / 2), std::floor(middle - icon), icon, icon), title);
-    builder.text(bundleIdentifier, menuFont, Color::of(ColorRole::secondary),
+    builder.text(bundleIdentifier, menuBarFont, Color::of(ColorRole::secondary),
                  CGRectMake(20, middle + 12, std::max(0.0, size.width - 40), 20), TextAlignment::center);
     drawWindowEdge(builder, size);
 }
