@@ -1,6 +1,8 @@
 // A bar taking another path, and a bar being made: evaluation, crumbs, fitting and layout, without painting.
 #include <benchmark/benchmark.h>
 
+#include "desk/display/GuiApplication.h"
+#include "desk/display/QtTextSystem.h"
 #include "pathbar/BreadcrumbModel.h"
 #include "pathbar/PathBarView.h"
 #include "tests/kit/ViewPlatform.h"
@@ -8,6 +10,13 @@
 namespace {
 
 using namespace brindle;
+
+// The desk's fonts, as a bar on the desk has them.
+platform::TextSystem& realText() {
+    static desk::GuiApplication toolkit;
+    static desk::QtTextSystem text;
+    return text;
+}
 
 struct Model : platform::ObservableObject {
     platform::Published<FinderWindowState> windowState{*this, {}};
@@ -46,7 +55,7 @@ const char* const paths[] = {"/Users/ana/Documents/Projects/Brindle/Reports/",
                              "/Users/ana/Pictures/Holidays/Summer/Originals/"};
 
 void Bar_Navigate(benchmark::State& state) {
-    kit::ViewPlatform machine;
+    kit::ViewPlatform machine(realText());
     Model model;
     model.windowState.set(window(paths[0]));
     views::NSHostingView<Root> host(machine.platform, Root{&machine.platform, views::ObservedObject<Model>(model)},
@@ -65,7 +74,7 @@ void Bar_Navigate(benchmark::State& state) {
 BENCHMARK(Bar_Navigate)->Arg(400)->Arg(1200)->Arg(2400);
 
 void Bar_Construct(benchmark::State& state) {
-    kit::ViewPlatform machine;
+    kit::ViewPlatform machine(realText());
     Model model;
     model.windowState.set(window(paths[0]));
     for (auto _ : state) {
@@ -79,7 +88,7 @@ void Bar_Construct(benchmark::State& state) {
 BENCHMARK(Bar_Construct);
 
 void CrumbsAndFitting(benchmark::State& state) {
-    kit::FixedText text;
+    platform::TextSystem& text = realText();
     std::string path;
     for (std::int64_t level = 0; level < state.range(0); ++level) path += "/Folder " + std::to_string(level);
     const FinderWindowState shown = window(path);

@@ -21,6 +21,10 @@ class ViewPlatform final : public platform::Clock,
                            public platform::RunLoop,
                            public platform::NSUserDefaults {
 public:
+    ViewPlatform() = default;
+    // With real fonts in place of the fixed text.
+    explicit ViewPlatform(platform::TextSystem& real) : measuring(real) {}
+
     FixedText text;
     PlainBoundaries boundaries;
     PlainCollation collation;
@@ -77,6 +81,7 @@ private:
         return *reinterpret_cast<T*>(nothing.data());
     }
 
+    platform::TextSystem& measuring = text;
     platform::Date time;
     std::multimap<platform::Date, std::shared_ptr<platform::DispatchWorkItem>> delayed;
     std::vector<platform::Block> atTheEnd;
@@ -96,7 +101,7 @@ public:
                                 unused<platform::NSApplication>(),
                                 unused<platform::WindowSystem>(),
                                 unused<platform::Menus>(),
-                                text,
+                                measuring,
                                 boundaries,
                                 collation,
                                 unused<platform::NSFileManager>(),
