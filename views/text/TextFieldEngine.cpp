@@ -38,8 +38,9 @@ NSRange TextFieldEngine::selectedRange() const {
 }
 
 void TextFieldEngine::setSelectedRange(NSRange range) {
-    std::size_t begin = byteOffset(now.text, range.location);
-    std::size_t end = begin + byteOffset(std::string_view(now.text).substr(begin), range.length);
+    const std::size_t first = std::min(range.location, now.text.size());
+    std::size_t begin = byteOffset(now.text, first);
+    std::size_t end = byteOffset(now.text, first + std::min(range.length, now.text.size()));
     if (!isBoundary(end)) end = boundaries.nextCharacter(now.text, end);
     if (!isBoundary(begin)) begin = range.length == 0 ? end : boundaries.previousCharacter(now.text, begin);
     now.anchor = begin;
@@ -120,8 +121,11 @@ std::size_t TextFieldEngine::reached(Reach reach, Way way, std::size_t from) con
     switch (reach) {
     case Reach::character:
         return isForward ? boundaries.nextCharacter(now.text, from) : boundaries.previousCharacter(now.text, from);
-    case Reach::word:
-        return isForward ? boundaries.nextWord(now.text, from) : boundaries.previousWord(now.text, from);
+    case Reach::word: {
+        const std::size_t edge =
+            isForward ? boundaries.nextWord(now.text, from) : boundaries.previousWord(now.text, from);
+        return isBoundary(edge) ? edge : reached(Reach::character, way, edge);
+    }
     case Reach::line:
         break;
     }
