@@ -132,9 +132,9 @@ const platform::Drawing& Compositor::finderDrawing(Machine& machine, const Finde
 platform::Drawing Compositor::foreignDrawing(Machine& machine, const ServerWindow& window, bool isActive) {
     DrawingBuilder builder(machine.text, machine.appearance.colorScheme.get());
     const FinderWindow* panel = machine.finder.find(window.number);
-    if (panel != nullptr && panel->target) {
-        const FinderItem item = finderItem(machine.disk, *panel->target, machine.scheduler.now());
-        drawInfoPanel(builder, window.frame.size, panel->name, item, folderOf(*panel->target), lookOf(isActive));
+    if (panel != nullptr && !panel->subject.empty()) {
+        const FinderItem item = finderItem(machine.disk, panel->subject, machine.scheduler.now());
+        drawInfoPanel(builder, window.frame.size, panel->name, item, folderOf(panel->subject), lookOf(isActive));
         return std::move(builder.drawing);
     }
     const Process* owner = machine.processes.find(window.owner);

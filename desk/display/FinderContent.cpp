@@ -35,7 +35,13 @@ FinderItem describe(const Disk& disk, const std::string& path, const DiskEntry& 
     if (!attributes) return item;
     // The sample's files are as old as the host made them, which may be after the machine's own time.
     item.modified = dateText(std::min(attributes->modified, now), now);
-    if (!entry.isDirectory) item.size = fileSizeText(attributes->size);
+    const bool leadsToFolder = !entry.isDirectory && disk.kind(path) == platform::FileKind::directory;
+    if (leadsToFolder) {
+        item.icon = ItemIcon::folder;
+        item.kind = "Alias";
+    } else if (!entry.isDirectory) {
+        item.size = fileSizeText(attributes->size);
+    }
     return item;
 }
 
@@ -54,8 +60,8 @@ public:
     bool operator()(const DiskEntry& a, const DiskEntry& b) const {
         if (collator == nullptr) return a.name < b.name;
         UErrorCode status = U_ZERO_ERROR;
-        const UCollationResult order = collator->compareUTF8(piece(a.name), piece(b.name), status);
-        return order == UCOL_EQUAL ? a.name < b.name : order == UCOL_LESS;
+        const UCollationResult result = collator->compareUTF8(piece(a.name), piece(b.name), status);
+        return result == UCOL_EQUAL ? a.name < b.name : result == UCOL_LESS;
     }
 
 private:

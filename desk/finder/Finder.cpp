@@ -105,7 +105,8 @@ std::optional<std::int64_t> Finder::openInfoPanel(const std::string& path) {
     if (!machine.disk.kind(path)) return std::nullopt;
     FinderWindow window;
     window.kind = FinderWindowKind::infoPanel;
-    window.name = nameOf(platform::standardizedPath(path, "/")) + " Info";
+    window.subject = platform::standardizedPath(path, "/");
+    window.name = nameOf(window.subject) + " Info";
     return add(std::move(window), std::nullopt);
 }
 

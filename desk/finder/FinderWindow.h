@@ -25,6 +25,7 @@ struct FinderWindow {
     bool fullScreen = false;
     platform::CGRect frameBeforeFullScreen;
     int spaceBeforeFullScreen = 1;
+    std::string subject;  // of an info panel: the path of the item it tells about
 };
 
 }  // namespace desk
