@@ -63,7 +63,9 @@ TEST(Json, FindsWhatStandsAtAPointer) {
     for (const auto& each : cases) {
         const auto found = play::valueAt(document, each.pointer);
         ASSERT_EQ(found.has_value(), each.found != nullptr) << each.pointer;
-        if (found) EXPECT_EQ(play::toText(*found), each.found) << each.pointer;
+        if (found) {
+            EXPECT_EQ(play::toText(*found), each.found) << each.pointer;
+        }
     }
 }
 
