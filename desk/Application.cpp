@@ -38,6 +38,7 @@ struct Application::Ports {
           events(machine.input),
           application(machine, self),
           windows(machine, self),
+          menus(machine, self),
           files(machine.disk),
           defaults(image.storedDefaults),
           bundle(image.identifier(), self.bundlePath()),
@@ -122,6 +123,7 @@ void Application::terminate() {
         machine.windows.remove(number);
         machine.input.windowOrderedOut(number);
     }
+    machine.menus.applicationEnded(pid);
     machine.processes.remove(pid);
 }
 

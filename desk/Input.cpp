@@ -13,9 +13,6 @@ using platform::CGPoint;
 using platform::NSEvent;
 using platform::NSEventType;
 
-// Spaces from here on are those of single full-screen windows, which cover menu bar and Dock.
-constexpr int firstFullScreenSpace = 1000;
-
 struct ButtonEvents {
     NSEventType down;
     NSEventType dragged;
@@ -36,6 +33,8 @@ bool isPassive(const platform::NSWindow& window) {
 
 void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) {
     location = point;
+    press = Press{{}, button, clickCount};
+    if (menusTake(eventsOf(button).down, clickCount)) return;
     const Target target = targetAt(point);
     pressAlertButton(point);
     if (target.owner != 0 && target.owner != ownerOf(key)) key = 0;
@@ -51,6 +50,7 @@ void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) 
 void Input::mouseDragged(const CGPoint& point) {
     location = point;
     const Press held = press.value_or(Press{{}, MouseButton::left, 0});
+    if (menusTake(eventsOf(held.button).dragged, held.clickCount)) return;
     const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
     if (isFinders && held.button == MouseButton::left) machine.finder.mouseDragged(point);
     deliverMouse(eventsOf(held.button).dragged, held.target, held.clickCount);
@@ -59,6 +59,7 @@ void Input::mouseDragged(const CGPoint& point) {
 void Input::mouseUp(const CGPoint& point, MouseButton button) {
     location = point;
     const Press held = std::exchange(press, std::nullopt).value_or(Press{{}, button, 1});
+    if (menusTake(eventsOf(button).up, held.clickCount)) return;
     const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
     if (isFinders && button == MouseButton::left) machine.finder.mouseUp(point);
     deliverMouse(eventsOf(button).up, held.target, held.clickCount);
@@ -66,10 +67,16 @@ void Input::mouseUp(const CGPoint& point, MouseButton button) {
 
 void Input::mouseMoved(const CGPoint& point) {
     location = point;
-    NSEvent event;
-    event.type = NSEventType::mouseMoved;
     // Nobody's: only the copies are of interest.
-    deliver(event, {0, targetAt(point).owner});
+    if (!menusTake(NSEventType::mouseMoved))
+        offerToOthers(eventHere(NSEventType::mouseMoved, 0), targetAt(point).owner);
+}
+
+void Input::scrollWheel(const CGPoint& point, double deltaY) {
+    location = point;
+    NSEvent event = eventHere(NSEventType::scrollWheel, 0);
+    event.scrollingDeltaY = deltaY;
+    if (!menusTake(event)) deliver(std::move(event), targetAt(point));
 }
 
 void Input::pressAlertButton(const CGPoint& point) {
@@ -93,7 +100,7 @@ Input::Target Input::targetAt(const CGPoint& point) const {
 }
 
 bool Input::isMenuBarOrDock(const CGPoint& point) const {
-    if (machine.windows.currentSpace() >= firstFullScreenSpace) return false;
+    if (machine.windows.isFullScreenSpace()) return false;
     const auto& screens = machine.displays.screens();
     return std::any_of(screens.begin(), screens.end(), [&](const platform::NSScreen& screen) {
         return platform::CGRectContainsPoint(screen.frame, point) &&
@@ -115,21 +122,40 @@ void Input::bringForward(const Target& target) {
 }
 
 void Input::deliverMouse(NSEventType type, const Target& target, int clickCount) {
+    deliver(eventHere(type, clickCount), target);
+}
+
+NSEvent Input::eventHere(NSEventType type, int clickCount) const {
     NSEvent event;
     event.type = type;
     event.clickCount = clickCount;
-    deliver(std::move(event), target);
+    event.timestamp = machine.scheduler.now();
+    event.locationInWindow = location;
+    return event;
 }
 
 void Input::deliver(NSEvent event, const Target& target) {
-    event.timestamp = machine.scheduler.now();
-    event.locationInWindow = location;
-    for (const auto& launched : machine.applications())
-        if (launched->processIdentifier() != target.owner) launched->offerToGlobalMonitors(event);
+    offerToOthers(event, target.owner);
     Application* owner = machine.application(target.owner);
-    if (owner == nullptr || event.type == NSEventType::mouseMoved) return;
+    if (owner == nullptr) return;
     event.window = owner->window(target.window);
     owner->loop().postEvent(std::move(event));
+}
+
+void Input::offerToOthers(const NSEvent& event, std::int32_t owner) {
+    for (const auto& launched : machine.applications())
+        if (launched->processIdentifier() != owner) launched->offerToGlobalMonitors(event);
+}
+
+bool Input::menusTake(NSEventType type, int clickCount) {
+    return menusTake(eventHere(type, clickCount));
+}
+
+// What is over a menu or a popover is its application's, though no window and no monitor of that application sees it.
+bool Input::menusTake(const NSEvent& event) {
+    const auto owner = machine.menus.take(event);
+    if (owner) offerToOthers(event, *owner);
+    return owner.has_value();
 }
 
 void Input::keyDown(const KeyStroke& stroke) {
@@ -141,12 +167,12 @@ void Input::keyUp(const KeyStroke& stroke) {
 }
 
 void Input::deliverKey(NSEventType type, const KeyStroke& stroke) {
-    NSEvent event;
-    event.type = type;
+    NSEvent event = eventHere(type, 0);
     event.keyCode = stroke.keyCode;
     event.modifierFlags = stroke.modifiers;
     event.characters = stroke.characters;
     event.charactersIgnoringModifiers = stroke.charactersIgnoringModifiers;
+    if (menusTake(event)) return;
     const Process* frontmost = machine.processes.frontmost();
     const Target inFront{0, frontmost == nullptr ? 0 : frontmost->processIdentifier};
     deliver(std::move(event), key != 0 ? Target{key, ownerOf(key)} : inFront);

@@ -34,11 +34,15 @@ public:
     explicit Input(Machine& theMachine) : machine(theMachine) {}
 
     platform::CGPoint mouseLocation() const { return location; }
+    // A mouse button is held.
+    bool isPressed() const { return press.has_value(); }
 
     void mouseDown(const platform::CGPoint& point, MouseButton button, int clickCount = 1);
     void mouseDragged(const platform::CGPoint& point);
     void mouseUp(const platform::CGPoint& point, MouseButton button);
     void mouseMoved(const platform::CGPoint& point);
+    // Positive: towards the beginning of what is scrolled.
+    void scrollWheel(const platform::CGPoint& point, double deltaY);
     void keyDown(const KeyStroke& key);
     void keyUp(const KeyStroke& key);
 
@@ -64,6 +68,11 @@ private:
     void deliverMouse(platform::NSEventType type, const Target& target, int clickCount);
     void deliverKey(platform::NSEventType type, const KeyStroke& stroke);
     void deliver(platform::NSEvent event, const Target& target);
+    // Whether a menu or a popover has taken it.
+    bool menusTake(platform::NSEventType type, int clickCount = 0);
+    bool menusTake(const platform::NSEvent& event);
+    platform::NSEvent eventHere(platform::NSEventType type, int clickCount) const;
+    void offerToOthers(const platform::NSEvent& event, std::int32_t owner);
     std::int32_t ownerOf(std::int64_t window) const;
 
     Machine& machine;

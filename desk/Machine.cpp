@@ -4,6 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/FileURL.h"
+
 namespace desk {
 
 namespace {
@@ -14,6 +16,10 @@ constexpr platform::Date startOfStories{std::chrono::seconds(1'717'405'200)};
 // Apart from the numbers of Finder's windows and of panels.
 constexpr std::int64_t firstOtherNumber = 1'000'001;
 constexpr platform::CGRect frameOfOtherWindow{{220, 140}, {900, 600}};
+constexpr platform::CGRect frameOfOpenedWindow{{300, 260}, {640, 400}};
+
+constexpr double cascadeStep = 24;
+constexpr std::int64_t cascadeLength = 8;
 
 constexpr const char* dontAllow = "Don't Allow";
 constexpr const char* allow = "OK";
@@ -28,6 +34,7 @@ std::string nameOf(const std::string& bundleIdentifier) {
 Machine::Machine(platform::TextSystem& theText)
     : scheduler(startOfStories),
       input(*this),
+      menus(*this),
       finder(*this),
       scripting(*this),
       text(theText),
@@ -67,13 +74,36 @@ void Machine::startOtherProcess(const std::string& bundleIdentifier) {
     process.bundleIdentifier = bundleIdentifier;
     process.name = nameOf(bundleIdentifier);
     process.bundlePath = "/Applications/" + process.name + ".app";
+    const std::string name = process.name;
+    addForeignWindow(processes.add(std::move(process)), name, frameOfOtherWindow,
+                     platform::NSWindowOrderingMode::below);
+}
+
+void Machine::addForeignWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
+                               platform::NSWindowOrderingMode place) {
     ServerWindow window;
     window.number = nextOtherNumber++;
-    window.title = process.name;
-    window.frame = frameOfOtherWindow;
-    window.owner = processes.add(std::move(process));
+    window.title = title;
+    window.frame = frame;
+    window.owner = owner;
     windows.add(window);
-    windows.order(window.number, platform::NSWindowOrderingMode::below, 0);
+    windows.order(window.number, place, 0);
+}
+
+void Machine::openFiles(const std::vector<std::string>& paths, const std::string& applicationPath) {
+    scheduler.after({}, [this, paths, applicationPath] {
+        const bool isThere =
+            std::all_of(paths.begin(), paths.end(), [&](const auto& path) { return disk.exists(path); });
+        if (!isThere || disk.kind(applicationPath) != platform::FileKind::directory) return;
+        opened.push_back({applicationPath, paths});
+        const std::int32_t owner = processes.openApplication(applicationPath);
+        for (const std::string& path : paths) {
+            const double shift = cascadeStep * static_cast<double>(nextOtherNumber % cascadeLength);
+            addForeignWindow(owner, std::string(platform::lastPathComponent(path)),
+                             CGRectOffset(frameOfOpenedWindow, shift, -shift), platform::NSWindowOrderingMode::above);
+        }
+        activate(owner, true);
+    });
 }
 
 bool Machine::activate(const std::string& bundleIdentifier) {
@@ -109,6 +139,7 @@ std::int64_t Machine::mainWindow(std::int32_t processIdentifier) const {
 
 void Machine::switchToSpace(int space) {
     if (space == windows.currentSpace()) return;
+    menus.closeMenu();
     std::vector<std::int64_t> affected;
     const auto collect = [&] {
         for (const ServerWindow* window : windows.onScreen())

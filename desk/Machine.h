@@ -19,6 +19,7 @@
 #include "desk/WindowStack.h"
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderScripting.h"
+#include "desk/menus/MenuLayer.h"
 #include "desk/time/Scheduler.h"
 #include "platform/Screens.h"
 #include "platform/Text.h"
@@ -47,6 +48,7 @@ public:
     Faults faults;
     Permissions permissions;
     Input input;
+    MenuLayer menus;
     Finder finder;
     FinderScripting scripting;
     platform::Appearance appearance;
@@ -62,6 +64,9 @@ public:
 
     // Another process with one ordinary window, behind all others.
     void startOtherProcess(const std::string& bundleIdentifier);
+    // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front. Nothing happens when one of the
+    // files or the application isn't there.
+    void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
     // By bundle identifier, all windows forward, as a person switches applications; false when it doesn't run.
     bool activate(const std::string& bundleIdentifier);
     // `allWindows` false brings only the main window forward.
@@ -83,6 +88,8 @@ private:
     void notifyApplications(platform::WorkspaceNotification notification);
     void frontmostHasChanged();
     std::int64_t mainWindow(std::int32_t processIdentifier) const;
+    void addForeignWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
+                          platform::NSWindowOrderingMode place);
 
     platform::Date start;
     std::int64_t nextOtherNumber;

@@ -32,6 +32,8 @@ public:
     std::int32_t add(Process process);
     // When it was frontmost, the next in activation order is from now on, if there is one that isn't an agent.
     void remove(std::int32_t processIdentifier);
+    // The process of the application at that path, started if there is none.
+    std::int32_t openApplication(const std::string& bundlePath);
     void activate(std::int32_t processIdentifier);
     void setPolicy(std::int32_t processIdentifier, platform::NSApplicationActivationPolicy policy);
 

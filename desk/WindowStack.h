@@ -54,6 +54,8 @@ public:
     int currentSpace() const { return space; }
     void setCurrentSpace(int newSpace);
     void setSpace(std::int64_t number, int newSpace);
+    // The current space is that of a single full-screen window, which covers menu bar and Dock.
+    bool isFullScreenSpace() const { return space > firstOwnSpace; }
     // A number that no space has yet, for a full-screen window; counts up from 1000.
     int makeSpace() { return ++lastOwnSpace; }
 
@@ -87,7 +89,8 @@ private:
     std::unordered_map<std::int64_t, std::unique_ptr<ServerWindow>> byNumber;
     Order frontToBack;  // by level, then by order
     int space = 1;
-    int lastOwnSpace = 1000;
+    static constexpr int firstOwnSpace = 1000;
+    int lastOwnSpace = firstOwnSpace;
     std::int64_t nextPanelNumber = firstPanelNumber;
 };
 

@@ -70,7 +70,7 @@ QImage Compositor::compose(Machine& machine, double scale) {
     target.setClipRegion(lit);
     paintWindows(machine, scene);
     for (std::size_t i = 0; i < screens.size(); ++i) paintScreenFurniture(machine, scene, i);
-    // What floats above all windows belongs here, back to front; the system's own alert stays last.
+    paintMenus(machine, scene);
     paintAlert(machine, scene);
     return image;
 }

@@ -1,4 +1,4 @@
-// Composes what the screens of a Machine show into one picture: desktop, windows back to front, Dock, menu bar, alert. Windows of launched applications are painted when
+// Composes what the screens of a Machine show into one picture: desktop, windows back to front, Dock, menu bar, popovers, the open menu, alert. Windows of launched applications are painted when
 // their drawing has changed and copied otherwise; pictures of windows that can't be seen are dropped. It changes nothing on the machine.
 #pragma once
 
@@ -25,6 +25,7 @@ struct DisplayOptions;
 struct FinderWindow;
 struct Scene;
 struct ServerWindow;
+struct ShownPopover;
 
 // PNG; false when it couldn't be written.
 bool savePng(const QImage& image, const std::string& file);
@@ -66,6 +67,8 @@ private:
     void paintFramed(Scene& scene, const platform::CGRect& frame, bool isActive, const platform::Drawing& drawing);
     void paintScreenFurniture(Machine& machine, Scene& scene, std::size_t screen);
     void paintAlert(Machine& machine, Scene& scene);
+    void paintMenus(Machine& machine, Scene& scene);
+    void paintPopover(Scene& scene, const ShownPopover& shown);
 
     const platform::Drawing& finderDrawing(Machine& machine, const FinderWindow& window, platform::CGSize size,
                                            bool isActive);

@@ -26,6 +26,10 @@ void chevronDown(Sketch& s) {
     s.line({{0.1, 0.14}, {0.43, 0.44}, {0.76, 0.14}});
 }
 
+void chevronUp(Sketch& s) {
+    s.line({{0.1, 0.44}, {0.43, 0.14}, {0.76, 0.44}});
+}
+
 void checkmark(Sketch& s) {
     s.line({{0.1, 0.52}, {0.36, 0.84}, {0.86, 0.12}});
 }
@@ -166,6 +170,7 @@ constexpr std::array symbols{
     Symbol{"chevron.right", 0.58, 0.86, chevronRight},
     Symbol{"chevron.left", 0.58, 0.86, chevronLeft},
     Symbol{"chevron.down", 0.86, 0.58, chevronDown},
+    Symbol{"chevron.up", 0.86, 0.58, chevronUp},
     Symbol{"checkmark", 0.96, 0.94, checkmark},
     Symbol{"checkmark.circle.fill", 1.2, 1.2, checkmarkCircleFill},
     Symbol{"xmark", 0.88, 0.88, xmark},

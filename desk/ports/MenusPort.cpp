@@ -60,8 +60,7 @@ private:
 std::unique_ptr<platform::MenuHandle> MenusPort::popUpBelow(const CGRect& anchor,
                                                             std::vector<platform::MenuItem> items) {
     if (application.isDead()) items.clear();
-    const std::uint64_t number =
-        machine.menus.openBelow(application.processIdentifier(), anchor, std::move(items));
+    const std::uint64_t number = machine.menus.openBelow(application.processIdentifier(), anchor, std::move(items));
     return std::make_unique<MenuHandlePort>(machine.menus, number);
 }
 

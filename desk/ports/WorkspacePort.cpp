@@ -39,7 +39,7 @@ platform::Token WorkspacePort::addObserver(platform::WorkspaceNotification notif
 }
 
 void WorkspacePort::openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) {
-    if (!application.isDead()) machine.opened.push_back({applicationPath, filePaths});
+    if (!application.isDead()) machine.openFiles(filePaths, applicationPath);
 }
 
 void WorkspacePort::notify(platform::WorkspaceNotification notification) const {

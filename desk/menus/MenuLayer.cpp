@@ -1,0 +1,250 @@
+#include "desk/menus/MenuLayer.h"
+
+#include <algorithm>
+
+#include "desk/Machine.h"
+
+namespace desk {
+
+namespace {
+
+using platform::CGPoint;
+using platform::CGRect;
+using platform::CGRectMake;
+using platform::CGSize;
+using platform::NSEvent;
+using platform::NSEventType;
+
+constexpr double slop = 4;  // a hand that clicks moves the mouse as far as this
+// Without a display there is no edge to keep to.
+constexpr CGRect boundless{{-1e6, -1e6}, {2e6, 2e6}};
+
+constexpr platform::Duration scrollPeriod = std::chrono::milliseconds(25);
+constexpr double firstScrollStep = 6;
+constexpr double mostScrollStep = 400;
+constexpr double scrollGrowth = 1.04;
+
+constexpr std::uint16_t escapeKey = 53;
+
+}  // namespace
+
+CGRect MenuLayer::roomAround(const CGPoint& point) const {
+    const std::vector<platform::NSScreen>& screens = machine.displays.screens();
+    if (screens.empty()) return boundless;
+    const auto distance = [&](const platform::NSScreen& screen) {
+        const double x = std::clamp(point.x, screen.frame.minX(), screen.frame.maxX());
+        const double y = std::clamp(point.y, screen.frame.minY(), screen.frame.maxY());
+        return std::hypot(point.x - x, point.y - y);
+    };
+    const auto nearest = std::min_element(screens.begin(), screens.end(),
+                                          [&](const auto& a, const auto& b) { return distance(a) < distance(b); });
+    return machine.windows.isFullScreenSpace() ? nearest->frame : nearest->visibleFrame;
+}
+
+std::uint64_t MenuLayer::openBelow(std::int32_t owner, const CGRect& anchor, std::vector<platform::MenuItem> items) {
+    MenuLayout layout(items, machine.text);
+    const CGRect frame = placeMenuBelow(anchor, layout.size(), roomAround({anchor.minX(), anchor.minY()}));
+    return open(owner, std::move(items), std::move(layout), frame, anchor);
+}
+
+std::uint64_t MenuLayer::openAt(std::int32_t owner, const CGPoint& point, std::vector<platform::MenuItem> items) {
+    MenuLayout layout(items, machine.text);
+    const CGRect frame = placeMenuAt(point, layout.size(), roomAround(point));
+    return open(owner, std::move(items), std::move(layout), frame,
+                CGRectMake(point.x - slop, point.y - slop, 2 * slop, 2 * slop));
+}
+
+std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem> items, MenuLayout layout,
+                              const CGRect& frame, const CGRect& source) {
+    closeMenu();
+    ++lastNumber;
+    if (items.empty()) return lastNumber;
+    tracked.emplace(
+        Tracked{lastNumber, owner, OpenMenu(std::move(items), std::move(layout), frame), source, std::nullopt});
+    if (machine.input.isPressed()) {
+        tracked->pressedAt = machine.input.mouseLocation();
+        held = HeldPress{owner, {}, {}};
+    }
+    machine.windows.changed();
+    return lastNumber;
+}
+
+void MenuLayer::close(std::uint64_t menu) {
+    if (isOpen(menu)) closeMenu();
+}
+
+// What its entries' actions hold on to goes after the menu has.
+void MenuLayer::closeMenu() {
+    if (!tracked) return;
+    stopScrolling();
+    const Tracked closing = *std::exchange(tracked, std::nullopt);
+    machine.windows.changed();
+}
+
+void MenuLayer::reveal(std::size_t row) {
+    if (tracked && tracked->menu.reveal(row)) machine.windows.changed();
+}
+
+void MenuLayer::applicationEnded(std::int32_t owner) {
+    if (tracked && tracked->owner == owner) closeMenu();
+    if (held && held->owner == owner) held.reset();
+    std::erase_if(shownPopovers, [&](const auto& popover) { return popover->owner == owner; });
+}
+
+MenuLayer::Taker MenuLayer::take(const NSEvent& event) {
+    struct Entry {
+        NSEventType type;
+        Taker (MenuLayer::*handler)(const NSEvent&);
+    };
+    static constexpr Entry handlers[] = {{NSEventType::leftMouseDown, &MenuLayer::mouseDown},
+                                         {NSEventType::rightMouseDown, &MenuLayer::mouseDown},
+                                         {NSEventType::leftMouseUp, &MenuLayer::mouseUp},
+                                         {NSEventType::rightMouseUp, &MenuLayer::mouseUp},
+                                         {NSEventType::leftMouseDragged, &MenuLayer::mouseDragged},
+                                         {NSEventType::rightMouseDragged, &MenuLayer::mouseDragged},
+                                         {NSEventType::mouseMoved, &MenuLayer::mouseMoved},
+                                         {NSEventType::scrollWheel, &MenuLayer::scrollWheel},
+                                         {NSEventType::keyDown, &MenuLayer::keyDown},
+                                         {NSEventType::keyUp, &MenuLayer::keyUp}};
+    for (const Entry& entry : handlers)
+        if (entry.type == event.type) return (this->*entry.handler)(event);
+    return std::nullopt;
+}
+
+MenuLayer::Taker MenuLayer::mouseDown(const NSEvent& event) {
+    held.reset();
+    if (!tracked) return pressPopovers(event);
+    const std::int32_t owner = tracked->owner;
+    held = HeldPress{owner, {}, {}};
+    if (platform::CGRectContainsPoint(tracked->menu.frame(), event.locationInWindow))
+        hover(event.locationInWindow);
+    else
+        closeMenu();
+    return owner;
+}
+
+MenuLayer::Taker MenuLayer::mouseDragged(const NSEvent& event) {
+    if (tracked) return mouseMoved(event);
+    if (!held) return std::nullopt;
+    sendToContent(event);
+    return held->owner;
+}
+
+MenuLayer::Taker MenuLayer::mouseUp(const NSEvent& event) {
+    const std::optional<HeldPress> press = std::exchange(held, std::nullopt);
+    if (tracked) {
+        const std::int32_t owner = tracked->owner;
+        released(event.locationInWindow);
+        return owner;
+    }
+    if (!press) return std::nullopt;
+    held = press;
+    sendToContent(event);
+    held.reset();
+    return press->owner;
+}
+
+void MenuLayer::released(const CGPoint& point) {
+    const auto began = std::exchange(tracked->pressedAt, std::nullopt);
+    const bool isClick = began && std::hypot(point.x - began->x, point.y - began->y) <= slop;
+    const auto row = tracked->menu.rowAt(point);
+    if (row && !isClick && tracked->menu.canChoose(*row))
+        choose(*row);
+    else if (!isClick && !platform::CGRectContainsPoint(tracked->menu.frame(), point) &&
+             !platform::CGRectContainsPoint(tracked->source, point))
+        closeMenu();
+}
+
+MenuLayer::Taker MenuLayer::mouseMoved(const NSEvent& event) {
+    if (!tracked) return std::nullopt;
+    hover(event.locationInWindow);
+    return tracked->owner;
+}
+
+MenuLayer::Taker MenuLayer::scrollWheel(const NSEvent& event) {
+    if (!tracked) return std::nullopt;
+    const bool isInside = platform::CGRectContainsPoint(tracked->menu.frame(), event.locationInWindow);
+    if (isInside && tracked->menu.scrollBy(-event.scrollingDeltaY)) machine.windows.changed();
+    hover(event.locationInWindow);
+    return tracked->owner;
+}
+
+void MenuLayer::hover(const CGPoint& point) {
+    if (tracked->menu.highlight(tracked->menu.rowAt(point))) machine.windows.changed();
+    if (tracked->menu.scrollerAt(point) == 0)
+        stopScrolling();
+    else if (!scrolling)
+        scrolling = machine.scheduler.after(scrollPeriod, [this] { keepScrolling(); });
+}
+
+// While the mouse rests on the arrow at one of the menu's ends; the longer, the faster.
+void MenuLayer::keepScrolling() {
+    scrolling.reset();
+    const CGPoint mouse = machine.input.mouseLocation();
+    scrollStep = std::clamp(scrollStep * scrollGrowth, firstScrollStep, mostScrollStep);
+    if (tracked->menu.scrollBy(tracked->menu.scrollerAt(mouse) * scrollStep)) machine.windows.changed();
+    hover(mouse);
+}
+
+void MenuLayer::stopScrolling() {
+    scrollStep = 0;
+    if (scrolling) machine.scheduler.cancel(*std::exchange(scrolling, std::nullopt));
+}
+
+MenuLayer::Taker MenuLayer::keyDown(const NSEvent& event) {
+    Taker owner;
+    if (tracked) {
+        owner = tracked->owner;
+        menuKey(event.keyCode);
+    } else if (event.keyCode == escapeKey && !hasKeyboardFocus()) {
+        const std::vector<ShownPopover> shown = popovers();
+        if (!shown.empty()) {
+            owner = shown.back().popover->owner;
+            dismiss(*shown.back().popover);
+        }
+    }
+    if (owner) takenKey = {event.keyCode, *owner};
+    return owner;
+}
+
+MenuLayer::Taker MenuLayer::keyUp(const NSEvent& event) {
+    if (takenKey && takenKey->first == event.keyCode) return std::exchange(takenKey, std::nullopt)->second;
+    return tracked ? Taker(tracked->owner) : std::nullopt;
+}
+
+void MenuLayer::menuKey(std::uint16_t keyCode) {
+    struct Entry {
+        std::uint16_t keyCode;
+        void (*act)(MenuLayer&);
+    };
+    static constexpr auto chooseCurrent = [](MenuLayer& layer) {
+        if (const auto row = layer.tracked->menu.highlighted())
+            layer.choose(*row);
+        else
+            layer.closeMenu();
+    };
+    static constexpr Entry entries[] = {
+        {escapeKey, [](MenuLayer& layer) { layer.closeMenu(); }},
+        {125, [](MenuLayer& layer) { layer.tracked->menu.walk(1); }},
+        {126, [](MenuLayer& layer) { layer.tracked->menu.walk(-1); }},
+        {115, [](MenuLayer& layer) { layer.tracked->menu.walkFrom(0, 1); }},
+        {119, [](MenuLayer& layer) { layer.tracked->menu.walkFrom(layer.tracked->menu.items().size(), -1); }},
+        {36, chooseCurrent},  // Return, Enter, the space bar
+        {76, chooseCurrent},
+        {49, chooseCurrent}};
+    for (const Entry& entry : entries) {
+        if (entry.keyCode != keyCode) continue;
+        entry.act(*this);
+        machine.windows.changed();
+        return;
+    }
+}
+
+void MenuLayer::choose(std::size_t row) {
+    const auto action = tracked->menu.items()[row].action;
+    Application* owner = machine.application(tracked->owner);
+    closeMenu();
+    if (owner != nullptr && action) owner->loop().mainAsync(action);
+}
+
+}  // namespace desk
