@@ -23,18 +23,38 @@ struct NamedKey {
     std::uint16_t keyCode;
     std::string_view characters;
 };
-constexpr NamedKey namedKeys[] = {
-    {"return", 36, "\r"},        {"enter", 76, "\x03"},        {"tab", 48, "\t"},
-    {"space", 49, " "},          {"escape", 53, "\x1b"},       {"esc", 53, "\x1b"},
-    {"delete", 51, "\x7f"},      {"backspace", 51, "\x7f"},    {"forward-delete", 117, "\uF728"},
-    {"left", 123, "\uF702"},     {"right", 124, "\uF703"},     {"down", 125, "\uF701"},
-    {"up", 126, "\uF700"},       {"home", 115, "\uF729"},      {"end", 119, "\uF72B"},
-    {"page-up", 116, "\uF72C"},  {"page-down", 121, "\uF72D"}, {"pageup", 116, "\uF72C"},
-    {"pagedown", 121, "\uF72D"}, {"f1", 122, "\uF704"},        {"f2", 120, "\uF705"},
-    {"f3", 99, "\uF706"},        {"f4", 118, "\uF707"},        {"f5", 96, "\uF708"},
-    {"f6", 97, "\uF709"},        {"f7", 98, "\uF70A"},         {"f8", 100, "\uF70B"},
-    {"f9", 101, "\uF70C"},       {"f10", 109, "\uF70D"},       {"f11", 103, "\uF70E"},
-    {"f12", 111, "\uF70F"}};
+constexpr NamedKey namedKeys[] = {{"return", 36, "\r"},
+                                  {"enter", 76, "\x03"},
+                                  {"tab", 48, "\t"},
+                                  {"space", 49, " "},
+                                  {"escape", 53, "\x1b"},
+                                  {"esc", 53, "\x1b"},
+                                  {"delete", 51, "\x7f"},
+                                  {"backspace", 51, "\x7f"},
+                                  {"forward-delete", 117, "\uF728"},
+                                  {"forwarddelete", 117, "\uF728"},
+                                  {"left", 123, "\uF702"},
+                                  {"right", 124, "\uF703"},
+                                  {"down", 125, "\uF701"},
+                                  {"up", 126, "\uF700"},
+                                  {"home", 115, "\uF729"},
+                                  {"end", 119, "\uF72B"},
+                                  {"page-up", 116, "\uF72C"},
+                                  {"page-down", 121, "\uF72D"},
+                                  {"pageup", 116, "\uF72C"},
+                                  {"pagedown", 121, "\uF72D"},
+                                  {"f1", 122, "\uF704"},
+                                  {"f2", 120, "\uF705"},
+                                  {"f3", 99, "\uF706"},
+                                  {"f4", 118, "\uF707"},
+                                  {"f5", 96, "\uF708"},
+                                  {"f6", 97, "\uF709"},
+                                  {"f7", 98, "\uF70A"},
+                                  {"f8", 100, "\uF70B"},
+                                  {"f9", 101, "\uF70C"},
+                                  {"f10", 109, "\uF70D"},
+                                  {"f11", 103, "\uF70E"},
+                                  {"f12", 111, "\uF70F"}};
 
 // The US layout: what each key types without and with Shift.
 struct LayoutKey {

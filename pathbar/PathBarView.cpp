@@ -74,7 +74,8 @@ View PathBarView::brandLabel(double width) const {
 
 View PathBarView::fieldOrCrumbs() const {
     if (isEditing.get())
-        return View(PathInputView{inputText, commitPath, cancelEditing})
+        return View(PathInputView{platform, inputText, commitPath, cancelEditing})
+            .accessibilityIdentifier("field")
             .padding({.leading = 12, .trailing = 6})
             .frame({.height = PathBarMetrics::rowHeight});
     return BreadcrumbView(
@@ -95,11 +96,13 @@ View PathBarView::copyButton() const {
 }
 
 View PathBarView::copyPopover() const {
-    return inPopover(Label("Path copied.", "checkmark.circle.fill").foregroundStyle(ColorRole::primary));
+    return inPopover(Label("Path copied.", "checkmark.circle.fill").foregroundStyle(ColorRole::primary))
+        .accessibilityIdentifier("copy-confirmation");
 }
 
 View PathBarView::errorPopover() const {
-    return inPopover(Text(errorMessage.get().value_or("")).foregroundStyle(ColorRole::red));
+    return inPopover(Text(errorMessage.get().value_or("")).foregroundStyle(ColorRole::red))
+        .accessibilityIdentifier("error-message");
 }
 
 View PathBarView::contextMenu() const {

@@ -32,7 +32,20 @@ NSWindow::~NSWindow() {
 void NSWindow::sendEvent(const NSEvent& event) {
     const bool isMouseDown = event.type == NSEventType::leftMouseDown || event.type == NSEventType::rightMouseDown;
     if (isMouseDown) makeKeyWindow();
-    if (content) content->handleEvent(event);
+    if (event.type == NSEventType::keyDown && responder != nullptr)
+        responder->keyDown(event);
+    else if (content)
+        content->handleEvent(event);
+}
+
+bool NSWindow::makeFirstResponder(NSResponder* newResponder) {
+    if (newResponder == responder) return true;
+    if (responder != nullptr && !responder->resignFirstResponder()) return false;
+    responder = nullptr;
+    if (newResponder == nullptr) return true;
+    if (!newResponder->becomeFirstResponder()) return false;
+    responder = newResponder;
+    return true;
 }
 
 void NSWindow::setFrame(const CGRect& frame, bool /*display*/) {

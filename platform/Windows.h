@@ -10,6 +10,7 @@
 #include "platform/Drawing.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"
+#include "platform/Responder.h"
 
 namespace platform {
 
@@ -106,8 +107,8 @@ public:
     NSWindow& operator=(const NSWindow&) = delete;
     virtual ~NSWindow();
 
-    // Every event for this window arrives here first. The inherited operation makes the window key on a mouse down if it can become key, and hands the
-    // event to the content view.
+    // Every event for this window arrives here first. The inherited operation makes the window key on a mouse down if it can become key, hands keys to the first
+    // responder, and everything else, and keys without one, to the content view.
     virtual void sendEvent(const NSEvent& event);
     virtual bool canBecomeKey() const { return (attributes.styleMask & NSWindowStyleMask::titled) != 0; }
     virtual bool canBecomeMain() const { return (attributes.styleMask & NSWindowStyleMask::titled) != 0; }
@@ -128,6 +129,12 @@ public:
     void makeKeyWindow();
     void makeKeyAndOrderFront();
     bool isKeyWindow() const { return handle->isKey(); }
+
+    // Asks the present one to resign, then the new one to become it; false when either refuses, and there is then the old one or none. Null for none.
+    bool makeFirstResponder(NSResponder* responder);
+    NSResponder* firstResponder() const { return responder; }
+    // For a responder that goes away and can't be asked any more.
+    void forgetFirstResponder() { responder = nullptr; }
 
     void setContentView(std::unique_ptr<ContentView> view);
     ContentView* contentView() const { return content.get(); }
@@ -161,6 +168,7 @@ private:
     WindowSettings attributes;
     std::unique_ptr<WindowHandle> handle;
     std::unique_ptr<ContentView> content;
+    NSResponder* responder = nullptr;
 };
 
 class NSPanel : public NSWindow {

@@ -10,6 +10,7 @@
 #include "play/Json.h"
 #include "play/Session.h"
 #include "views/HostingView.h"
+#include "views/NSTextField.h"
 
 namespace play {
 
@@ -35,6 +36,19 @@ std::optional<Bar> barWithPanel(const Session& session, std::int64_t panel) {
     for (const auto& [id, controller] : *controllers)
         if (controller->panel->windowNumber() == panel) return Bar{&id, controller.get()};
     return std::nullopt;
+}
+
+// The path field of a bar in edit mode; null in others.
+const views::NSTextField* fieldOf(const FinderOverlayWindowController& controller) {
+    const auto* host = dynamic_cast<const views::HostingView*>(controller.panel->contentView());
+    return host == nullptr ? nullptr : dynamic_cast<const views::NSTextField*>(host->wrappedView("field"));
+}
+
+// Null unless the field has its panel's keyboard.
+QJsonValue selectedRange(const views::FieldEditor* editor) {
+    if (editor == nullptr) return {};
+    const views::NSRange range = editor->selectedRange();
+    return QJsonArray{static_cast<qint64>(range.location), static_cast<qint64>(range.length)};
 }
 
 std::vector<AccessibilityElement> elementsOf(const FinderOverlayWindowController& controller) {
@@ -114,6 +128,8 @@ QJsonObject panelOf(const Bar& bar, Session& session) {
     const bool isConfirmed = std::any_of(elements.begin(), elements.end(), [](const AccessibilityElement& element) {
         return element.identifier == "copy" && element.value == "checkmark";
     });
+    const auto* field = fieldOf(controller);
+    const auto* editor = field == nullptr ? nullptr : field->currentEditor();
     auto& designs = session.application()->platform().shared<brindle::PathBarDesignManager>();
     const auto& model = *controller.viewModel;
     return {{"id", jsonText(std::string_view(*bar.id))},
@@ -128,8 +144,8 @@ QJsonObject panelOf(const Bar& bar, Session& session) {
             {"errorMessage", jsonText(model.errorMessage.get())},
             {"crumbs", drawn.crumbs},
             {"hidden", drawn.hidden},
-            {"fieldFocused", false},
-            {"selectedRange", QJsonValue()},
+            {"fieldFocused", editor != nullptr},
+            {"selectedRange", selectedRange(editor)},
             {"showsCopyConfirmation", isConfirmed},
             {"design", jsonText(brindle::rawValue(designs.selectedDesign.get()))}};
 }

@@ -35,6 +35,8 @@ std::optional<AccessibilityRole> roleOf(const LayoutItem& item) {
         return AccessibilityRole::staticText;
     case ViewKind::image:
         return AccessibilityRole::image;
+    case ViewKind::representable:
+        return AccessibilityRole::textField;
     default:
         return std::nullopt;
     }
@@ -82,6 +84,8 @@ private:
         const LayoutItem& item = layout[index];
         if (item.kind == ItemKind::text)
             element.value = item.view->as<TextContent>().text;
+        else if (item.kind == ItemKind::wrapped)
+            element.value = item.view->as<RepresentableContent>().made->view->accessibilityValue();
         else if (role != AccessibilityRole::group)
             element.value = firstSymbol(layout, index);
         element.identifier = said.identifier;

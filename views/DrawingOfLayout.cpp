@@ -65,12 +65,14 @@ void draw(const Layout& layout, platform::TextSystem& text, platform::Drawing& i
     into.operations.clear();
     layout.forEach([&](std::int32_t, const LayoutItem& item) {
         if (item.kind == ItemKind::shape) drawShape(item, into);
+        if (item.kind == ItemKind::wrapped) item.view->as<RepresentableContent>().made->view->drawShapes(into);
         if (item.kind == ItemKind::divider)
             into.operations.emplace_back(
                 platform::FillShape{{crisp(item.frame), 0, CornerStyle::circular}, Color::of(ColorRole::separator)});
     });
     layout.forEach([&](std::int32_t, const LayoutItem& item) {
         if (item.kind == ItemKind::text) drawText(item, text, into);
+        if (item.kind == ItemKind::wrapped) item.view->as<RepresentableContent>().made->view->drawText(into);
         if (item.kind == ItemKind::symbol && isVisible(item.color))
             into.operations.emplace_back(
                 platform::DrawSymbol{item.view->as<ImageContent>().systemName, item.font, item.color, item.frame});

@@ -6,9 +6,20 @@
 
 namespace views {
 
-FieldEditor::FieldEditor(platform::Platform& thePlatform, std::string text)
-    : platform(thePlatform), engine(thePlatform.textBoundaries) {
+FieldEditor::FieldEditor(platform::Platform& thePlatform, std::string text, std::function<void()> theLooksChanged)
+    : platform(thePlatform), engine(thePlatform.textBoundaries), looksChanged(std::move(theLooksChanged)) {
     engine.setText(std::move(text));
+}
+
+void FieldEditor::setString(std::string text) {
+    engine.setText(std::move(text));
+    looksChanged();
+}
+
+void FieldEditor::setSelectedRange(NSRange range) {
+    const NSRange before = engine.selectedRange();
+    engine.setSelectedRange(range);
+    if (engine.selectedRange() != before) looksChanged();
 }
 
 // The field is the only one in its window: tabbing on comes back to it, and selects its text as arriving does.

@@ -2,6 +2,7 @@
 // keyboard and goes when it gives it up; the field tells its delegate what has changed.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -12,13 +13,14 @@ namespace views {
 
 class FieldEditor {
 public:
-    FieldEditor(platform::Platform& thePlatform, std::string text);
+    // `theLooksChanged` is called when text or selection are set from outside.
+    FieldEditor(platform::Platform& thePlatform, std::string text, std::function<void()> theLooksChanged);
 
     const std::string& string() const { return engine.text(); }
-    void setString(std::string text) { engine.setText(std::move(text)); }
+    void setString(std::string text);
     // UTF-16 units.
     NSRange selectedRange() const { return engine.selectedRange(); }
-    void setSelectedRange(NSRange range) { engine.setSelectedRange(range); }
+    void setSelectedRange(NSRange range);
 
     void insertText(std::string_view text) { engine.type(text); }
     // The platform's name of the command; unknown ones do nothing.
@@ -36,6 +38,7 @@ private:
 
     platform::Platform& platform;
     TextFieldEngine engine;
+    std::function<void()> looksChanged;
 };
 
 }  // namespace views

@@ -13,7 +13,7 @@ namespace {
 
 bool reacts(const LayoutItem& item) {
     return item.viewKind == ViewKind::button || item.viewKind == ViewKind::tapGesture ||
-           item.viewKind == ViewKind::menu;
+           item.viewKind == ViewKind::menu || item.viewKind == ViewKind::representable;
 }
 
 }  // namespace
@@ -30,6 +30,7 @@ HostingView::~HostingView() {
 
 void HostingView::didMoveToWindow(platform::NSWindow* theWindow) {
     window = theWindow;
+    moveWrappedViews();
     if (window != nullptr) return;
     menu.reset();
     popovers.clear();
@@ -92,9 +93,8 @@ void HostingView::layOut() {
         platform.text, [&](View& reader, CGSize readerSize) { reconciler.expand(reader, readerSize); }, frames);
     pass.layOut(*tree, size);
     followColorScheme();
-    needsDrawing = true;
-    version += 1;
-    if (window != nullptr) window->setNeedsDisplay();
+    placeWrappedViews();
+    setNeedsDisplay();
 }
 
 CGSize HostingView::idealSize() {
@@ -162,6 +162,8 @@ void HostingView::mouseDown(const platform::NSEvent& event) {
     if (!item) return;
     if (frames[*item].viewKind == ViewKind::menu)
         openMenu(frames[*item]);
+    else if (frames[*item].viewKind == ViewKind::representable)
+        pressWrappedView(frames[*item], event);
     else
         press = Press{frames.placeOf(*item)};
 }

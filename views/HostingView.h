@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/Lifetime.h"
@@ -44,6 +45,8 @@ public:
     // The frames as of the last update.
     const Layout& layout() const { return frames; }
     std::vector<AccessibilityElement> elements() const { return accessibilityElements(frames); }
+    // The NSView in the tree that was given this identifier; null when there is none now.
+    const NSView* wrappedView(std::string_view identifier) const;
     // The size that the root takes when it is offered nothing, for windows that follow their content.
     CGSize idealSize();
     // From the window's AppKit coordinates to view space.
@@ -80,11 +83,18 @@ private:
     static void refresh(PresentedPopover& popover, const CGRect& anchor, const Popover& declared);
     void dismissed(std::string place);
 
+    // In HostingView+Wrapped.cpp.
+    void placeWrappedViews();
+    void moveWrappedViews();
+    void setNeedsDisplay();
+    void pressWrappedView(const LayoutItem& item, const platform::NSEvent& event);
+
     const std::shared_ptr<Composite> root;
     RenderCounts::Counts& counts;
     const std::shared_ptr<HostLink> link;
     std::shared_ptr<View> tree;
     std::vector<std::weak_ptr<TaskSlot>> tasks;
+    std::vector<std::weak_ptr<NSView>> wrappedViews;
     Layout frames;
     platform::Drawing painted;
     std::uint64_t version = 0;

@@ -41,6 +41,8 @@ const char* nameOf(const LayoutItem& item) {
         return "spacer";
     case ItemKind::divider:
         return "divider";
+    case ItemKind::wrapped:
+        return "wrapped";
     case ItemKind::hStack:
         return "hStack";
     case ItemKind::vStack:

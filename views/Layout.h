@@ -20,6 +20,7 @@ enum class ItemKind : std::uint8_t {
     shape,
     spacer,
     divider,
+    wrapped,
     hStack,
     vStack,
     layers,

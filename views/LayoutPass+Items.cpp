@@ -97,6 +97,9 @@ void LayoutPass::appendCore(View& view, Siblings& siblings, Pending& pending, co
     case ViewKind::divider:
         appendLeaf(view, ItemKind::divider, siblings, pending, around);
         break;
+    case ViewKind::representable:
+        appendLeaf(view, ItemKind::wrapped, siblings, pending, around);
+        break;
     case ViewKind::hStack:
         appendContainer(view, ItemKind::hStack, siblings, pending, around);
         break;

@@ -76,6 +76,7 @@ std::optional<CGSize> LayoutPass::measureAtOnce(const LayoutItem& item, const Pr
     case ItemKind::symbol:
         return item.natural;
     case ItemKind::shape:
+    case ItemKind::wrapped:
     case ItemKind::geometryReader:
         return CGSize{orElse(proposal.width, withoutPreference), orElse(proposal.height, withoutPreference)};
     case ItemKind::spacer: {

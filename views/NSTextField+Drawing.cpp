@@ -33,36 +33,47 @@ double NSTextField::positionOf(std::size_t offset) const {
     return platform.text.width(std::string_view(stringValue()).substr(0, offset), font);
 }
 
-void NSTextField::scrollToCaret() {
-    const double caret = positionOf(editor->state().caret());
-    scrolled = std::clamp(scrolled, caret + caretWidth - textArea().width(), caret);
-    keepScrolledWithinText();
+void NSTextField::setFrame(const platform::CGRect& frame) {
+    const bool isOther = frame != this->frame();
+    NSView::setFrame(frame);
+    if (isOther && editor && editor->state().selectedText().empty()) scrollToCaret();
 }
 
-void NSTextField::keepScrolledWithinText() {
-    const double end = positionOf(stringValue().size()) + caretWidth;
-    scrolled = std::max(0.0, std::min(scrolled, end - textArea().width()));
+// No further than needed, and never past the end of the text.
+void NSTextField::scrollToCaret() {
+    const double room = textArea().width() - caretWidth;
+    const double caret = positionOf(editor->state().caret());
+    scrolled = std::min(std::max(scrolled, caret - room), caret);
+    scrolled = std::max(0.0, std::min(scrolled, positionOf(stringValue().size()) - room));
 }
 
 void NSTextField::drawShapes(platform::Drawing& into) const {
     if (drawsBackground)
-        into.operations.emplace_back(platform::FillShape{boxed(frame()), platform::Color::of(platform::ColorRole::controlBackground)});
+        into.operations.emplace_back(
+            platform::FillShape{boxed(frame()), platform::Color::of(platform::ColorRole::controlBackground)});
     if (isBordered)
-        into.operations.emplace_back(platform::StrokeShape{boxed(platform::CGRectInset(frame(), 0.5, 0.5)), platform::Color::of(platform::ColorRole::separator), 1});
+        into.operations.emplace_back(platform::StrokeShape{boxed(platform::CGRectInset(frame(), 0.5, 0.5)),
+                                                           platform::Color::of(platform::ColorRole::separator), 1});
     if (!editor) return;
+    if (focusRingType != NSFocusRingType::none)
+        into.operations.emplace_back(
+            platform::StrokeShape{boxed(frame()), platform::Color::of(platform::ColorRole::accent, 0.5), 3});
     const platform::CGRect area = textArea();
     const auto onScreen = [&](std::size_t offset) { return toHalfPoint(area.minX() - scrolled + positionOf(offset)); };
     const TextFieldEngine& state = editor->state();
     if (state.selectionBegin() == state.selectionEnd()) {
         const double x = onScreen(state.caret());
         into.operations.emplace_back(
-            platform::FillShape{boxed(platform::CGRectMake(x, area.minY(), caretWidth, area.height())), platform::Color::of(platform::ColorRole::primary)});
+            platform::FillShape{boxed(platform::CGRectMake(x, area.minY(), caretWidth, area.height())),
+                                platform::Color::of(platform::ColorRole::primary)});
         return;
     }
     const double begin = std::max(frame().minX(), onScreen(state.selectionBegin()));
     const double end = std::min(frame().maxX(), onScreen(state.selectionEnd()));
     if (end > begin)
-        into.operations.emplace_back(platform::FillShape{boxed(platform::CGRectMake(begin, area.minY(), end - begin, area.height())), platform::Color::of(platform::ColorRole::selectedText)});
+        into.operations.emplace_back(
+            platform::FillShape{boxed(platform::CGRectMake(begin, area.minY(), end - begin, area.height())),
+                                platform::Color::of(platform::ColorRole::selectedText)});
 }
 
 void NSTextField::drawText(platform::Drawing& into) const {
@@ -71,7 +82,8 @@ void NSTextField::drawText(platform::Drawing& into) const {
     if (text.empty() || line.width() <= 0) return;
     const platform::Color color = platform::Color::of(platform::ColorRole::primary);
     if (!editor && lineBreakMode == NSLineBreakMode::byTruncatingMiddle) {
-        into.operations.emplace_back(platform::DrawText{platform.text.truncatedInMiddle(text, font, line.width()), font, color, line});
+        into.operations.emplace_back(
+            platform::DrawText{platform.text.truncatedInMiddle(text, font, line.width()), font, color, line});
         return;
     }
     into.operations.emplace_back(platform::BeginClip{frame()});

@@ -10,14 +10,14 @@ void NSTextField::setStringValue(std::string text) {
     if (editor) {
         editor->setString(std::move(text));
         scrollToCaret();
-    } else {
-        value = std::move(text);
+        return;
     }
+    ownText = std::move(text);
     setNeedsDisplay();
 }
 
 bool NSTextField::becomeFirstResponder() {
-    editor.emplace(platform, value);
+    editor.emplace(platform, ownText, [this] { setNeedsDisplay(); });
     editor->doCommandBySelector("selectAll:");
     setNeedsDisplay();
     return true;
@@ -25,7 +25,7 @@ bool NSTextField::becomeFirstResponder() {
 
 bool NSTextField::resignFirstResponder() {
     if (!editor) return true;
-    value = editor->string();
+    ownText = editor->string();
     editor.reset();
     scrolled = 0;
     setNeedsDisplay();
@@ -61,7 +61,9 @@ void NSTextField::doCommand(std::string_view command) {
         return;
     }
     const auto held = target.lock();
-    if (held && action) std::function<void()>(action)();
+    if (!held || !action) return;
+    const auto run = action;
+    run();
 }
 
 void NSTextField::afterEditing(const std::string& textBefore) {

@@ -21,7 +21,7 @@ class NSTextField : public NSView {
 public:
     explicit NSTextField(platform::Platform& thePlatform) : platform(thePlatform) {}
 
-    const std::string& stringValue() const { return editor ? editor->string() : value; }
+    const std::string& stringValue() const { return editor ? editor->string() : ownText; }
     // Tells no delegate. In a field that is being edited the caret goes to the text's end.
     void setStringValue(std::string text);
 
@@ -45,8 +45,10 @@ public:
     // Takes the keyboard. The caret stays where it is: the one field there is selects its whole text on a click.
     void mouseDown(const platform::NSEvent& event) override;
 
+    void setFrame(const platform::CGRect& frame) override;
     void drawShapes(platform::Drawing& into) const override;
     void drawText(platform::Drawing& into) const override;
+    std::string accessibilityValue() const override { return stringValue(); }
 
 private:
     void doCommand(std::string_view command);
@@ -55,10 +57,9 @@ private:
     platform::CGRect textArea() const;
     double positionOf(std::size_t offset) const;
     void scrollToCaret();
-    void keepScrolledWithinText();
 
     platform::Platform& platform;
-    std::string value;
+    std::string ownText;
     std::optional<FieldEditor> editor;
     std::weak_ptr<NSTextFieldDelegate> delegate;
     std::weak_ptr<void> target;

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "platform/Drawing.h"
 #include "platform/Responder.h"
@@ -28,9 +29,12 @@ public:
     virtual void drawShapes(platform::Drawing& into) const = 0;
     virtual void drawText(platform::Drawing& into) const = 0;
 
+    // Its value for assistive tools, scripts and tests.
+    virtual std::string accessibilityValue() const { return {}; }
+
     // Called by the host. Leaving its window gives the keyboard up.
     void moveToWindow(platform::NSWindow* window, std::function<void()> needsDisplay);
-    void setFrame(const platform::CGRect& frame);
+    virtual void setFrame(const platform::CGRect& frame);
 
 protected:
     void setNeedsDisplay() const;

@@ -59,6 +59,7 @@ bool Reconciler::update(View& fresh, View* previous) {
                 std::visit(LooksAlike{previous->content}, fresh.content);
     if (fresh.kind == ViewKind::composite) return updateComposite(fresh, previous) && same;
     if (fresh.kind == ViewKind::geometryReader) return updateReader(fresh, previous) && same;
+    if (fresh.kind == ViewKind::representable) return updateRepresentable(fresh, previous) && same;
     if (fresh.kind == ViewKind::task) updateTask(fresh, previous);
     return updateChildren(fresh, previous) && same;
 }
@@ -102,6 +103,18 @@ void Reconciler::expand(View& reader, CGSize size) {
     reader.children.push_back(content.build(size));
     host->isEvaluating = false;
     update(reader.children.front(), before.empty() ? nullptr : &before.front());
+}
+
+bool Reconciler::updateRepresentable(View& fresh, View* previous) {
+    auto& content = fresh.as<RepresentableContent>();
+    const auto* before = previous == nullptr ? nullptr : &previous->as<RepresentableContent>();
+    const bool isKept = before != nullptr && before->made && before->view->type() == content.view->type();
+    if (isKept)
+        content.made = std::move(previous->as<RepresentableContent>().made);
+    else
+        content.made = std::make_shared<RepresentedView>(content.view->make());
+    content.view->update(*content.made);
+    return isKept;
 }
 
 void Reconciler::updateTask(View& fresh, View* previous) {
@@ -153,6 +166,9 @@ void Reconciler::takeBehaviour(View& kept, View& fresh) {
         break;
     case ViewKind::composite:
         replace<CompositeContent>(kept, fresh);
+        break;
+    case ViewKind::representable:
+        replace<RepresentableContent>(kept, fresh);
         break;
     default:
         break;

@@ -29,6 +29,7 @@ public:
 private:
     bool updateComposite(View& fresh, View* previous);
     bool updateReader(View& fresh, View* previous);
+    bool updateRepresentable(View& fresh, View* previous);
     void updateTask(View& fresh, View* previous);
     bool updateChildren(View& fresh, View* previous);
 

@@ -21,6 +21,7 @@
 #include "views/Binding.h"
 #include "views/Composite.h"
 #include "views/Modifier.h"
+#include "views/NSViewRepresentable.h"
 #include "views/ViewContent.h"
 
 namespace views {
@@ -47,7 +48,8 @@ enum class ViewKind : std::uint8_t {
     help,
     accessibilityLabel,
     task,
-    composite
+    composite,
+    representable
 };
 
 class View {
@@ -57,6 +59,8 @@ public:
     View(ViewKind theKind, ViewContent theContent) : kind(theKind), content(std::move(theContent)) {}
     View(Color color);  // NOLINT(google-explicit-constructor)
     template <DeclaresBody T>
+    View(T view);  // NOLINT(google-explicit-constructor)
+    template <RepresentsNSView T>
     View(T view);  // NOLINT(google-explicit-constructor)
     View(View&&) noexcept = default;
     View& operator=(View&&) noexcept = default;
@@ -134,5 +138,10 @@ View CompositeOf<T>::body() const {
 template <DeclaresBody T>
 View::View(T view)
     : View(ViewKind::composite, CompositeContent{std::make_shared<CompositeOf<T>>(std::move(view)), nullptr}) {}
+
+template <RepresentsNSView T>
+View::View(T view)
+    : View(ViewKind::representable,
+           RepresentableContent{std::make_shared<RepresentableOf<T>>(std::move(view)), nullptr}) {}
 
 }  // namespace views

@@ -23,8 +23,10 @@ using platform::CornerStyle;
 
 class Composite;
 class Context;
+class Representable;
 class View;
 struct Instance;
+struct RepresentedView;
 
 struct TextContent {
     std::string text;
@@ -96,8 +98,14 @@ struct CompositeContent {
     std::shared_ptr<Instance> instance;
 };
 
+// An NSView in its place, once it has been made.
+struct RepresentableContent {
+    std::shared_ptr<Representable> view;
+    std::shared_ptr<RepresentedView> made;
+};
+
 using ViewContent =
     std::variant<std::monostate, TextContent, ImageContent, LengthContent, StackContent, ShapeContent, ActionContent,
-                 MenuContent, ReaderContent, PopoverContent, TaskContent, CompositeContent>;
+                 MenuContent, ReaderContent, PopoverContent, TaskContent, CompositeContent, RepresentableContent>;
 
 }  // namespace views

@@ -22,6 +22,8 @@
 #include "views/Controls.h"
 #include "views/Environment.h"
 #include "views/HostingView.h"
+#include "views/NSTextField.h"
+#include "views/NSViewRepresentable.h"
 #include "views/ObservedObject.h"
 #include "views/RenderCounts.h"
 #include "views/Shapes.h"

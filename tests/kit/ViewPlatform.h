@@ -1,5 +1,5 @@
 // The part of a platform that views and the path bar use, for tests without a machine: time that the test moves, turns
-// that it ends, user defaults in a map, the fixed text. The other parts must not be called.
+// that it ends, user defaults in a map, the fixed text, plain windows, a clipboard. The other parts must not be called.
 #pragma once
 
 #include <array>
@@ -13,13 +13,16 @@
 #include "platform/Platform.h"
 #include "tests/kit/FixedText.h"
 #include "tests/kit/PlainText.h"
+#include "tests/kit/PlainWindows.h"
 
 namespace kit {
 
 class ViewPlatform final : public platform::Clock,
                            public platform::Dispatch,
                            public platform::RunLoop,
-                           public platform::NSUserDefaults {
+                           public platform::NSUserDefaults,
+                           public platform::NSPasteboard,
+                           public platform::UUIDSource {
 public:
     ViewPlatform() = default;
     // With real fonts in place of the fixed text.
@@ -28,6 +31,8 @@ public:
     FixedText text;
     PlainBoundaries boundaries;
     PlainCollation collation;
+    PlainWindows windows;
+    std::optional<std::string> clipboard;
     platform::Appearance appearance;
     std::map<std::string, std::string> stored;
     int defaultsWrites = 0;
@@ -73,6 +78,13 @@ public:
         defaultsWrites += 1;
         stored[key] = *value.as<std::string>();
     }
+    void clearContents() override { clipboard.reset(); }
+    bool setString(const std::string& copied) override {
+        clipboard = copied;
+        return true;
+    }
+    std::optional<std::string> string() override { return clipboard; }
+    platform::UUID makeUUID() override { return {{++lastUUID, 0}}; }
 
 private:
     alignas(std::max_align_t) std::array<std::byte, 64> nothing{};
@@ -83,6 +95,7 @@ private:
 
     platform::TextSystem& measuring = text;
     platform::Date time;
+    std::uint64_t lastUUID = 0;
     std::multimap<platform::Date, std::shared_ptr<platform::DispatchWorkItem>> delayed;
     std::vector<platform::Block> atTheEnd;
     platform::SharedSlots slots;
@@ -99,7 +112,7 @@ public:
                                 unused<platform::AppleEvents>(),
                                 unused<platform::Events>(),
                                 unused<platform::NSApplication>(),
-                                unused<platform::WindowSystem>(),
+                                windows,
                                 unused<platform::Menus>(),
                                 measuring,
                                 boundaries,
@@ -107,8 +120,8 @@ public:
                                 unused<platform::NSFileManager>(),
                                 *this,
                                 unused<platform::NSBundle>(),
-                                unused<platform::NSPasteboard>(),
-                                unused<platform::UUIDSource>(),
+                                *this,
+                                *this,
                                 slots};
 };
 
