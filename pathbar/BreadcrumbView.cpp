@@ -1,8 +1,10 @@
 #include "pathbar/BreadcrumbView.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
+#include "pathbar/ChildFolders.h"
 #include "pathbar/PathBarMetrics.h"
 
 namespace brindle {
@@ -39,6 +41,10 @@ VisibleItems BreadcrumbView::visibleItems(double width) const {
     return brindle::visibleItems(platform.text, items, width);
 }
 
+std::vector<BreadcrumbItem> BreadcrumbView::childFolders(const BreadcrumbItem& of) const {
+    return brindle::childFolders(platform, of);
+}
+
 View BreadcrumbView::body() const {
     return GeometryReader([this](CGSize size) {
         return ZStack({.alignment = Alignment::leading},
@@ -72,11 +78,19 @@ View BreadcrumbView::crumbButton(const BreadcrumbItem& item) const {
         .accessibilityIdentifier("crumb");
 }
 
-View BreadcrumbView::folderMenu(const BreadcrumbItem& /*item*/) const {
-    return Menu({},
+View BreadcrumbView::folderMenu(const BreadcrumbItem& item) const {
+    return Menu([this, parent = &item] { return folderEntries(*parent); },
                 chevron().frame({.width = PathBarMetrics::chevronWidth}).frame({.maxHeight = infinity}).contentShape())
         .accessibilityIdentifier("chevron")
         .fixedSize(true, false);
+}
+
+View BreadcrumbView::folderEntries(const BreadcrumbItem& of) const {
+    const auto children = std::make_shared<const std::vector<BreadcrumbItem>>(childFolders(of));
+    if (children->empty()) return Text("No Subfolders");
+    return ForEach(*children, &BreadcrumbItem::id, [&](std::size_t offset, const BreadcrumbItem& child) {
+        return Button([this, children, offset] { onSelect((*children)[offset]); }, Label(child.title, "folder"));
+    });
 }
 
 // The nearest hidden folder stands on top, the root at the bottom.

@@ -21,12 +21,15 @@ public:
 
     double fullWidth(std::span<const BreadcrumbItem> of) const;
     VisibleItems visibleItems(double width) const;
+    // The folders inside that item's folder, as they are on disk now; empty on any failure.
+    std::vector<BreadcrumbItem> childFolders(const BreadcrumbItem& of) const;
 
 private:
     views::View row(const VisibleItems& visible) const;
     views::View crumbUnit(std::size_t offset, const BreadcrumbItem& item) const;
     views::View crumbButton(const BreadcrumbItem& item) const;
     views::View folderMenu(const BreadcrumbItem& item) const;
+    views::View folderEntries(const BreadcrumbItem& of) const;
     views::View ellipsisMenu(std::size_t hiddenCount) const;
 
     platform::Platform& platform;

@@ -8,6 +8,7 @@
 #include "desk/finder/FinderWindow.h"
 #include "play/BarParts.h"
 #include "play/Json.h"
+#include "play/OpenMenus.h"
 #include "play/Session.h"
 #include "tracking/FinderObserver.h"
 
@@ -195,6 +196,8 @@ QJsonObject stateOf(Session& session) {
             {"observer", observer(session)},
             {"panels", panelsOf(session)},
             {"stacking", stacking(session)},
+            {"menu", menuOf(machine)},
+            {"popover", popoverOf(machine)},
             {"alert", alert(machine)},
             {"clipboard", jsonText(machine.clipboard)},
             {"opened", opened(machine)},

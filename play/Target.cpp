@@ -1,9 +1,12 @@
 #include "play/Target.h"
 
+#include <algorithm>
+
 #include "desk/AlertLayout.h"
 #include "desk/finder/FinderWindow.h"
 #include "play/BarParts.h"
 #include "play/Commands.h"
+#include "play/OpenMenus.h"
 #include "play/ScriptPlayer.h"
 
 namespace play {
@@ -56,14 +59,29 @@ Target labelled(ScriptPlayer& player, const Arguments& words) {
         const desk::AlertLayout layout = desk::layoutOf(*alert, *screen);
         if (const auto* button = layout.buttonLabelled(label)) return {middleOf(button->frame), 2};
     }
+    if (const auto point = popoverControl(machine, label)) return {*point, 2};
     missingTarget("nothing is labelled " + label);
+}
+
+Target itemTitled(ScriptPlayer& player, const Arguments& words) {
+    const std::string& title = words.text(0);
+    auto& menus = player.machine().menus;
+    const desk::OpenMenu* menu = menus.menu();
+    if (menu == nullptr) missingTarget("no menu is open");
+    const auto& items = menu->items();
+    const auto isTitled = [&](const platform::MenuItem& item) { return !item.isSeparator && item.title == title; };
+    const auto item = std::find_if(items.begin(), items.end(), isTitled);
+    if (item == items.end()) missingTarget("the menu has no item " + title);
+    const auto row = static_cast<std::size_t>(item - items.begin());
+    menus.reveal(row);
+    return {middleOf(menu->frameOf(row)), 2};
 }
 
 struct Kind {
     std::string_view name;
     Target (*read)(ScriptPlayer& player, const Arguments& words);
 };
-constexpr Kind kinds[] = {{"window", windowPart}, {"bar", barPart}, {"label", labelled}};
+constexpr Kind kinds[] = {{"window", windowPart}, {"bar", barPart}, {"label", labelled}, {"item", itemTitled}};
 
 }  // namespace
 

@@ -44,6 +44,19 @@ std::optional<platform::FileKind> FilesPort::kindOfFileAtPath(const std::string&
     return disk.kind(platform::standardizedPath(path, "/"));
 }
 
+std::optional<std::vector<platform::DirectoryEntry>> FilesPort::contentsOfDirectory(const std::string& path,
+                                                                                    bool skipsHiddenFiles) {
+    if (!isSound(path)) return std::nullopt;
+    auto listed = disk.list(platform::standardizedPath(path, "/"));
+    if (!listed) return std::nullopt;
+    std::vector<platform::DirectoryEntry> entries;
+    entries.reserve(listed->size());
+    for (DiskEntry& entry : *listed)
+        if (!skipsHiddenFiles || !entry.isHidden)
+            entries.push_back({std::move(entry.name), entry.isDirectory, entry.isPackage});
+    return entries;
+}
+
 std::unique_ptr<platform::NSFileHandle> FilesPort::fileHandleForWritingAtPath(const std::string& path) {
     if (kindOfFileAtPath(path) != platform::FileKind::file) return nullptr;
     const std::string absolute = platform::standardizedPath(path, "/");

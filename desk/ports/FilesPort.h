@@ -12,6 +12,8 @@ public:
     explicit FilesPort(Disk& theDisk) : disk(theDisk) {}
 
     std::optional<platform::FileKind> kindOfFileAtPath(const std::string& path) override;
+    std::optional<std::vector<platform::DirectoryEntry>> contentsOfDirectory(const std::string& path,
+                                                                             bool skipsHiddenFiles) override;
     std::unique_ptr<platform::NSFileHandle> fileHandleForWritingAtPath(const std::string& path) override;
     bool writeFile(const std::string& path, std::string_view contents) override;
     std::string currentDirectoryPath() override { return "/"; }

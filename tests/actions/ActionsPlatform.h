@@ -34,6 +34,9 @@ public:
         return found == disk.end() ? std::nullopt : std::optional(found->second);
     }
     std::unique_ptr<platform::NSFileHandle> fileHandleForWritingAtPath(const std::string&) override { return nullptr; }
+    std::optional<std::vector<platform::DirectoryEntry>> contentsOfDirectory(const std::string&, bool) override {
+        return std::nullopt;
+    }
     bool writeFile(const std::string&, std::string_view) override { return false; }
     std::string currentDirectoryPath() override { return "/lost here"; }
     std::string homeDirectory() override { return "/Users/ana"; }

@@ -266,6 +266,9 @@ public:
         if (fileOpensFail) return nullptr;
         return std::make_unique<FakeFile>(fileContents[path]);
     }
+    std::optional<std::vector<platform::DirectoryEntry>> contentsOfDirectory(const std::string&, bool) override {
+        return std::nullopt;
+    }
     bool writeFile(const std::string& path, std::string_view contents) override {
         fileContents[path] = contents;
         return true;
