@@ -8,8 +8,8 @@
 #include <optional>
 #include <vector>
 
-#include "bench/Allocations.h"
 #include "overlay/FinderOverlayCoordinator.h"
+#include "tests/kit/Allocations.h"
 #include "tests/kit/Desk.h"
 #include "tracking/FinderObserver.h"
 
@@ -164,12 +164,12 @@ void LiveGeometryUpdate(benchmark::State& state) {
         state.SkipWithError("the drag wasn't followed");
 
     double x = press.x + 2;
-    const std::int64_t before = bench::allocationsMade;
+    const std::int64_t before = kit::allocationsMade;
     for (auto _ : state) {
         x = x < 600 ? x + 1 : x - 400;
         events.give(platform::NSEventType::leftMouseDragged, {x, press.y});
     }
-    state.counters["allocations"] = static_cast<double>(bench::allocationsMade - before);
+    state.counters["allocations"] = static_cast<double>(kit::allocationsMade - before);
 }
 BENCHMARK(LiveGeometryUpdate);
 

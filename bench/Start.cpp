@@ -1,9 +1,9 @@
 // From nothing to the first bar, and what one bar takes of memory.
 #include <benchmark/benchmark.h>
 
-#include "bench/Allocations.h"
 #include "desk/display/GuiApplication.h"
 #include "play/Session.h"
+#include "tests/kit/Allocations.h"
 
 namespace {
 
@@ -27,10 +27,10 @@ std::int64_t bytesOfWindows(bool isLaunched, int windows) {
     if (isLaunched) session.launch(play::installedCopy);
     session.machine.finder.open("/Users/ana/Documents");
     session.machine.settle();
-    const std::int64_t before = bench::bytesAlive;
+    const std::int64_t before = kit::bytesAlive;
     for (int index = 0; index < windows; ++index) session.machine.finder.open("/Users/ana/Documents");
     session.machine.advance(platform::seconds(5));
-    return bench::bytesAlive - before;
+    return kit::bytesAlive - before;
 }
 
 void Bar_Memory(benchmark::State& state) {

@@ -83,7 +83,8 @@ public:
     virtual AXError AXUIElementPerformAction(const AXUIElement& element, std::string_view action) = 0;
 
     // Null on an error, such as a process that isn't there.
-    virtual std::unique_ptr<AXObserver> AXObserverCreate(std::int32_t processIdentifier, AXObserverCallback callback) = 0;
+    virtual std::unique_ptr<AXObserver> AXObserverCreate(std::int32_t processIdentifier,
+                                                         AXObserverCallback callback) = 0;
 };
 
 }  // namespace platform

@@ -23,14 +23,14 @@ public:
     using Storage = std::variant<std::monostate, bool, std::int64_t, double, std::string, Array, Dictionary>;
 
     Value() = default;
-    Value(bool value) : storage(value) {}                       // NOLINT(google-explicit-constructor)
-    Value(int value) : storage(std::int64_t{value}) {}          // NOLINT(google-explicit-constructor)
-    Value(std::int64_t value) : storage(value) {}               // NOLINT(google-explicit-constructor)
-    Value(double value) : storage(value) {}                     // NOLINT(google-explicit-constructor)
-    Value(const char* value) : storage(std::string(value)) {}   // NOLINT(google-explicit-constructor)
-    Value(std::string value) : storage(std::move(value)) {}     // NOLINT(google-explicit-constructor)
-    Value(Array value) : storage(std::move(value)) {}           // NOLINT(google-explicit-constructor)
-    Value(Dictionary value) : storage(std::move(value)) {}      // NOLINT(google-explicit-constructor)
+    Value(bool value) : storage(value) {}                      // NOLINT(google-explicit-constructor)
+    Value(int value) : storage(std::int64_t{value}) {}         // NOLINT(google-explicit-constructor)
+    Value(std::int64_t value) : storage(value) {}              // NOLINT(google-explicit-constructor)
+    Value(double value) : storage(value) {}                    // NOLINT(google-explicit-constructor)
+    Value(const char* value) : storage(std::string(value)) {}  // NOLINT(google-explicit-constructor)
+    Value(std::string value) : storage(std::move(value)) {}    // NOLINT(google-explicit-constructor)
+    Value(Array value) : storage(std::move(value)) {}          // NOLINT(google-explicit-constructor)
+    Value(Dictionary value) : storage(std::move(value)) {}     // NOLINT(google-explicit-constructor)
 
     template <typename T>
     const T* as() const {

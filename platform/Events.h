@@ -46,7 +46,7 @@ struct NSEvent {
     NSEventType type = NSEventType::mouseMoved;
     std::uint64_t modifierFlags = 0;
     Date timestamp;
-    CGPoint locationInWindow;  // without a window: the position on the screen
+    CGPoint locationInWindow;    // without a window: the position on the screen
     NSWindow* window = nullptr;  // valid while the event is handled; none for events aimed at other processes
     int clickCount = 0;
     double scrollingDeltaY = 0;
@@ -61,10 +61,11 @@ public:
     virtual ~Events() = default;
 
     // Events aimed at other processes, after their target has handled them. The token is empty when the platform refuses.
-    virtual Token addGlobalMonitorForEventsMatchingMask(NSEventMask mask, std::function<void(const NSEvent&)> handler) = 0;
+    virtual Token addGlobalMonitorForEventsMatchingMask(NSEventMask mask,
+                                                        std::function<void(const NSEvent&)> handler) = 0;
     // Events aimed at this process, before they are handled; an empty answer swallows the event. Events that a tracking loop dequeues don't pass here.
-    virtual Token addLocalMonitorForEventsMatchingMask(NSEventMask mask,
-                                                       std::function<std::optional<NSEvent>(const NSEvent&)> handler) = 0;
+    virtual Token addLocalMonitorForEventsMatchingMask(
+        NSEventMask mask, std::function<std::optional<NSEvent>(const NSEvent&)> handler) = 0;
     // Screen position now, which can be later than the event at hand.
     virtual CGPoint mouseLocation() = 0;
 };

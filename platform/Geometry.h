@@ -41,8 +41,8 @@ constexpr CGRect CGRectMake(double x, double y, double width, double height) {
 }
 
 // The answer of an intersection that doesn't exist. It isn't the same as an empty rectangle, which has a place.
-inline constexpr CGRect CGRectNull{
-    {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()}, {0, 0}};
+inline constexpr CGRect CGRectNull{{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()},
+                                   {0, 0}};
 
 inline bool CGRectIsNull(const CGRect& rect) {
     return std::isinf(rect.origin.x) || std::isinf(rect.origin.y);

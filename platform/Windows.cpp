@@ -23,7 +23,9 @@ NSWindow::NSWindow(Platform& thePlatform, const CGRect& contentRect, unsigned st
     : NSWindow(thePlatform, contentRect, settingsWith(styleMask, backing, false)) {}
 
 NSWindow::NSWindow(Platform& thePlatform, const CGRect& contentRect, WindowSettings settings)
-    : platform(thePlatform), attributes(std::move(settings)), handle(thePlatform.windows.makeWindow(*this, contentRect)) {}
+    : platform(thePlatform),
+      attributes(std::move(settings)),
+      handle(thePlatform.windows.makeWindow(*this, contentRect)) {}
 
 NSWindow::~NSWindow() {
     if (content) content->didMoveToWindow(nullptr);

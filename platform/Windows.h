@@ -11,48 +11,11 @@
 #include "platform/Events.h"
 #include "platform/Geometry.h"
 #include "platform/Responder.h"
+#include "platform/WindowSettings.h"
 
 namespace platform {
 
 struct Platform;
-
-inline constexpr int NSNormalWindowLevel = 0;
-inline constexpr int NSFloatingWindowLevel = 3;
-
-namespace NSWindowStyleMask {
-inline constexpr unsigned borderless = 0;
-inline constexpr unsigned titled = 1;
-inline constexpr unsigned closable = 2;
-inline constexpr unsigned miniaturizable = 4;
-inline constexpr unsigned resizable = 8;
-inline constexpr unsigned nonactivatingPanel = 128;
-}  // namespace NSWindowStyleMask
-
-enum class NSBackingStoreType { buffered = 2 };
-enum class NSWindowOrderingMode { above = 1, below = -1, out = 0 };
-enum class NSWindowAnimationBehavior { standard = 0, none = 2, documentWindow = 3 };
-
-namespace NSWindowCollectionBehavior {
-inline constexpr unsigned ignoresCycle = 64;
-inline constexpr unsigned fullScreenAuxiliary = 256;
-}  // namespace NSWindowCollectionBehavior
-
-// The settings of a window as last set; the backend reads them when it orders, paints and routes input.
-struct WindowSettings {
-    unsigned styleMask = NSWindowStyleMask::borderless;
-    NSBackingStoreType backing = NSBackingStoreType::buffered;
-    bool isPanel = false;
-    bool isReleasedWhenClosed = true;
-    bool hasShadow = true;
-    bool isOpaque = true;
-    bool hidesOnDeactivate = false;
-    bool ignoresMouseEvents = false;
-    bool acceptsMouseMovedEvents = false;
-    NSWindowAnimationBehavior animationBehavior = NSWindowAnimationBehavior::standard;
-    unsigned collectionBehavior = 0;
-    Color backgroundColor = Color::of(ColorRole::windowBackground);
-    std::string title;
-};
 
 // What fills a window. The window owns it.
 class ContentView {
@@ -102,7 +65,8 @@ public:
 class NSWindow : public std::enable_shared_from_this<NSWindow> {
 public:
     // A deferred window gets its backing when it is first ordered in; that makes no difference to its user.
-    NSWindow(Platform& thePlatform, const CGRect& contentRect, unsigned styleMask, NSBackingStoreType backing, bool defer);
+    NSWindow(Platform& thePlatform, const CGRect& contentRect, unsigned styleMask, NSBackingStoreType backing,
+             bool defer);
     NSWindow(const NSWindow&) = delete;
     NSWindow& operator=(const NSWindow&) = delete;
     virtual ~NSWindow();
@@ -173,7 +137,8 @@ private:
 
 class NSPanel : public NSWindow {
 public:
-    NSPanel(Platform& thePlatform, const CGRect& contentRect, unsigned styleMask, NSBackingStoreType backing, bool defer);
+    NSPanel(Platform& thePlatform, const CGRect& contentRect, unsigned styleMask, NSBackingStoreType backing,
+            bool defer);
 };
 
 }  // namespace platform

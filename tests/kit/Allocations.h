@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <new>
 
-namespace bench {
+namespace kit {
 
 inline std::int64_t allocationsMade = 0;
 inline std::int64_t bytesAlive = 0;
@@ -25,14 +25,14 @@ inline void release(void* memory) noexcept {
     std::free(memory);
 }
 
-}  // namespace bench
+}  // namespace kit
 
 void* operator new(std::size_t size) {
-    return bench::allocate(size);
+    return kit::allocate(size);
 }
 void operator delete(void* memory) noexcept {
-    bench::release(memory);
+    kit::release(memory);
 }
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
-    bench::release(memory);
+    kit::release(memory);
 }
