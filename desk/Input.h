@@ -43,8 +43,8 @@ public:
     void mouseMoved(const platform::CGPoint& point);
     // Positive: towards the beginning of what is scrolled.
     void scrollWheel(const platform::CGPoint& point, double deltaY);
-    void keyDown(const KeyStroke& key);
-    void keyUp(const KeyStroke& key);
+    void keyDown(const KeyStroke& stroke);
+    void keyUp(const KeyStroke& stroke);
 
     // The window that has the keyboard, of a launched application; 0 when keys go to the frontmost application. A panel that has become key keeps the keyboard until a mouse down in
     // another process's window, another key window of its own process, a change of the frontmost application, or being ordered out.

@@ -46,7 +46,7 @@ void open(ScriptPlayer& player, const Arguments& arguments) {
 }
 
 void openVirtual(ScriptPlayer& player, const Arguments& arguments) {
-    const std::string name = arguments.text(0);
+    const std::string& name = arguments.text(0);
     tellNumber(player, runningFinder(player).openVirtual(name, optionalFrame(arguments, 1)));
 }
 

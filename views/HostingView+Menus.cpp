@@ -112,6 +112,7 @@ void HostingView::refresh(PresentedPopover& popover, const CGRect& anchor, const
 }
 
 // By value: the callback that holds the place may go with the handle.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void HostingView::dismissed(std::string place) {
     const auto known = popovers.find(place);
     if (known == popovers.end()) return;

@@ -77,6 +77,8 @@ void LayoutPass::appendChain(View& view, Siblings& siblings, Pending& pending, S
     appendCore(view, isNested ? inner : siblings, pending, around);
 }
 
+// One case for each kind of view, and nothing else.
+// NOLINTNEXTLINE(readability-function-size)
 void LayoutPass::appendCore(View& view, Siblings& siblings, Pending& pending, const Surroundings& around) {
     switch (view.kind) {
     case ViewKind::empty:

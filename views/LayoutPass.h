@@ -74,7 +74,7 @@ private:
     std::int32_t contentOf(const LayoutItem& item) const;
 
     // Offers every child of the stack its share; what they took is then their answer to `offered`.
-    void distribute(std::int32_t stack, const ProposedSize& proposal);
+    void distribute(std::int32_t index, const ProposedSize& proposal);
     bool offerAmpleRoom(const LayoutItem& stack, const Axis& axis, double available);
     void offerByPriority(const LayoutItem& stack, const Axis& axis, double available);
     double offer(std::int32_t child, const Axis& axis, double length);

@@ -41,7 +41,7 @@ private:
     Flow execute(const ReturnStatement& statement);
     Flow execute(const ConsideringBlock& statement);
     void assign(const Expression& target, const Value& value);
-    void assignEach(const ListLiteral& targets, const Value& value);
+    void assignEach(const ListLiteral& targetList, const Value& value);
     void assignProperty(const PropertyAccess& target, const Value& value);
     void assignElement(const ElementAccess& target, const Value& value);
     // Replaces the value of a variable that is changed in part.

@@ -22,6 +22,8 @@ constexpr int powerLevel = 10;
 
 }  // namespace
 
+// Most of it is the table.
+// NOLINTNEXTLINE(readability-function-size)
 const Parser::OperatorWords* Parser::operatorAhead() const {
     static constexpr auto operators = std::to_array<OperatorWords>({
         {"or", Operator::logicalOr, 1},

@@ -110,7 +110,7 @@ void Parser::resolveGlobals() {
             const std::string& name = each.names[slot];
             const bool isParameter =
                 std::find(each.parameters.begin(), each.parameters.end(), slot) != each.parameters.end();
-            if (!isParameter && (each.declaredGlobal.count(name) > 0 || program.main.declaredGlobal.count(name) > 0)) {
+            if (!isParameter && (each.declaredGlobal.contains(name) || program.main.declaredGlobal.contains(name))) {
                 each.globals[slot] = program.main.slot(name, each.writtenNames[slot]);
             }
         }

@@ -37,7 +37,7 @@ public:
     // To the next entry that can be chosen in that direction (1 or -1), around the ends; from nowhere, to the first or last one. It is scrolled into view.
     bool walk(int direction);
     // To the first entry that can be chosen from this row on, in that direction.
-    bool walkFrom(std::size_t row, int direction);
+    bool walkFrom(std::size_t start, int direction);
 
     // Whether there is more to see beyond that end (-1 the top, 1 the bottom).
     bool canScroll(int direction) const { return direction < 0 ? offset > 0 : offset < furthest(); }

@@ -25,7 +25,7 @@ struct PopoverPlace {
 };
 
 // Centred on the anchor's edge, or on the opposite one where only that leaves room, and moved along it as the room asks.
-PopoverPlace placePopover(const platform::CGRect& anchor, platform::RectEdge edge, platform::CGSize size,
-                          const platform::CGRect& room);
+PopoverPlace placePopover(const platform::CGRect& anchor, platform::RectEdge wanted, platform::CGSize size,
+                          const platform::CGRect& screen);
 
 }  // namespace desk
