@@ -1,7 +1,10 @@
-// A bar taking another path, and a bar being made: evaluation, crumbs, fitting and layout, without painting.
+// A bar taking another path, without painting and painted at 2x, and a bar being made: evaluation, crumbs, fitting and layout.
+#include <QImage>
+#include <QPainter>
 #include <benchmark/benchmark.h>
 
 #include "desk/display/GuiApplication.h"
+#include "desk/display/Painter.h"
 #include "desk/display/QtTextSystem.h"
 #include "pathbar/BreadcrumbModel.h"
 #include "pathbar/PathBarView.h"
@@ -54,7 +57,8 @@ FinderWindowState window(std::string path) {
 const char* const paths[] = {"/Users/ana/Documents/Projects/Brindle/Reports/",
                              "/Users/ana/Pictures/Holidays/Summer/Originals/"};
 
-void Bar_Navigate(benchmark::State& state) {
+template <typename AfterEach>
+void navigate(benchmark::State& state, AfterEach afterEach) {
     kit::ViewPlatform machine(realText());
     Model model;
     model.windowState.set(window(paths[0]));
@@ -68,10 +72,31 @@ void Bar_Navigate(benchmark::State& state) {
         next = 1 - next;
         model.windowState.set(states[next]);
         machine.endTurn();
+        afterEach(host);
     }
     state.counters["items"] = static_cast<double>(host.layout().items.size());
 }
+
+void Bar_Navigate(benchmark::State& state) {
+    navigate(state, [](views::HostingView&) {});
+}
 BENCHMARK(Bar_Navigate)->Arg(400)->Arg(1200)->Arg(2400);
+
+void Bar_NavigateRender(benchmark::State& state) {
+    realText();
+    constexpr double scale = 2;
+    desk::Painter painter;
+    QImage image(static_cast<int>(static_cast<double>(state.range(0)) * scale), static_cast<int>(44 * scale),
+                 QImage::Format_ARGB32_Premultiplied);
+    navigate(state, [&](views::HostingView& host) {
+        image.fill(Qt::transparent);
+        QPainter target(&image);
+        painter.paint(target, host.drawing(), {}, scale);
+        target.end();
+        benchmark::DoNotOptimize(image.constBits());
+    });
+}
+BENCHMARK(Bar_NavigateRender)->Arg(400)->Arg(1200)->Arg(2400);
 
 void Bar_Construct(benchmark::State& state) {
     kit::ViewPlatform machine(realText());
