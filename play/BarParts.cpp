@@ -79,12 +79,14 @@ std::string_view keyOfCrumb(const std::vector<AccessibilityElement>& elements, s
     return {};
 }
 
-// On the row's empty space, which begins behind the last crumb.
+// On the row's empty space: behind the last crumb, or on a full row before the first.
 platform::CGPoint emptyPoint(const std::vector<AccessibilityElement>& elements, const platform::CGRect& row) {
+    constexpr double inset = 5;
     double end = row.minX();
     for (const auto& element : elements)
         if (element.identifier == "crumb") end = std::max(end, element.frame.maxX());
-    return {std::min((end + row.maxX()) / 2, row.maxX() - 1), row.midY()};
+    const bool isFull = end + inset > row.maxX();
+    return {isFull ? row.minX() + inset : (end + row.maxX()) / 2, row.midY()};
 }
 
 // A point of the plate that none of its parts covers.
