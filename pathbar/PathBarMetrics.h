@@ -1,12 +1,11 @@
 // The numbers of the bar that several files share: its look here, and the overlay's panel, whose drag zone lies over
-// the brand label. Lengths are in points.
+// the brand label. Lengths are in points; the height of the whole bar is in tracking/OverlayMetrics.h.
 #pragma once
 
 #include <algorithm>
 
 namespace brindle::PathBarMetrics {
 
-inline constexpr double barHeight = 44;
 inline constexpr double plateMargin = 6;
 inline constexpr double rowHeight = 32;
 

@@ -1,5 +1,5 @@
-// The measure that following windows and drawing bars have in common. The tracker keeps room of this height above the front window; the
-// bar's own metrics take it from here.
+// The measure that following windows and placing bars have in common: the tracker keeps room of this height above the front window, and the
+// overlay makes its panels that high.
 #pragma once
 
 namespace brindle::OverlayMetrics {
