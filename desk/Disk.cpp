@@ -173,14 +173,10 @@ std::optional<std::vector<DiskEntry>> Disk::list(const std::string& path) const 
     const auto place = walk(path, Last::followed, Missing::refused);
     if (!place || !place->isDirectory || unreadable.contains(place->path)) return std::nullopt;
     std::vector<DiskEntry> entries;
-    auto found = host::list(place->host);
-    if (!found && !isMountOrParentOfOne(place->path)) return std::nullopt;
-    if (found) {
-        entries.reserve(found->size());
-        for (host::Entry& entry : *found)
-            if (isUtf8(entry.name))
-                entries.push_back(entryNamed(std::move(entry.name), entry.kind == host::EntryKind::directory));
-    }
+    const bool isListed = host::list(place->host, [&](std::string_view name, host::EntryKind kind) {
+        if (isUtf8(name)) entries.push_back(entryNamed(std::string(name), kind == host::EntryKind::directory));
+    });
+    if (!isListed && !isMountOrParentOfOne(place->path)) return std::nullopt;
     addMountPoints(place->path, entries);
     return entries;
 }

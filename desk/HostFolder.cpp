@@ -78,15 +78,14 @@ std::optional<Status> statusOf(const std::string& path) {
     return Status{S_ISDIR(status.st_mode) ? 0 : static_cast<std::uint64_t>(status.st_size), platform::Date{modified}};
 }
 
-std::optional<std::vector<Entry>> list(const std::string& path) {
+bool list(const std::string& path, const std::function<void(std::string_view name, EntryKind kind)>& visit) {
     const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(path.c_str()), &::closedir);
-    if (!folder) return std::nullopt;
-    std::vector<Entry> entries;
+    if (!folder) return false;
     while (const dirent* entry = ::readdir(folder.get())) {
         if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0) continue;
-        entries.push_back({entry->d_name, kindOfEntry(folder.get(), *entry)});
+        visit(entry->d_name, kindOfEntry(folder.get(), *entry));
     }
-    return entries;
+    return true;
 }
 
 std::optional<std::string> read(const std::string& path) {

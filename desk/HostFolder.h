@@ -2,10 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/Time.h"
 
@@ -22,12 +22,8 @@ struct Status {
 };
 std::optional<Status> statusOf(const std::string& path);
 
-struct Entry {
-    std::string name;
-    EntryKind kind;
-};
-// Without "." and "..", in the host's order; empty when it can't be listed.
-std::optional<std::vector<Entry>> list(const std::string& path);
+// Visits each entry but "." and "..", in the host's order; false when the folder can't be listed.
+bool list(const std::string& path, const std::function<void(std::string_view name, EntryKind kind)>& visit);
 
 // Of a regular file only, so that no pipe or device is waited for.
 std::optional<std::string> read(const std::string& path);

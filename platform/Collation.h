@@ -11,8 +11,8 @@ public:
     virtual ~Collation() = default;
     // localizedStandardCompare: below 0, 0 or above 0 as the first name goes before, with or after the second.
     virtual int localizedStandardCompare(std::string_view a, std::string_view b) = 0;
-    // A key whose bytes compare as the names do; worth making when many names are sorted.
-    virtual std::string localizedStandardKey(std::string_view name) = 0;
+    // Appends a key whose bytes compare as the names do; worth making when many names are sorted.
+    virtual void appendLocalizedStandardKey(std::string_view name, std::string& keys) = 0;
 };
 
 }  // namespace platform

@@ -29,22 +29,23 @@ int CollationPort::localizedStandardCompare(std::string_view a, std::string_view
     return a.compare(b);
 }
 
-std::string CollationPort::localizedStandardKey(std::string_view name) {
-    if (!collator) return std::string(name);
-    const icu::UnicodeString text = icu::UnicodeString::fromUTF8(piece(name));
-    std::string key(name.size() * 2 + 16, '\0');
-    const auto fill = [&] {
-        return collator->getSortKey(text, reinterpret_cast<std::uint8_t*>(key.data()),
-                                    static_cast<std::int32_t>(key.size()));
-    };
-    std::int32_t length = fill();
-    if (static_cast<std::size_t>(length) > key.size()) {
-        key.resize(static_cast<std::size_t>(length));
-        length = fill();
+void CollationPort::appendLocalizedStandardKey(std::string_view name, std::string& keys) {
+    if (!collator) {
+        keys += name;
+        return;
     }
+    const icu::UnicodeString text = icu::UnicodeString::fromUTF8(piece(name));
+    const std::size_t begin = keys.size();
+    const auto fill = [&](std::size_t room) {
+        keys.resize(begin + room);
+        return static_cast<std::size_t>(collator->getSortKey(text, reinterpret_cast<std::uint8_t*>(keys.data() + begin),
+                                                             static_cast<std::int32_t>(room)));
+    };
+    const std::size_t guessed = name.size() * 2 + 16;
+    std::size_t length = fill(guessed);
+    if (length > guessed) length = fill(length);
     // The last byte is the key's terminating zero.
-    key.resize(length > 0 ? static_cast<std::size_t>(length) - 1 : 0);
-    return key;
+    keys.resize(begin + (length > 0 ? length - 1 : 0));
 }
 
 }  // namespace desk

@@ -14,7 +14,7 @@ public:
     CollationPort();
 
     int localizedStandardCompare(std::string_view a, std::string_view b) override;
-    std::string localizedStandardKey(std::string_view name) override;
+    void appendLocalizedStandardKey(std::string_view name, std::string& keys) override;
 
 private:
     // Null when the library's data is missing; names are then ordered by their bytes.

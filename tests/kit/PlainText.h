@@ -52,7 +52,7 @@ private:
 class PlainCollation final : public platform::Collation {
 public:
     int localizedStandardCompare(std::string_view a, std::string_view b) override { return a.compare(b); }
-    std::string localizedStandardKey(std::string_view name) override { return std::string(name); }
+    void appendLocalizedStandardKey(std::string_view name, std::string& keys) override { keys += name; }
 };
 
 }  // namespace kit
