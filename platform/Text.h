@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Drawing.h"
 #include "platform/Geometry.h"
@@ -19,6 +20,13 @@ struct FontMetrics {
     double lineHeight() const { return ascent + descent; }
 };
 
+// A part of a line, in points from its left end.
+struct LineStretch {
+    double begin = 0;
+    double end = 0;
+    friend bool operator==(const LineStretch&, const LineStretch&) = default;
+};
+
 class TextSystem {
 public:
     virtual ~TextSystem() = default;
@@ -26,6 +34,12 @@ public:
     // The advance width of the whole text on one line. Line feeds and other control characters take the room of what is drawn for them.
     virtual double width(std::string_view text, Font font) = 0;
     virtual FontMetrics metrics(Font font) = 0;
+
+    // Where a caret in front of the byte at that offset stands, in points from the line's left end. In text that runs both ways this isn't the width of what goes before.
+    virtual double caretPosition(std::string_view text, Font font, std::size_t offset) = 0;
+    // What the bytes from `begin` to `end` cover, from left to right, apart from each other: one stretch unless the text runs both ways.
+    virtual std::vector<LineStretch> stretches(std::string_view text, Font font, std::size_t begin,
+                                               std::size_t end) = 0;
 
     // The text with its middle replaced by "…" so that it fits the width; the text itself when it fits already, "…" when nothing else does.
     // Cuts between grapheme clusters.

@@ -30,7 +30,7 @@ platform::CGRect NSTextField::textArea() const {
 }
 
 double NSTextField::positionOf(std::size_t offset) const {
-    return platform.text.width(std::string_view(stringValue()).substr(0, offset), font);
+    return platform.text.caretPosition(stringValue(), font, offset);
 }
 
 void NSTextField::setFrame(const platform::CGRect& frame) {
@@ -44,7 +44,7 @@ void NSTextField::scrollToCaret() {
     const double room = textArea().width() - caretWidth;
     const double caret = positionOf(editor->state().caret());
     scrolled = std::min(std::max(scrolled, caret - room), caret);
-    scrolled = std::max(0.0, std::min(scrolled, positionOf(stringValue().size()) - room));
+    scrolled = std::max(0.0, std::min(scrolled, platform.text.width(stringValue(), font) - room));
 }
 
 void NSTextField::drawShapes(platform::Drawing& into) const {
@@ -59,21 +59,24 @@ void NSTextField::drawShapes(platform::Drawing& into) const {
         into.operations.emplace_back(
             platform::StrokeShape{boxed(frame()), platform::Color::of(platform::ColorRole::accent, 0.5), 3});
     const platform::CGRect area = textArea();
-    const auto onScreen = [&](std::size_t offset) { return toHalfPoint(area.minX() - scrolled + positionOf(offset)); };
+    const double left = area.minX() - scrolled;
     const TextFieldEngine& state = editor->state();
     if (state.selectionBegin() == state.selectionEnd()) {
-        const double x = onScreen(state.caret());
+        const double x = toHalfPoint(left + positionOf(state.caret()));
         into.operations.emplace_back(
             platform::FillShape{boxed(platform::CGRectMake(x, area.minY(), caretWidth, area.height())),
                                 platform::Color::of(platform::ColorRole::primary)});
         return;
     }
-    const double begin = std::max(frame().minX(), onScreen(state.selectionBegin()));
-    const double end = std::min(frame().maxX(), onScreen(state.selectionEnd()));
-    if (end > begin)
-        into.operations.emplace_back(
-            platform::FillShape{boxed(platform::CGRectMake(begin, area.minY(), end - begin, area.height())),
-                                platform::Color::of(platform::ColorRole::selectedText)});
+    for (const platform::LineStretch& selected :
+         platform.text.stretches(stringValue(), font, state.selectionBegin(), state.selectionEnd())) {
+        const double begin = std::max(frame().minX(), toHalfPoint(left + selected.begin));
+        const double end = std::min(frame().maxX(), toHalfPoint(left + selected.end));
+        if (end > begin)
+            into.operations.emplace_back(
+                platform::FillShape{boxed(platform::CGRectMake(begin, area.minY(), end - begin, area.height())),
+                                    platform::Color::of(platform::ColorRole::selectedText)});
+    }
 }
 
 void NSTextField::drawText(platform::Drawing& into) const {
@@ -88,7 +91,7 @@ void NSTextField::drawText(platform::Drawing& into) const {
     }
     into.operations.emplace_back(platform::BeginClip{frame()});
     line.origin.x -= scrolled;
-    line.size.width = std::max(line.width(), positionOf(text.size()));
+    line.size.width = std::max(line.width(), platform.text.width(text, font));
     into.operations.emplace_back(platform::DrawText{text, font, color, line});
     into.operations.emplace_back(platform::EndClip{});
 }

@@ -43,12 +43,23 @@ private:
     void paint(const platform::DrawText& text) {
         const QColor color = palette.resolve(text.color);
         if (text.text.empty() || color.alpha() == 0) return;
+        if (const ShapedText* line = owner.texts.longLine(text.text, text.font, scale)) {
+            target.save();
+            target.setPen(color);
+            target.translate(start(text, line->metrics()));
+            target.scale(scale, scale);
+            line->paint(target);
+            target.restore();
+            return;
+        }
         const TextPicture picture = owner.texts.text(text.text, text.font, color, scale);
-        const platform::FontMetrics& line = picture.metrics;
+        target.drawImage(start(text, picture.metrics) + picture.offset, picture.image);
+    }
+
+    QPoint start(const platform::DrawText& text, const platform::FontMetrics& line) const {
         const double top = text.rect.minY() + (text.rect.height() - line.lineHeight()) / 2;
-        const QPoint start(static_cast<int>(std::lround(origin.x() + text.rect.minX() * scale)),
-                           static_cast<int>(std::lround(origin.y() + (top + line.ascent) * scale)));
-        target.drawImage(start + picture.offset, picture.image);
+        return {static_cast<int>(std::lround(origin.x() + text.rect.minX() * scale)),
+                static_cast<int>(std::lround(origin.y() + (top + line.ascent) * scale))};
     }
 
     void paint(const platform::DrawSymbol& symbol) {

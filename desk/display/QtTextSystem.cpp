@@ -14,6 +14,8 @@ namespace desk {
 namespace {
 
 constexpr std::string_view ellipsis = "\u2026";
+// A text that is being typed is another one at each key; only titles come again.
+constexpr std::size_t longestRemembered = 1024;
 
 }  // namespace
 
@@ -51,12 +53,22 @@ QtTextSystem::QtTextSystem() : clusters(std::make_unique<Clusters>()), widths(40
 QtTextSystem::~QtTextSystem() = default;
 
 double QtTextSystem::width(std::string_view text, platform::Font font) {
+    if (text.size() > longestRemembered) return ShapedText::width(text, fonts.face(font));
     if (const double* known = widths.find(TextLookup{text, font})) return *known;
     return widths.insert({std::string(text), font}, ShapedText::width(text, fonts.face(font)));
 }
 
 platform::FontMetrics QtTextSystem::metrics(platform::Font font) {
     return fonts.face(font).line;
+}
+
+double QtTextSystem::caretPosition(std::string_view text, platform::Font font, std::size_t offset) {
+    return ShapedText::caretPosition(text, fonts.face(font), offset);
+}
+
+std::vector<platform::LineStretch> QtTextSystem::stretches(std::string_view text, platform::Font font,
+                                                           std::size_t begin, std::size_t end) {
+    return ShapedText::stretches(text, fonts.face(font), begin, end);
 }
 
 std::string QtTextSystem::truncatedInMiddle(std::string_view text, platform::Font font, double width) {

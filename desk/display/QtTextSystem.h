@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "desk/display/BoundedCache.h"
 #include "desk/display/SystemFonts.h"
@@ -21,6 +22,9 @@ public:
 
     double width(std::string_view text, platform::Font font) override;
     platform::FontMetrics metrics(platform::Font font) override;
+    double caretPosition(std::string_view text, platform::Font font, std::size_t offset) override;
+    std::vector<platform::LineStretch> stretches(std::string_view text, platform::Font font, std::size_t begin,
+                                                 std::size_t end) override;
     std::string truncatedInMiddle(std::string_view text, platform::Font font, double width) override;
     std::optional<platform::CGSize> symbolSize(std::string_view name, platform::Font font) override;
 

@@ -14,14 +14,12 @@ namespace {
 
 // A long line's picture is worth more memory than its painting is time.
 constexpr qsizetype largestKeptPicture = 96 * 1024;
-// Beyond any screen; what a text is longer by is cut.
 constexpr double widestPicture = 16384;
 
 TextPicture draw(const ShapedText& line, const QColor& color, double scale) {
     const QRectF bounds = line.bounds();
     const QRectF scaled(bounds.topLeft() * scale, bounds.size() * scale);
     QRect pixels = scaled.toAlignedRect().adjusted(-1, -1, 1, 1);
-    pixels.setWidth(static_cast<int>(std::min<double>(pixels.width(), widestPicture)));
     TextPicture picture{QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied), pixels.topLeft(), line.metrics()};
     picture.image.fill(Qt::transparent);
     QPainter painter(&picture.image);
@@ -35,6 +33,13 @@ TextPicture draw(const ShapedText& line, const QColor& color, double scale) {
 }  // namespace
 
 TextPictures::TextPictures() : lines(512), texts(96), symbols(64) {}
+
+const ShapedText* TextPictures::longLine(std::string_view text, platform::Font font, double scale) {
+    // No letter is wider than four times its font's size.
+    if (static_cast<double>(text.size()) * 4 * font.size * scale <= widestPicture) return nullptr;
+    const ShapedText& line = shaped(text, font);
+    return line.bounds().width() * scale > widestPicture ? &line : nullptr;
+}
 
 TextPicture TextPictures::text(std::string_view text, platform::Font font, const QColor& color, double scale) {
     const TextLookup lookup{text, font};

@@ -28,6 +28,8 @@ class TextPictures {
 public:
     TextPictures();
 
+    // A line that is too long for a picture, most of which couldn't be seen anyway; null for any other.
+    const ShapedText* longLine(std::string_view text, platform::Font font, double scale);
     TextPicture text(std::string_view text, platform::Font font, const QColor& color, double scale);
     // A null image for an unknown name.
     QImage symbol(std::string_view name, platform::Font font, const QColor& color, double scale);

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "platform/Platform.h"
+#include "tests/kit/FixedText.h"
 #include "tests/kit/PlainText.h"
 
 namespace kit {
@@ -365,14 +366,6 @@ private:
             return nullptr;
         }
     };
-    struct NoText final : platform::TextSystem {
-        double width(std::string_view, platform::Font) override { return 0; }
-        platform::FontMetrics metrics(platform::Font) override { return {}; }
-        std::string truncatedInMiddle(std::string_view text, platform::Font, double) override {
-            return std::string(text);
-        }
-        std::optional<platform::CGSize> symbolSize(std::string_view, platform::Font) override { return std::nullopt; }
-    };
     struct NoMenus final : platform::Menus {
         std::unique_ptr<platform::MenuHandle> popUpBelow(const platform::CGRect&,
                                                          std::vector<platform::MenuItem>) override {
@@ -459,7 +452,7 @@ private:
     NoApplication noApplication;
     NoWindows noWindows;
     NoMenus noMenus;
-    NoText noText;
+    FixedText noText;
     PlainBoundaries boundaries;
     PlainCollation collation;
     NoDefaults noDefaults;

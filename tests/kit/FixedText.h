@@ -23,6 +23,14 @@ public:
         if (const auto given = widths.find(text); given != widths.end()) return given->second;
         return static_cast<double>(characters(text)) * widthOfCharacter * font.size;
     }
+    double caretPosition(std::string_view text, platform::Font font, std::size_t offset) override {
+        return width(text.substr(0, offset), font);
+    }
+    std::vector<platform::LineStretch> stretches(std::string_view text, platform::Font font, std::size_t begin,
+                                                 std::size_t end) override {
+        if (begin == end) return {};
+        return {{caretPosition(text, font, begin), caretPosition(text, font, end)}};
+    }
     platform::FontMetrics metrics(platform::Font font) override {
         return {font.size, 0.2 * font.size, 0.7 * font.size};
     }
