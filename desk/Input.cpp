@@ -33,8 +33,9 @@ bool isPassive(const platform::NSWindow& window) {
 
 void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) {
     location = point;
+    machine.toolTips.hide();
     press = Press{{}, button, clickCount};
-    if (menusTake(eventsOf(button).down, clickCount)) return;
+    if (!isOnAlert(point) && menusTake(eventsOf(button).down, clickCount)) return;
     const Target target = targetAt(point);
     pressAlertButton(point);
     if (target.owner != 0 && target.owner != ownerOf(key)) key = 0;
@@ -67,6 +68,7 @@ void Input::mouseUp(const CGPoint& point, MouseButton button) {
 
 void Input::mouseMoved(const CGPoint& point) {
     location = point;
+    machine.toolTips.mouseMoved();
     // Nobody's: only the copies are of interest.
     if (!menusTake(NSEventType::mouseMoved))
         offerToOthers(eventHere(NSEventType::mouseMoved, 0), targetAt(point).owner);
@@ -74,6 +76,7 @@ void Input::mouseMoved(const CGPoint& point) {
 
 void Input::scrollWheel(const CGPoint& point, double deltaY) {
     location = point;
+    machine.toolTips.hide();
     NSEvent event = eventHere(NSEventType::scrollWheel, 0);
     event.scrollingDeltaY = deltaY;
     if (!menusTake(event)) deliver(std::move(event), targetAt(point));
@@ -92,9 +95,13 @@ std::optional<AlertLayout> Input::alertLayout() const {
     return layoutOf(*alert, screens.front());
 }
 
-Input::Target Input::targetAt(const CGPoint& point) const {
+bool Input::isOnAlert(const CGPoint& point) const {
     const auto alert = alertLayout();
-    if (isMenuBarOrDock(point) || (alert && platform::CGRectContainsPoint(alert->frame, point))) return {};
+    return alert && platform::CGRectContainsPoint(alert->frame, point);
+}
+
+Input::Target Input::targetAt(const CGPoint& point) const {
+    if (isMenuBarOrDock(point) || isOnAlert(point)) return {};
     if (const ServerWindow* window = machine.windows.windowAt(point)) return {window->number, window->owner};
     return {0, machine.finder.isRunning() ? machine.finder.pid() : 0};
 }
@@ -159,6 +166,7 @@ bool Input::menusTake(const NSEvent& event) {
 }
 
 void Input::keyDown(const KeyStroke& stroke) {
+    machine.toolTips.hide();
     deliverKey(NSEventType::keyDown, stroke);
 }
 

@@ -63,6 +63,8 @@ private:
     Target targetAt(const platform::CGPoint& point) const;
     bool isMenuBarOrDock(const platform::CGPoint& point) const;
     std::optional<AlertLayout> alertLayout() const;
+    // A system alert stands above everything, an open menu included.
+    bool isOnAlert(const platform::CGPoint& point) const;
     void pressAlertButton(const platform::CGPoint& point);
     void bringForward(const Target& target);
     void deliverMouse(platform::NSEventType type, const Target& target, int clickCount);

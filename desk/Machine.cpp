@@ -35,6 +35,7 @@ Machine::Machine(platform::TextSystem& theText)
     : scheduler(startOfStories),
       input(*this),
       menus(*this),
+      toolTips(*this),
       finder(*this),
       scripting(*this),
       text(theText),

@@ -20,6 +20,7 @@
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderScripting.h"
 #include "desk/menus/MenuLayer.h"
+#include "desk/menus/ToolTips.h"
 #include "desk/time/Scheduler.h"
 #include "platform/Screens.h"
 #include "platform/Text.h"
@@ -49,6 +50,7 @@ public:
     Permissions permissions;
     Input input;
     MenuLayer menus;
+    ToolTips toolTips;
     Finder finder;
     FinderScripting scripting;
     platform::Appearance appearance;

@@ -1,4 +1,4 @@
-// Menus, popovers and tooltips: what a view asks the platform to put up beside its window. They stand above every window, keep to the screen, and don't hold up the
+// Menus and popovers: what a view asks the platform to put up beside its window. They stand above every window, keep to the screen, and don't hold up the
 // main thread: timers and everything else go on while one is open. Rectangles are AppKit screen points. Main thread only.
 #pragma once
 

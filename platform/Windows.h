@@ -29,6 +29,8 @@ public:
     virtual bool acceptsFirstMouse(const NSEvent& event) = 0;
     // Mouse and key events that the window hands on.
     virtual void handleEvent(const NSEvent& event) = 0;
+    // What the view under that point, in the window's AppKit coordinates, says about itself when the mouse rests on it; empty for nothing.
+    virtual std::string toolTipAt(CGPoint /*point*/) const { return {}; }
     // What is to be painted now, up to date as of the last end of turn; and a number that changes whenever that does.
     virtual const Drawing& drawing() = 0;
     virtual std::uint64_t drawingVersion() const = 0;

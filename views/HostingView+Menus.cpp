@@ -82,7 +82,8 @@ void HostingView::presentPopovers() {
         if (!isPresented) continue;
         const std::string place = frames.placeOf(static_cast<std::int32_t>(index));
         const auto known = before.find(place);
-        if (known == before.end())
+        // Dismissed, and presented again in the same turn.
+        if (known == before.end() || !known->second->handle)
             present(place, item, declared);
         else
             refresh(*popovers.emplace(place, std::move(known->second)).first->second, convertToScreen(item.frame),
@@ -104,7 +105,6 @@ void HostingView::present(const std::string& place, const LayoutItem& item, cons
 }
 
 void HostingView::refresh(PresentedPopover& popover, const CGRect& anchor, const Popover& declared) {
-    if (!popover.handle) return;
     popover.root->content = declared.content;
     popover.host->invalidate();
     popover.host->update();

@@ -150,6 +150,12 @@ void HostingView::handleEvent(const platform::NSEvent& event) {
         if (entry.type == event.type) (this->*entry.handler)(event);
 }
 
+std::string HostingView::toolTipAt(CGPoint point) const {
+    const auto item = frames.frontmost(convertFromWindow(point),
+                                       [](const LayoutItem& each) { return each.viewKind == ViewKind::help; });
+    return item ? frames[*item].view->as<TextContent>().text : std::string();
+}
+
 std::optional<std::int32_t> HostingView::reactingItem(CGPoint point) const {
     return frames.frontmost(point, reacts);
 }

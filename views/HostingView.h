@@ -37,6 +37,7 @@ public:
     void setOnScreen(bool onScreen) override;
     bool acceptsFirstMouse(const platform::NSEvent& /*event*/) override { return false; }
     void handleEvent(const platform::NSEvent& event) override;
+    std::string toolTipAt(CGPoint point) const override;
     const platform::Drawing& drawing() override;
     std::uint64_t drawingVersion() const override { return version; }
 

@@ -17,6 +17,7 @@ using platform::RectEdge;
 constexpr platform::Color lightPopover = platform::Color::hex(0xF5F4F5);
 constexpr platform::Color darkPopover = platform::Color::hex(0x323134);
 constexpr float edgeOpacity = 0.16F;
+constexpr double toolTipCornerRadius = 3;
 
 // The arrow as a triangle with its base in the body's edge; a little inside it, so that the two become one shape.
 QPainterPath arrowOf(const PopoverPlace& place, const Scene& scene) {
@@ -51,6 +52,7 @@ QPainterPath outlineOf(const PopoverPlace& place, const Scene& scene) {
 
 void Compositor::paintMenus(Machine& machine, Scene& scene) {
     for (const ShownPopover& shown : machine.menus.popovers()) paintPopover(scene, shown);
+    paintToolTip(machine, scene);
     const OpenMenu* menu = machine.menus.menu();
     if (menu == nullptr) return;
     DrawingBuilder builder(machine.text, scene.palette.scheme);
@@ -60,6 +62,18 @@ void Compositor::paintMenus(Machine& machine, Scene& scene) {
     const CornerRounder rounder(scene.image, pixels, menuCornerRadius * scene.scale);
     painter.paint(scene.painter, builder.drawing, scene.palette, scene.scale, pixels.topLeft());
     rounder.restore(scene.painter);
+}
+
+void Compositor::paintToolTip(Machine& machine, Scene& scene) {
+    const auto shown = machine.toolTips.shown();
+    if (!shown) return;
+    const platform::CGRect whole{{0, 0}, shown->frame.size};
+    DrawingBuilder builder(machine.text, scene.palette.scheme);
+    builder.fill(whole, builder.shade(0xF6F5F6, 0x3A393C), toolTipCornerRadius);
+    builder.border(whole, builder.shade(0x000000, 0xFFFFFF, 0.18), 0.5, toolTipCornerRadius);
+    builder.text(shown->text, toolTipFont, platform::Color::of(platform::ColorRole::primary),
+                 CGRectInset(whole, toolTipInset, 0));
+    painter.paint(scene.painter, builder.drawing, scene.palette, scene.scale, scene.pixels(shown->frame).topLeft());
 }
 
 void Compositor::paintPopover(Scene& scene, const ShownPopover& shown) {

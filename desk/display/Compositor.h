@@ -68,6 +68,7 @@ private:
     void paintScreenFurniture(Machine& machine, Scene& scene, std::size_t screen);
     void paintAlert(Machine& machine, Scene& scene);
     void paintMenus(Machine& machine, Scene& scene);
+    void paintToolTip(Machine& machine, Scene& scene);
     void paintPopover(Scene& scene, const ShownPopover& shown);
 
     const platform::Drawing& finderDrawing(Machine& machine, const FinderWindow& window, platform::CGSize size,

@@ -37,6 +37,13 @@ std::vector<ShownPopover> MenuLayer::popovers() const {
     return shown;
 }
 
+bool MenuLayer::covers(const CGPoint& point) const {
+    if (tracked) return true;
+    const std::vector<ShownPopover> shown = popovers();
+    return std::any_of(shown.begin(), shown.end(),
+                       [&](const ShownPopover& each) { return platform::CGRectContainsPoint(each.place.body, point); });
+}
+
 platform::CGSize MenuLayer::mostContent(const CGRect& anchor) const {
     const CGRect room = CGRectInset(roomAround({anchor.midX(), anchor.midY()}), contentMargin, contentMargin);
     return {std::max(0.0, room.width()), std::max(0.0, room.height())};

@@ -25,6 +25,7 @@ constexpr double mostScrollStep = 400;
 constexpr double scrollGrowth = 1.04;
 
 constexpr std::uint16_t escapeKey = 53;
+constexpr platform::Duration typingPause = std::chrono::seconds(1);  // after it a new word begins
 
 }  // namespace
 
@@ -195,7 +196,7 @@ MenuLayer::Taker MenuLayer::keyDown(const NSEvent& event) {
     Taker owner;
     if (tracked) {
         owner = tracked->owner;
-        menuKey(event.keyCode);
+        menuKey(event);
     } else if (event.keyCode == escapeKey && !hasKeyboardFocus()) {
         const std::vector<ShownPopover> shown = popovers();
         if (!shown.empty()) {
@@ -212,7 +213,7 @@ MenuLayer::Taker MenuLayer::keyUp(const NSEvent& event) {
     return tracked ? Taker(tracked->owner) : std::nullopt;
 }
 
-void MenuLayer::menuKey(std::uint16_t keyCode) {
+void MenuLayer::menuKey(const NSEvent& event) {
     struct Entry {
         std::uint16_t keyCode;
         void (*act)(MenuLayer&);
@@ -229,15 +230,29 @@ void MenuLayer::menuKey(std::uint16_t keyCode) {
         {126, [](MenuLayer& layer) { layer.tracked->menu.walk(-1); }},
         {115, [](MenuLayer& layer) { layer.tracked->menu.walkFrom(0, 1); }},
         {119, [](MenuLayer& layer) { layer.tracked->menu.walkFrom(layer.tracked->menu.items().size(), -1); }},
+        {116, [](MenuLayer& layer) { layer.tracked->menu.walkPage(-1); }},
+        {121, [](MenuLayer& layer) { layer.tracked->menu.walkPage(1); }},
         {36, chooseCurrent},  // Return, Enter, the space bar
         {76, chooseCurrent},
         {49, chooseCurrent}};
     for (const Entry& entry : entries) {
-        if (entry.keyCode != keyCode) continue;
+        if (entry.keyCode != event.keyCode) continue;
         entry.act(*this);
         machine.windows.changed();
         return;
     }
+    typeToSelect(event);
+}
+
+void MenuLayer::typeToSelect(const NSEvent& event) {
+    constexpr std::uint64_t shortcutKeys =
+        platform::NSEventModifierFlags::command | platform::NSEventModifierFlags::control;
+    if ((event.modifierFlags & shortcutKeys) != 0 || event.characters.empty()) return;
+    const platform::Date now = machine.scheduler.now();
+    if (now - tracked->lastTyped >= typingPause) tracked->typed.clear();
+    tracked->lastTyped = now;
+    tracked->typed += event.characters;
+    if (tracked->menu.highlightTitle(tracked->typed)) machine.windows.changed();
 }
 
 void MenuLayer::choose(std::size_t row) {

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -54,6 +55,11 @@ public:
     // What a popover's content can have at most there.
     platform::CGSize mostContent(const platform::CGRect& anchorOnScreen) const;
 
+    // An open menu, wherever it is, or a popover there stands between the mouse and the windows.
+    bool covers(const platform::CGPoint& point) const;
+    // The part of the screen that is nearest to the point which menus may cover.
+    platform::CGRect roomAround(const platform::CGPoint& point) const;
+
     // An event, its location on the screen, on its way to wherever it would go. The answer is the process whose menu or popover has taken it; empty when it goes on.
     std::optional<std::int32_t> take(const platform::NSEvent& event);
 
@@ -67,6 +73,8 @@ private:
         OpenMenu menu;
         platform::CGRect source;                     // a release here is the end of the click that opened the menu
         std::optional<platform::CGPoint> pressedAt;  // while that click lasts
+        std::string typed = {};                      // of an entry's title
+        platform::Date lastTyped = {};
     };
     struct HeldPress {
         std::int32_t owner;
@@ -77,7 +85,6 @@ private:
 
     std::uint64_t open(std::int32_t owner, std::vector<platform::MenuItem> items, MenuLayout layout,
                        const platform::CGRect& frame, const platform::CGRect& source);
-    platform::CGRect roomAround(const platform::CGPoint& point) const;
 
     Taker mouseDown(const platform::NSEvent& event);
     Taker mouseDragged(const platform::NSEvent& event);
@@ -87,7 +94,8 @@ private:
     Taker keyDown(const platform::NSEvent& event);
     Taker keyUp(const platform::NSEvent& event);
 
-    void menuKey(std::uint16_t keyCode);
+    void menuKey(const platform::NSEvent& event);
+    void typeToSelect(const platform::NSEvent& event);
     void choose(std::size_t row);
     void hover(const platform::CGPoint& point);
     void keepScrolling();

@@ -75,6 +75,31 @@ bool OpenMenu::walkFrom(std::size_t start, int direction) {
     return reveal(*row) || moved;
 }
 
+bool OpenMenu::walkPage(int direction) {
+    if (entries.empty()) return false;
+    const std::size_t from = current.value_or(direction > 0 ? 0 : entries.size() - 1);
+    const double distance = std::max(0.0, place.height() - 2 * menuScrollerHeight) * direction;
+    const double wanted = std::clamp(rows.top(from) + distance, menuPadding, rows.size().height - menuPadding - 1);
+    return walkFrom(rows.rowAt(wanted).value_or(from), direction);
+}
+
+bool OpenMenu::highlightTitle(std::string_view beginning) {
+    const auto begins = [&](const platform::MenuItem& entry) {
+        const auto lower = [](char character) {
+            return character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character;
+        };
+        return entry.title.size() >= beginning.size() &&
+               std::equal(beginning.begin(), beginning.end(), entry.title.begin(),
+                          [&](char a, char b) { return lower(a) == lower(b); });
+    };
+    for (std::size_t row = 0; row < entries.size(); ++row) {
+        if (!canChoose(row) || !begins(entries[row])) continue;
+        const bool moved = highlight(row);
+        return reveal(row) || moved;
+    }
+    return false;
+}
+
 int OpenMenu::scrollerAt(const CGPoint& point) const {
     if (!platform::CGRectContainsPoint(place, point)) return 0;
     if (canScroll(-1) && point.y >= place.maxY() - menuScrollerHeight) return -1;

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "desk/menus/MenuLayout.h"
@@ -38,6 +39,11 @@ public:
     bool walk(int direction);
     // To the first entry that can be chosen from this row on, in that direction.
     bool walkFrom(std::size_t start, int direction);
+
+    // As far as the menu is high.
+    bool walkPage(int direction);
+    // To the first entry whose title begins so, whatever the case of ASCII letters; stays where it is without one.
+    bool highlightTitle(std::string_view beginning);
 
     // Whether there is more to see beyond that end (-1 the top, 1 the bottom).
     bool canScroll(int direction) const { return direction < 0 ? offset > 0 : offset < furthest(); }

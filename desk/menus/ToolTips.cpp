@@ -1,0 +1,58 @@
+#include "desk/menus/ToolTips.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "desk/Machine.h"
+
+namespace desk {
+
+namespace {
+
+using platform::CGPoint;
+
+constexpr platform::Duration restingTime = std::chrono::seconds(1);
+constexpr double belowPointer = 20;
+
+}  // namespace
+
+void ToolTips::mouseMoved() {
+    if (told && told == subject()) return;
+    hide();
+    waiting = machine.scheduler.after(restingTime, [this] { show(); });
+}
+
+void ToolTips::hide() {
+    if (waiting) machine.scheduler.cancel(*std::exchange(waiting, std::nullopt));
+    if (std::exchange(told, std::nullopt)) machine.windows.changed();
+}
+
+void ToolTips::show() {
+    waiting.reset();
+    told = subject();
+    if (!told) return;
+    const platform::CGSize size{machine.text.width(told->text, toolTipFont) + 2 * toolTipInset,
+                                machine.text.metrics(toolTipFont).lineHeight() + toolTipInset};
+    const CGPoint mouse = machine.input.mouseLocation();
+    place = placeMenuAt({mouse.x, mouse.y - belowPointer}, size, machine.menus.roomAround(mouse));
+    machine.windows.changed();
+}
+
+std::optional<ToolTips::ShownToolTip> ToolTips::shown() const {
+    if (!told || told != subject()) return std::nullopt;
+    return ShownToolTip{told->text, place};
+}
+
+std::optional<ToolTips::Subject> ToolTips::subject() const {
+    const CGPoint mouse = machine.input.mouseLocation();
+    if (machine.menus.covers(mouse) || machine.input.isPressed()) return std::nullopt;
+    const ServerWindow* window = machine.windows.windowAt(mouse);
+    const platform::NSWindow* shownWindow = window == nullptr ? nullptr : window->window;
+    if (shownWindow == nullptr || shownWindow->contentView() == nullptr) return std::nullopt;
+    std::string text =
+        shownWindow->contentView()->toolTipAt({mouse.x - window->frame.minX(), mouse.y - window->frame.minY()});
+    if (text.empty()) return std::nullopt;
+    return Subject{window->number, std::move(text)};
+}
+
+}  // namespace desk

@@ -1,0 +1,51 @@
+// The small label that says what a control does once the mouse has rested on it for a second. It goes when the mouse leaves what it speaks of, at a press, a key or a turn of
+// the wheel, and when something comes to stand in between. The display reads what is shown from here.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/Drawing.h"
+#include "platform/Geometry.h"
+
+namespace desk {
+
+class Machine;
+
+inline constexpr platform::Font toolTipFont{11, platform::FontWeight::regular};
+inline constexpr double toolTipInset = 5;
+
+class ToolTips {
+public:
+    explicit ToolTips(Machine& theMachine) : machine(theMachine) {}
+    ToolTips(const ToolTips&) = delete;
+    ToolTips& operator=(const ToolTips&) = delete;
+
+    struct ShownToolTip {
+        std::string text;
+        platform::CGRect frame;  // AppKit screen points
+    };
+    std::optional<ShownToolTip> shown() const;
+
+    void mouseMoved();
+    void hide();
+
+private:
+    // What is under the mouse and has something to say.
+    struct Subject {
+        std::int64_t window = 0;
+        std::string text;
+        friend bool operator==(const Subject&, const Subject&) = default;
+    };
+
+    std::optional<Subject> subject() const;
+    void show();
+
+    Machine& machine;
+    std::optional<std::uint64_t> waiting;  // the machine's item that shows it
+    std::optional<Subject> told;
+    platform::CGRect place;
+};
+
+}  // namespace desk
