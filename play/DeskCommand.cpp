@@ -11,6 +11,7 @@
 #include <QtGlobal>
 
 #include "desk/display/GuiApplication.h"
+#include "play/ContactSheet.h"
 #include "play/ScriptPlayer.h"
 #include "play/Session.h"
 #include "play/Tour.h"
@@ -22,6 +23,7 @@ namespace {
 constexpr const char* usage = "desk                 play the tour: it says what it does and where its pictures lie\n"
                               "desk --tour [DIR]    the same, with the pictures in DIR\n"
                               "desk --script FILE   play a desk script; - reads it from standard input\n"
+                              "desk --contact-sheet FILE   draw every state of the bar on one page, a PNG\n"
                               "desk --help          this page\n";
 
 int complain(const std::string& message) {
@@ -51,6 +53,11 @@ int playTour(const std::vector<std::string>& values) {
     return runTour(values.empty() ? std::string() : values.front());
 }
 
+int playContactSheet(const std::vector<std::string>& values) {
+    if (values.size() != 1) return complain("--contact-sheet takes one file");
+    return drawContactSheet(values.front());
+}
+
 int showHelp(const std::vector<std::string>& /*values*/) {
     std::cout << usage;
     return 0;
@@ -60,7 +67,8 @@ struct Mode {
     std::string_view name;
     int (*run)(const std::vector<std::string>& values);
 };
-constexpr Mode modes[] = {{"--script", playScript}, {"--tour", playTour}, {"--help", showHelp}};
+constexpr Mode modes[] = {
+    {"--script", playScript}, {"--tour", playTour}, {"--contact-sheet", playContactSheet}, {"--help", showHelp}};
 
 // A toolkit without a session of a desktop warns of what it doesn't need here.
 void writeToolkitMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message) {

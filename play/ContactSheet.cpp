@@ -1,0 +1,134 @@
+#include "play/ContactSheet.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+#include <optional>
+#include <sstream>
+#include <vector>
+
+#include <QImage>
+#include <QPainter>
+#include <QString>
+
+#include "desk/display/SystemFonts.h"
+#include "play/BarParts.h"
+#include "play/ContactSheetStates.h"
+#include "play/ScriptPlayer.h"
+#include "play/Session.h"
+
+namespace play {
+
+namespace {
+
+using platform::CGRect;
+
+constexpr double scale = 2;
+// In points.
+constexpr double pageWidth = 2480;
+constexpr double margin = 20;
+constexpr double gap = 24;
+constexpr double captionHeight = 22;
+constexpr double around = 10;  // of the desk, on each side of what is shown
+
+CGRect unionOf(const CGRect& a, const CGRect& b) {
+    const double x = std::min(a.minX(), b.minX());
+    const double y = std::min(a.minY(), b.minY());
+    return platform::CGRectMake(x, y, std::max(a.maxX(), b.maxX()) - x, std::max(a.maxY(), b.maxY()) - y);
+}
+
+std::string scriptOf(const SheetState& state) {
+    std::ostringstream script;
+    script << "screen 0 0 2560 640\n"
+           << "folder /Users/ana/Documents/Projects/2024/Orvane/Designs/Bars\n"
+           << state.before;
+    const bool isFolder = state.target.front() == '/';
+    script << (isFolder ? "finder open \"" : "finder open-virtual \"") << state.target << "\" 60 60 " << state.width
+           << " 420\nlaunch\nwait 2\n"
+           << state.story;
+    return script.str();
+}
+
+// The bar, and whatever menu, popover or tooltip is up.
+CGRect shownArea(const Session& session) {
+    const desk::Machine& machine = session.machine;
+    const desk::ServerWindow* bar = machine.windows.find(panelNumber(session, 101));
+    CGRect area = bar == nullptr ? platform::CGRectMake(60, 60, 1, 1) : bar->frame;
+    if (const desk::OpenMenu* menu = machine.menus.menu()) area = unionOf(area, menu->frame());
+    for (const desk::ShownPopover& popover : machine.menus.popovers()) area = unionOf(area, popover.place.body);
+    if (const auto toolTip = machine.toolTips.shown()) area = unionOf(area, toolTip->frame);
+    return CGRectInset(area, -around, -around);
+}
+
+// Null, after a word about it, when the story fails.
+QImage pictureOf(const SheetState& state) {
+    Session session;
+    std::ostringstream output;
+    ScriptPlayer player(session, state.caption, scriptOf(state), output, std::cerr);
+    if (player.play() != 0) return {};
+    const CGRect area = shownArea(session);
+    const platform::CGRect screen = session.machine.displays.screens().front().frame;
+    const QRectF pixels(area.minX() * scale, (screen.maxY() - area.maxY()) * scale, area.width() * scale,
+                        area.height() * scale);
+    const QImage whole = session.compositor.compose(session.machine, scale);
+    return whole.copy(pixels.toRect().intersected(whole.rect()));
+}
+
+struct Placed {
+    const SheetState* state;
+    QImage picture;
+    QPointF at;  // of the caption, in points
+};
+
+// In rows from left to right; answers the height of the page.
+double placeInRows(std::vector<Placed>& all) {
+    double x = margin;
+    double y = margin;
+    double rowHeight = 0;
+    for (Placed& each : all) {
+        const double width = each.picture.width() / scale;
+        if (x > margin && x + width > pageWidth - margin) {
+            x = margin;
+            y += rowHeight + gap;
+            rowHeight = 0;
+        }
+        each.at = {x, y};
+        x += width + gap;
+        rowHeight = std::max(rowHeight, captionHeight + each.picture.height() / scale);
+    }
+    return y + rowHeight + margin;
+}
+
+QImage pageOf(std::vector<Placed> all) {
+    const double height = placeInRows(all);
+    QImage page(static_cast<int>(pageWidth * scale), static_cast<int>(std::ceil(height * scale)), QImage::Format_RGB32);
+    page.fill(QColor(0xEC, 0xEC, 0xEE));
+    QPainter painter(&page);
+    painter.scale(scale, scale);
+    desk::SystemFonts fonts;
+    painter.setFont(fonts.face({12, platform::FontWeight::medium}).toolkitFont);
+    painter.setPen(QColor(0x33, 0x33, 0x36));
+    for (const Placed& each : all) {
+        painter.drawText(QRectF(each.at.x(), each.at.y(), pageWidth, captionHeight), Qt::AlignLeft | Qt::AlignVCenter,
+                         QString::fromStdString(each.state->caption));
+        const QSizeF size(each.picture.width() / scale, each.picture.height() / scale);
+        painter.drawImage(QRectF(each.at + QPointF(0, captionHeight), size), each.picture);
+    }
+    return page;
+}
+
+}  // namespace
+
+int drawContactSheet(const std::string& file) {
+    std::vector<Placed> all;
+    for (const SheetState& state : sheetStates()) {
+        QImage picture = pictureOf(state);
+        if (picture.isNull()) return 1;
+        all.push_back({&state, std::move(picture), {}});
+    }
+    if (desk::savePng(pageOf(std::move(all)), file)) return 0;
+    std::cerr << "desk: the picture can't be written: " << file << '\n';
+    return 2;
+}
+
+}  // namespace play

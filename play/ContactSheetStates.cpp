@@ -1,0 +1,110 @@
+#include "play/ContactSheetStates.h"
+
+#include <vector>
+
+#include "pathbar/PathBarDesign.h"
+
+namespace play {
+
+namespace {
+
+const std::string deep = "/Users/ana/Documents/Projects/2024/Orvane/Designs/Bars";
+const std::string shallow = "/Users/ana/Documents";
+const std::string longName(96, 'm');
+const std::string mixedName = "Notes עברית 2024 العربية end";
+const std::string dark = "appearance dark\n";
+
+std::string folderNamed(const std::string& name) {
+    return "folder \"/Users/ana/" + name + "\"\n";
+}
+
+void addStyles(std::vector<SheetState>& states) {
+    for (const std::string scheme : {"light", "dark"})
+        for (const brindle::PathBarDesign design : brindle::allPathBarDesigns) {
+            const std::string name(brindle::rawValue(design));
+            states.push_back({name + ", " + scheme, 780, deep,
+                              "appearance " + scheme + "\nset-default pathBarDesign string " + name + "\n", ""});
+        }
+}
+
+void addWidths(std::vector<SheetState>& states) {
+    for (const int width : {200, 260, 320, 400, 600, 900, 1200, 1600, 2400})
+        states.push_back({std::to_string(width) + " points", width, deep, "", ""});
+}
+
+void addPlacesAndNames(std::vector<SheetState>& states) {
+    const std::vector<SheetState> more{
+        {"startup volume", 520, "/", "", ""},
+        {"virtual location", 520, "Recents", "", ""},
+        {"one selected file", 780, shallow, "file /Users/ana/Documents/notes.txt\n",
+         "finder select 101 /Users/ana/Documents/notes.txt\nwait 1\n"},
+        {"full screen", 780, deep, "", "finder full-screen 101 on\nwait 2\n"},
+        {"a name too long for the row", 520, "/Users/ana/" + longName, folderNamed(longName), ""},
+        {"both directions", 780, "/Users/ana/" + mixedName, folderNamed(mixedName), ""},
+        {"emoji, accents, a line feed", 780, "/Users/ana/👩‍👩‍👧 cafe\u0301\\nnew line",
+         folderNamed("👩‍👩‍👧 cafe\u0301\\nnew line"), ""},
+    };
+    states.insert(states.end(), more.begin(), more.end());
+}
+
+void addField(std::vector<SheetState>& states) {
+    const std::string open = "key cmd+l\nwait 0.5\n";
+    const std::string veryLong = "x/" + std::string(2000, 'w') + "/y";
+    const std::vector<SheetState> more{
+        {"field, everything selected", 780, deep, "", open},
+        {"field, everything selected, dark", 780, deep, dark, open},
+        {"field, caret", 780, shallow, "", open + "key end\n"},
+        {"field, a word selected", 780, shallow, "", open + "key end\nkey shift+alt+left\n"},
+        {"field, scrolled to the end of a long path", 520, deep, "", open + "key end\n"},
+        {"field, the end of 2000 letters", 780, shallow, "", open + "type " + veryLong + "\n"},
+        {"field, selected across both directions", 780, "/Users/ana/" + mixedName, folderNamed(mixedName),
+         open + "key end\nkey left\nkey left\nkey left\nkey left\nkey shift+alt+left\nkey shift+alt+left\n"},
+        {"field, nothing there", 780, shallow, "", open + "type /nowhere\nkey return\n"},
+        {"field, nothing there, dark", 780, shallow, dark, open + "type /nowhere\nkey return\n"},
+    };
+    states.insert(states.end(), more.begin(), more.end());
+}
+
+void addMenus(std::vector<SheetState>& states) {
+    std::string many;
+    for (int number = 1; number <= 60; ++number)
+        many += "folder \"/Users/ana/Many/Folder " + std::to_string(number) + "\"\n";
+    const std::string select = "finder select 101 /Users/ana/Empty/file.txt\nwait 1\n";
+    const std::vector<SheetState> more{
+        {"folder menu", 780, deep, "", "click bar 101 chevron ana\nkey down\n"},
+        {"folder menu, dark", 780, deep, dark, "click bar 101 chevron ana\nkey down\n"},
+        {"folder menu of a folder without folders", 780, "/Users/ana/Empty",
+         "folder /Users/ana/Empty\nfile /Users/ana/Empty/file.txt\n", select + "click bar 101 chevron Empty\n"},
+        {"long folder menu, scrolled", 780, "/Users/ana/Many/Folder 7", many,
+         "click bar 101 chevron Many\nkey pagedown\nkey pagedown\n"},
+        {"ellipsis menu", 520, deep, "", "click bar 101 ellipsis\nkey down\n"},
+        {"context menu", 520, deep, "", "click right bar 101 crumb Bars\nkey down\n"},
+        {"context menu, dark", 520, deep, dark, "click right bar 101 crumb Bars\n"},
+    };
+    states.insert(states.end(), more.begin(), more.end());
+}
+
+void addPopovers(std::vector<SheetState>& states) {
+    const std::vector<SheetState> more{
+        {"copied", 520, shallow, "", "click bar 101 copy\n"},
+        {"copied, dark", 520, shallow, dark, "click bar 101 copy\n"},
+        {"a folder that has gone", 780, deep, "",
+         "remove /Users/ana/Documents/Projects\nclick bar 101 crumb Projects\n"},
+        {"tooltip", 520, shallow, "", "mouse move 555 502\nwait 1.1\n"},
+        {"tooltip, dark", 520, shallow, dark, "mouse move 555 502\nwait 1.1\n"},
+    };
+    states.insert(states.end(), more.begin(), more.end());
+}
+
+}  // namespace
+
+std::span<const SheetState> sheetStates() {
+    static const std::vector<SheetState> states = [] {
+        std::vector<SheetState> all;
+        for (const auto add : {addStyles, addWidths, addPlacesAndNames, addField, addMenus, addPopovers}) add(all);
+        return all;
+    }();
+    return states;
+}
+
+}  // namespace play
