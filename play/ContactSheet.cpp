@@ -23,13 +23,13 @@ namespace {
 
 using platform::CGRect;
 
-constexpr double scale = 2;
+constexpr double sheetScale = 2;
 // In points.
 constexpr double pageWidth = 2480;
-constexpr double margin = 20;
-constexpr double gap = 24;
+constexpr double pageMargin = 20;
+constexpr double pageGap = 24;
 constexpr double captionHeight = 22;
-constexpr double around = 10;  // of the desk, on each side of what is shown
+constexpr double deskAround = 10;  // of the desk, on each side of what is shown
 
 CGRect unionOf(const CGRect& a, const CGRect& b) {
     const double x = std::min(a.minX(), b.minX());
@@ -57,7 +57,7 @@ CGRect shownArea(const Session& session) {
     if (const desk::OpenMenu* menu = machine.menus.menu()) area = unionOf(area, menu->frame());
     for (const desk::ShownPopover& popover : machine.menus.popovers()) area = unionOf(area, popover.place.body);
     if (const auto toolTip = machine.toolTips.shown()) area = unionOf(area, toolTip->frame);
-    return CGRectInset(area, -around, -around);
+    return CGRectInset(area, -deskAround, -deskAround);
 }
 
 // Null, after a word about it, when the story fails.
@@ -68,9 +68,9 @@ QImage pictureOf(const SheetState& state) {
     if (player.play() != 0) return {};
     const CGRect area = shownArea(session);
     const platform::CGRect screen = session.machine.displays.screens().front().frame;
-    const QRectF pixels(area.minX() * scale, (screen.maxY() - area.maxY()) * scale, area.width() * scale,
-                        area.height() * scale);
-    const QImage whole = session.compositor.compose(session.machine, scale);
+    const QRectF pixels(area.minX() * sheetScale, (screen.maxY() - area.maxY()) * sheetScale, area.width() * sheetScale,
+                        area.height() * sheetScale);
+    const QImage whole = session.compositor.compose(session.machine, sheetScale);
     return whole.copy(pixels.toRect().intersected(whole.rect()));
 }
 
@@ -82,36 +82,37 @@ struct Placed {
 
 // In rows from left to right; answers the height of the page.
 double placeInRows(std::vector<Placed>& all) {
-    double x = margin;
-    double y = margin;
+    double x = pageMargin;
+    double y = pageMargin;
     double rowHeight = 0;
     for (Placed& each : all) {
-        const double width = each.picture.width() / scale;
-        if (x > margin && x + width > pageWidth - margin) {
-            x = margin;
-            y += rowHeight + gap;
+        const double width = each.picture.width() / sheetScale;
+        if (x > pageMargin && x + width > pageWidth - pageMargin) {
+            x = pageMargin;
+            y += rowHeight + pageGap;
             rowHeight = 0;
         }
         each.at = {x, y};
-        x += width + gap;
-        rowHeight = std::max(rowHeight, captionHeight + each.picture.height() / scale);
+        x += width + pageGap;
+        rowHeight = std::max(rowHeight, captionHeight + each.picture.height() / sheetScale);
     }
-    return y + rowHeight + margin;
+    return y + rowHeight + pageMargin;
 }
 
 QImage pageOf(std::vector<Placed> all) {
     const double height = placeInRows(all);
-    QImage page(static_cast<int>(pageWidth * scale), static_cast<int>(std::ceil(height * scale)), QImage::Format_RGB32);
+    QImage page(static_cast<int>(pageWidth * sheetScale), static_cast<int>(std::ceil(height * sheetScale)),
+                QImage::Format_RGB32);
     page.fill(QColor(0xEC, 0xEC, 0xEE));
     QPainter painter(&page);
-    painter.scale(scale, scale);
+    painter.scale(sheetScale, sheetScale);
     desk::SystemFonts fonts;
     painter.setFont(fonts.face({12, platform::FontWeight::medium}).toolkitFont);
     painter.setPen(QColor(0x33, 0x33, 0x36));
     for (const Placed& each : all) {
         painter.drawText(QRectF(each.at.x(), each.at.y(), pageWidth, captionHeight), Qt::AlignLeft | Qt::AlignVCenter,
                          QString::fromStdString(each.state->caption));
-        const QSizeF size(each.picture.width() / scale, each.picture.height() / scale);
+        const QSizeF size(each.picture.width() / sheetScale, each.picture.height() / sheetScale);
         painter.drawImage(QRectF(each.at + QPointF(0, captionHeight), size), each.picture);
     }
     return page;

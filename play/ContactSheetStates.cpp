@@ -8,11 +8,11 @@ namespace play {
 
 namespace {
 
-const std::string deep = "/Users/ana/Documents/Projects/2024/Orvane/Designs/Bars";
-const std::string shallow = "/Users/ana/Documents";
+const std::string deepFolder = "/Users/ana/Documents/Projects/2024/Orvane/Designs/Bars";
+const std::string shallowFolder = "/Users/ana/Documents";
 const std::string longName(96, 'm');
 const std::string mixedName = "Notes עברית 2024 العربية end";
-const std::string dark = "appearance dark\n";
+const std::string inDark = "appearance dark\n";
 
 std::string folderNamed(const std::string& name) {
     return "folder \"/Users/ana/" + name + "\"\n";
@@ -22,23 +22,23 @@ void addStyles(std::vector<SheetState>& states) {
     for (const std::string scheme : {"light", "dark"})
         for (const brindle::PathBarDesign design : brindle::allPathBarDesigns) {
             const std::string name(brindle::rawValue(design));
-            states.push_back({name + ", " + scheme, 780, deep,
+            states.push_back({name + ", " + scheme, 780, deepFolder,
                               "appearance " + scheme + "\nset-default pathBarDesign string " + name + "\n", ""});
         }
 }
 
 void addWidths(std::vector<SheetState>& states) {
     for (const int width : {200, 260, 320, 400, 600, 900, 1200, 1600, 2400})
-        states.push_back({std::to_string(width) + " points", width, deep, "", ""});
+        states.push_back({std::to_string(width) + " points", width, deepFolder, "", ""});
 }
 
 void addPlacesAndNames(std::vector<SheetState>& states) {
     const std::vector<SheetState> more{
         {"startup volume", 520, "/", "", ""},
         {"virtual location", 520, "Recents", "", ""},
-        {"one selected file", 780, shallow, "file /Users/ana/Documents/notes.txt\n",
+        {"one selected file", 780, shallowFolder, "file /Users/ana/Documents/notes.txt\n",
          "finder select 101 /Users/ana/Documents/notes.txt\nwait 1\n"},
-        {"full screen", 780, deep, "", "finder full-screen 101 on\nwait 2\n"},
+        {"full screen", 780, deepFolder, "", "finder full-screen 101 on\nwait 2\n"},
         {"a name too long for the row", 520, "/Users/ana/" + longName, folderNamed(longName), ""},
         {"both directions", 780, "/Users/ana/" + mixedName, folderNamed(mixedName), ""},
         {"emoji, accents, a line feed", 780, "/Users/ana/👩‍👩‍👧 cafe\u0301\\nnew line",
@@ -51,16 +51,16 @@ void addField(std::vector<SheetState>& states) {
     const std::string open = "key cmd+l\nwait 0.5\n";
     const std::string veryLong = "x/" + std::string(2000, 'w') + "/y";
     const std::vector<SheetState> more{
-        {"field, everything selected", 780, deep, "", open},
-        {"field, everything selected, dark", 780, deep, dark, open},
-        {"field, caret", 780, shallow, "", open + "key end\n"},
-        {"field, a word selected", 780, shallow, "", open + "key end\nkey shift+alt+left\n"},
-        {"field, scrolled to the end of a long path", 520, deep, "", open + "key end\n"},
-        {"field, the end of 2000 letters", 780, shallow, "", open + "type " + veryLong + "\n"},
+        {"field, everything selected", 780, deepFolder, "", open},
+        {"field, everything selected, dark", 780, deepFolder, inDark, open},
+        {"field, caret", 780, shallowFolder, "", open + "key end\n"},
+        {"field, a word selected", 780, shallowFolder, "", open + "key end\nkey shift+alt+left\n"},
+        {"field, scrolled to the end of a long path", 520, deepFolder, "", open + "key end\n"},
+        {"field, the end of 2000 letters", 780, shallowFolder, "", open + "type " + veryLong + "\n"},
         {"field, selected across both directions", 780, "/Users/ana/" + mixedName, folderNamed(mixedName),
          open + "key end\nkey left\nkey left\nkey left\nkey left\nkey shift+alt+left\nkey shift+alt+left\n"},
-        {"field, nothing there", 780, shallow, "", open + "type /nowhere\nkey return\n"},
-        {"field, nothing there, dark", 780, shallow, dark, open + "type /nowhere\nkey return\n"},
+        {"field, nothing there", 780, shallowFolder, "", open + "type /nowhere\nkey return\n"},
+        {"field, nothing there, dark", 780, shallowFolder, inDark, open + "type /nowhere\nkey return\n"},
     };
     states.insert(states.end(), more.begin(), more.end());
 }
@@ -71,27 +71,27 @@ void addMenus(std::vector<SheetState>& states) {
         many += "folder \"/Users/ana/Many/Folder " + std::to_string(number) + "\"\n";
     const std::string select = "finder select 101 /Users/ana/Empty/file.txt\nwait 1\n";
     const std::vector<SheetState> more{
-        {"folder menu", 780, deep, "", "click bar 101 chevron ana\nkey down\n"},
-        {"folder menu, dark", 780, deep, dark, "click bar 101 chevron ana\nkey down\n"},
+        {"folder menu", 780, deepFolder, "", "click bar 101 chevron ana\nkey down\n"},
+        {"folder menu, dark", 780, deepFolder, inDark, "click bar 101 chevron ana\nkey down\n"},
         {"folder menu of a folder without folders", 780, "/Users/ana/Empty",
          "folder /Users/ana/Empty\nfile /Users/ana/Empty/file.txt\n", select + "click bar 101 chevron Empty\n"},
         {"long folder menu, scrolled", 780, "/Users/ana/Many/Folder 7", many,
          "click bar 101 chevron Many\nkey pagedown\nkey pagedown\n"},
-        {"ellipsis menu", 520, deep, "", "click bar 101 ellipsis\nkey down\n"},
-        {"context menu", 520, deep, "", "click right bar 101 crumb Bars\nkey down\n"},
-        {"context menu, dark", 520, deep, dark, "click right bar 101 crumb Bars\n"},
+        {"ellipsis menu", 520, deepFolder, "", "click bar 101 ellipsis\nkey down\n"},
+        {"context menu", 520, deepFolder, "", "click right bar 101 crumb Bars\nkey down\n"},
+        {"context menu, dark", 520, deepFolder, inDark, "click right bar 101 crumb Bars\n"},
     };
     states.insert(states.end(), more.begin(), more.end());
 }
 
 void addPopovers(std::vector<SheetState>& states) {
     const std::vector<SheetState> more{
-        {"copied", 520, shallow, "", "click bar 101 copy\n"},
-        {"copied, dark", 520, shallow, dark, "click bar 101 copy\n"},
-        {"a folder that has gone", 780, deep, "",
+        {"copied", 520, shallowFolder, "", "click bar 101 copy\n"},
+        {"copied, dark", 520, shallowFolder, inDark, "click bar 101 copy\n"},
+        {"a folder that has gone", 780, deepFolder, "",
          "remove /Users/ana/Documents/Projects\nclick bar 101 crumb Projects\n"},
-        {"tooltip", 520, shallow, "", "mouse move 555 502\nwait 1.1\n"},
-        {"tooltip, dark", 520, shallow, dark, "mouse move 555 502\nwait 1.1\n"},
+        {"tooltip", 520, shallowFolder, "", "mouse move 555 502\nwait 1.1\n"},
+        {"tooltip, dark", 520, shallowFolder, inDark, "mouse move 555 502\nwait 1.1\n"},
     };
     states.insert(states.end(), more.begin(), more.end());
 }

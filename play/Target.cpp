@@ -77,16 +77,17 @@ Target itemTitled(ScriptPlayer& player, const Arguments& words) {
     return {middleOf(menu->frameOf(row)), 2};
 }
 
-struct Kind {
+struct TargetKind {
     std::string_view name;
     Target (*read)(ScriptPlayer& player, const Arguments& words);
 };
-constexpr Kind kinds[] = {{"window", windowPart}, {"bar", barPart}, {"label", labelled}, {"item", itemTitled}};
+constexpr TargetKind targetKinds[] = {
+    {"window", windowPart}, {"bar", barPart}, {"label", labelled}, {"item", itemTitled}};
 
 }  // namespace
 
 Target readTarget(ScriptPlayer& player, const Arguments& arguments) {
-    for (const auto& kind : kinds)
+    for (const auto& kind : targetKinds)
         if (arguments.is(0, kind.name)) return kind.read(player, arguments.after(1));
     return {arguments.point(0), 2};
 }
