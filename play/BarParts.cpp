@@ -192,14 +192,6 @@ std::optional<platform::CGPoint> barPartPoint(const Session& session, std::int64
     return std::nullopt;
 }
 
-std::vector<std::string> drawnCrumbIds(const Session& session, std::int64_t panel) {
-    std::vector<std::string> ids;
-    if (const auto bar = barWithPanel(session, panel))
-        for (const auto& element : elementsOf(*bar->controller))
-            if (element.identifier == "crumb") ids.push_back(element.key);
-    return ids;
-}
-
 QJsonArray panelsOf(Session& session) {
     QJsonArray panels;
     for (const auto* window : session.machine.windows.all())

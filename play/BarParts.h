@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include <QJsonArray>
 
@@ -27,9 +26,6 @@ bool barPartHasTitle(std::string_view part);
 // Where to click for that part, from the panel's top left corner, y downward; empty when the bar doesn't show it.
 std::optional<platform::CGPoint> barPartPoint(const Session& session, std::int64_t panel, std::string_view part,
                                               std::string_view title);
-
-// What its crumbs show, left to right, as the items' identifiers.
-std::vector<std::string> drawnCrumbIds(const Session& session, std::int64_t panel);
 
 // The panels front to back, for the state.
 QJsonArray panelsOf(Session& session);

@@ -1,6 +1,5 @@
 #include "play/DeskCommand.h"
 
-#include <charconv>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -16,19 +15,16 @@
 #include "play/ScriptPlayer.h"
 #include "play/Session.h"
 #include "play/Tour.h"
-#include "play/soak/Soak.h"
 
 namespace play {
 
 namespace {
 
-constexpr const char* usage =
-    "desk                 play the tour: it says what it does and where its pictures lie\n"
-    "desk --tour [DIR]    the same, with the pictures in DIR\n"
-    "desk --script FILE   play a desk script; - reads it from standard input\n"
-    "desk --contact-sheet FILE   draw every state of the bar on one page, a PNG\n"
-    "desk --soak SEED STEPS      shake the desk at random and check it; a failure tells its seed and a script\n"
-    "desk --help          this page\n";
+constexpr const char* usage = "desk                 play the tour: it says what it does and where its pictures lie\n"
+                              "desk --tour [DIR]    the same, with the pictures in DIR\n"
+                              "desk --script FILE   play a desk script; - reads it from standard input\n"
+                              "desk --contact-sheet FILE   draw every state of the bar on one page, a PNG\n"
+                              "desk --help          this page\n";
 
 int complain(const std::string& message) {
     std::cerr << "desk: " << message << '\n';
@@ -62,24 +58,6 @@ int playContactSheet(const std::vector<std::string>& values) {
     return drawContactSheet(values.front());
 }
 
-template <typename Number>
-std::optional<Number> wholeNumber(const std::string& word) {
-    Number number = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc() || end != word.data() + word.size()) return std::nullopt;
-    return number;
-}
-
-int soak(const std::vector<std::string>& values) {
-    const auto seed = values.size() == 2 ? wholeNumber<std::uint64_t>(values[0]) : std::nullopt;
-    const auto steps = values.size() == 2 ? wholeNumber<std::int64_t>(values[1]) : std::nullopt;
-    if (!seed || !steps || *steps < 1) return complain("--soak takes a seed and a number of steps");
-    SoakOptions options;
-    options.seed = *seed;
-    options.steps = *steps;
-    return runSoak(options, std::cout);
-}
-
 int showHelp(const std::vector<std::string>& /*values*/) {
     std::cout << usage;
     return 0;
@@ -89,11 +67,8 @@ struct Mode {
     std::string_view name;
     int (*run)(const std::vector<std::string>& values);
 };
-constexpr Mode modes[] = {{"--script", playScript},
-                          {"--tour", playTour},
-                          {"--contact-sheet", playContactSheet},
-                          {"--soak", soak},
-                          {"--help", showHelp}};
+constexpr Mode modes[] = {
+    {"--script", playScript}, {"--tour", playTour}, {"--contact-sheet", playContactSheet}, {"--help", showHelp}};
 
 // A toolkit without a session of a desktop warns of what it doesn't need here.
 void writeToolkitMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message) {

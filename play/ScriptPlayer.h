@@ -5,13 +5,12 @@
 #include <deque>
 #include <functional>
 #include <iosfwd>
-#include <memory>
 #include <string>
 #include <string_view>
 
 #include "desk/time/Scheduler.h"
 #include "play/Arguments.h"
-#include "play/LineSource.h"
+#include "play/ScriptReader.h"
 #include "play/Session.h"
 
 namespace play {
@@ -21,9 +20,6 @@ public:
     // Messages name the script as `theFile`.
     ScriptPlayer(Session& theSession, std::string theFile, std::string_view scriptText, std::ostream& theOutput,
                  std::ostream& theErrors);
-    // Plays what the source gives.
-    ScriptPlayer(Session& theSession, std::string theFile, std::unique_ptr<LineSource> theSource,
-                 std::ostream& theOutput, std::ostream& theErrors);
     ~ScriptPlayer() override;
 
     // Plays to the end or to the first failure, and answers the exit code.
@@ -41,16 +37,15 @@ public:
     std::int64_t finderWindow(const Arguments& arguments, std::size_t index);
 
 private:
-    // False at the end.
-    bool runNext();
-    void run(const ScriptLine& line);
+    void runNext();
     void fail(int code, int line, const std::string& message);
 
     Session& stage;
     std::string file;
-    std::unique_ptr<LineSource> source;
+    Script script;
     std::ostream& out;
     std::ostream& errors;
+    std::size_t next = 0;
     int currentLine = 0;
     std::deque<std::function<void()>> parts;
     int exitCode = 0;
