@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "desk/display/LaidOutLine.h"
 #include "desk/display/ShapedText.h"
 #include "desk/display/Symbols.h"
 
@@ -14,8 +15,6 @@ namespace desk {
 namespace {
 
 constexpr std::string_view ellipsis = "\u2026";
-// A text that is being typed is another one at each key; only titles come again.
-constexpr std::size_t longestRemembered = 1024;
 
 }  // namespace
 
@@ -53,7 +52,7 @@ QtTextSystem::QtTextSystem() : clusters(std::make_unique<Clusters>()), widths(40
 QtTextSystem::~QtTextSystem() = default;
 
 double QtTextSystem::width(std::string_view text, platform::Font font) {
-    if (text.size() > longestRemembered) return ShapedText::width(text, fonts.face(font));
+    if (text.size() > longestKeptText) return laidOut(text, font).width();
     if (const double* known = widths.find(TextLookup{text, font})) return *known;
     return widths.insert({std::string(text), font}, ShapedText::width(text, fonts.face(font)));
 }
@@ -63,12 +62,17 @@ platform::FontMetrics QtTextSystem::metrics(platform::Font font) {
 }
 
 double QtTextSystem::caretPosition(std::string_view text, platform::Font font, std::size_t offset) {
-    return ShapedText::caretPosition(text, fonts.face(font), offset);
+    return laidOut(text, font).caretPosition(offset);
 }
 
 std::vector<platform::LineStretch> QtTextSystem::stretches(std::string_view text, platform::Font font,
                                                            std::size_t begin, std::size_t end) {
-    return ShapedText::stretches(text, fonts.face(font), begin, end);
+    return laidOut(text, font).stretches(begin, end);
+}
+
+const LaidOutLine& QtTextSystem::laidOut(std::string_view text, platform::Font font) {
+    if (latest == nullptr || !latest->isOf(text, font)) latest = std::make_unique<LaidOutLine>(text, fonts.face(font));
+    return *latest;
 }
 
 std::string QtTextSystem::truncatedInMiddle(std::string_view text, platform::Font font, double width) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "desk/display/BoundedCache.h"
+#include "desk/display/LaidOutLine.h"
 #include "desk/display/SystemFonts.h"
 #include "desk/display/TextKey.h"
 #include "platform/Text.h"
@@ -36,8 +37,10 @@ private:
     };
 
     std::string truncate(std::string_view text, platform::Font font, double width);
+    const LaidOutLine& laidOut(std::string_view text, platform::Font font);
 
     SystemFonts fonts;
+    std::unique_ptr<LaidOutLine> latest;  // at each key of a field its width, caret and selection are asked for
     std::unique_ptr<Clusters> clusters;
     BoundedCache<TextKey, double, TextHash, TextEqual> widths;
     BoundedCache<TextKey, Truncation, TextHash, TextEqual> truncations;  // the last one of each text

@@ -26,10 +26,6 @@ public:
 
     // Measures without keeping anything: what the painted line takes, trailing blanks included.
     static double width(std::string_view text, const FontFace& face);
-    // As TextSystem's operations of these names.
-    static double caretPosition(std::string_view text, const FontFace& face, std::size_t offset);
-    static std::vector<platform::LineStretch> stretches(std::string_view text, const FontFace& face, std::size_t begin,
-                                                        std::size_t end);
 
 private:
     platform::FontMetrics line;

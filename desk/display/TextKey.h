@@ -10,6 +10,9 @@
 
 namespace desk {
 
+// Longer texts aren't kept: one that is being typed is another one at each key, and only titles come again.
+inline constexpr std::size_t longestKeptText = 1024;
+
 struct TextLookup {
     std::string_view text;
     platform::Font font;

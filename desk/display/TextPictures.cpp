@@ -61,6 +61,11 @@ QImage TextPictures::symbol(std::string_view name, platform::Font font, const QC
 }
 
 const ShapedText& TextPictures::shaped(std::string_view text, platform::Font font) {
+    if (text.size() > longestKeptText) {
+        if (!latestLong || latestLong->first.text != text || latestLong->first.font != font)
+            latestLong.emplace(TextKey{std::string(text), font}, ShapedText(text, fonts.face(font)));
+        return latestLong->second;
+    }
     if (const ShapedText* known = lines.find(TextLookup{text, font})) return *known;
     return lines.insert({std::string(text), font}, ShapedText(text, fonts.face(font)));
 }

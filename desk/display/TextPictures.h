@@ -5,7 +5,9 @@
 #include <QColor>
 #include <QImage>
 #include <QPoint>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include "desk/display/BoundedCache.h"
 #include "desk/display/ShapedText.h"
@@ -39,6 +41,7 @@ private:
 
     SystemFonts fonts;
     BoundedCache<TextKey, ShapedText, TextHash, TextEqual> lines;
+    std::optional<std::pair<TextKey, ShapedText>> latestLong;
     BoundedCache<TintedKey, TextPicture, TintedHash, TintedEqual> texts;
     BoundedCache<TintedKey, QImage, TintedHash, TintedEqual> symbols;
 };

@@ -1,4 +1,4 @@
-// DisplayLines of text that are longer than a screen, or run both ways: where the caret stands, what a selection covers, and that their ends are painted.
+// Lines of text that are longer than a screen, or run both ways: where the caret stands, what a selection covers, and that their ends are painted.
 #include <string>
 
 #include <QImage>
@@ -46,6 +46,18 @@ TEST_F(DisplayLines, ASelectionInTextThatRunsBothWaysCoversWhatItsLettersCover) 
     EXPECT_NEAR(last[0].begin, latin, lineTolerance);
     EXPECT_EQ(text.stretches(mixed, lineFont, 1, 4).size(), 2U);
     EXPECT_EQ(text.stretches(mixed, lineFont, 0, 8).size(), 1U);
+}
+
+// Beside Latin letters and beside Hebrew ones, which take another way.
+TEST_F(DisplayLines, ASelectedEmojiIsCoveredWhole) {
+    const std::string emoji = "\xf0\x9f\x8e\xa8";
+    for (const std::string beside : {"ab", "\u05d0\u05d1"}) {
+        const std::string mixed = beside + emoji + "ab";
+        const auto covered = text.stretches(mixed, lineFont, beside.size(), beside.size() + emoji.size());
+        ASSERT_EQ(covered.size(), 1U) << mixed;
+        EXPECT_NEAR(covered[0].begin, text.width(beside, lineFont), 1) << mixed;
+        EXPECT_NEAR(covered[0].end - covered[0].begin, text.width(emoji, lineFont), 1) << mixed;
+    }
 }
 
 TEST_F(DisplayLines, TheEndOfALineLongerThanAnyPictureIsPainted) {
