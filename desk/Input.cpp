@@ -34,12 +34,13 @@ bool isPassive(const platform::NSWindow& window) {
 void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) {
     location = point;
     machine.toolTips.hide();
-    press = Press{{}, button, clickCount};
-    if (!isOnAlert(point) && menusTake(eventsOf(button).down, clickCount)) return;
+    const bool isAlerts = isOnAlert(point);
+    press = Press{{}, button, clickCount, isAlerts};
+    if (!isAlerts && menusTake(eventsOf(button).down, clickCount)) return;
     const Target target = targetAt(point);
     pressAlertButton(point);
     if (target.owner != 0 && target.owner != ownerOf(key)) key = 0;
-    press = Press{target, button, clickCount};
+    press = Press{target, button, clickCount, isAlerts};
     const bool isFinders = target.window != 0 && target.owner == machine.finder.pid();
     if (isFinders && button == MouseButton::left)
         machine.finder.mouseDown(target.window, point);
@@ -50,8 +51,8 @@ void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) 
 
 void Input::mouseDragged(const CGPoint& point) {
     location = point;
-    const Press held = press.value_or(Press{{}, MouseButton::left, 0});
-    if (menusTake(eventsOf(held.button).dragged, held.clickCount)) return;
+    const Press held = press.value_or(Press{{}, MouseButton::left, 0, false});
+    if (!held.isAlerts && menusTake(eventsOf(held.button).dragged, held.clickCount)) return;
     const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
     if (isFinders && held.button == MouseButton::left) machine.finder.mouseDragged(point);
     deliverMouse(eventsOf(held.button).dragged, held.target, held.clickCount);
@@ -59,8 +60,8 @@ void Input::mouseDragged(const CGPoint& point) {
 
 void Input::mouseUp(const CGPoint& point, MouseButton button) {
     location = point;
-    const Press held = std::exchange(press, std::nullopt).value_or(Press{{}, button, 1});
-    if (menusTake(eventsOf(button).up, held.clickCount)) return;
+    const Press held = std::exchange(press, std::nullopt).value_or(Press{{}, button, 1, false});
+    if (!held.isAlerts && menusTake(eventsOf(button).up, held.clickCount)) return;
     const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
     if (isFinders && button == MouseButton::left) machine.finder.mouseUp(point);
     deliverMouse(eventsOf(button).up, held.target, held.clickCount);
@@ -70,7 +71,7 @@ void Input::mouseMoved(const CGPoint& point) {
     location = point;
     machine.toolTips.mouseMoved();
     // Nobody's: only the copies are of interest.
-    if (!menusTake(NSEventType::mouseMoved))
+    if (isOnAlert(point) || !menusTake(NSEventType::mouseMoved))
         offerToOthers(eventHere(NSEventType::mouseMoved, 0), targetAt(point).owner);
 }
 

@@ -53,6 +53,9 @@ public:
     void windowOrderedOut(std::int64_t window);
     void frontmostChanged();
 
+    // A system alert stands above everything, an open menu included.
+    bool isOnAlert(const platform::CGPoint& point) const;
+
 private:
     // Who handles a mouse event. Without a window it is the desktop's, which is Finder's; without an owner nobody's.
     struct Target {
@@ -63,8 +66,6 @@ private:
     Target targetAt(const platform::CGPoint& point) const;
     bool isMenuBarOrDock(const platform::CGPoint& point) const;
     std::optional<AlertLayout> alertLayout() const;
-    // A system alert stands above everything, an open menu included.
-    bool isOnAlert(const platform::CGPoint& point) const;
     void pressAlertButton(const platform::CGPoint& point);
     void bringForward(const Target& target);
     void deliverMouse(platform::NSEventType type, const Target& target, int clickCount);
@@ -84,6 +85,7 @@ private:
         Target target;  // has the mouse until the release, wherever that goes
         MouseButton button;
         int clickCount;
+        bool isAlerts;
     };
     std::optional<Press> press;
 };
