@@ -164,4 +164,18 @@ TEST_F(HostMenusTest, DismissingAPopoverClearsItsBindingSoThatItCanComeAgain) {
     EXPECT_EQ(popovers(), Log{});
 }
 
+TEST_F(HostMenusTest, APopoverDismissedAndPresentedInTheSameTurnComesUpAgain) {
+    model.message.set("no");
+    desk.machine.settle();
+    desk.machine.input.mouseDown({900, 300}, desk::MouseButton::left, 1);
+    EXPECT_EQ(popovers(), Log{});
+    probe.platform.dispatch.mainAsync([this] { model.message.set("no"); });
+    desk.machine.settle();
+    EXPECT_EQ(popovers(), Log{"no 36.000000"});
+    EXPECT_EQ(model.message.get(), "no");
+    desk.release({900, 300});
+    desk.click({900, 300});
+    EXPECT_EQ(popovers(), Log{});
+}
+
 }  // namespace
