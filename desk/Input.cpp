@@ -33,7 +33,7 @@ bool isPassive(const platform::NSWindow& window) {
 
 void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) {
     location = point;
-    machine.toolTips.hide();
+    machine.toolTips.dismiss();
     const bool isAlerts = isOnAlert(point);
     press = Press{{}, button, clickCount, isAlerts};
     if (!isAlerts && menusTake(eventsOf(button).down, clickCount)) return;
@@ -77,7 +77,7 @@ void Input::mouseMoved(const CGPoint& point) {
 
 void Input::scrollWheel(const CGPoint& point, double deltaY) {
     location = point;
-    machine.toolTips.hide();
+    machine.toolTips.dismiss();
     NSEvent event = eventHere(NSEventType::scrollWheel, 0);
     event.scrollingDeltaY = deltaY;
     if (!menusTake(event)) deliver(std::move(event), targetAt(point));
@@ -167,7 +167,7 @@ bool Input::menusTake(const NSEvent& event) {
 }
 
 void Input::keyDown(const KeyStroke& stroke) {
-    machine.toolTips.hide();
+    machine.toolTips.dismiss();
     deliverKey(NSEventType::keyDown, stroke);
 }
 

@@ -63,7 +63,10 @@ std::vector<std::string> FinderScriptHost::selection() {
     return identifiers.empty() ? std::vector<std::string>() : machine.finder.find(identifiers.front())->selection;
 }
 
+// In front already, it is left as it is: what stands between its windows goes on standing there.
 void FinderScriptHost::activate() {
+    const Process* frontmost = machine.processes.frontmost();
+    if (frontmost != nullptr && frontmost->processIdentifier == machine.finder.pid()) return;
     machine.activate(machine.finder.pid(), true);
 }
 

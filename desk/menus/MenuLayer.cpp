@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "desk/Machine.h"
+#include "views/text/KeyBindings.h"
 
 namespace desk {
 
@@ -245,13 +246,12 @@ void MenuLayer::menuKey(const NSEvent& event) {
 }
 
 void MenuLayer::typeToSelect(const NSEvent& event) {
-    constexpr std::uint64_t shortcutKeys =
-        platform::NSEventModifierFlags::command | platform::NSEventModifierFlags::control;
-    if ((event.modifierFlags & shortcutKeys) != 0 || event.characters.empty()) return;
+    const std::string typed = views::typedText(event);
+    if (typed.empty()) return;
     const platform::Date now = machine.scheduler.now();
     if (now - tracked->lastTyped >= typingPause) tracked->typed.clear();
     tracked->lastTyped = now;
-    tracked->typed += event.characters;
+    tracked->typed += typed;
     if (tracked->menu.highlightTitle(tracked->typed)) machine.windows.changed();
 }
 

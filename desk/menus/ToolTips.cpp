@@ -17,9 +17,16 @@ constexpr double belowPointer = 20;
 }  // namespace
 
 void ToolTips::mouseMoved() {
-    if (told && told == subject()) return;
+    const std::optional<Subject> present = subject();
+    if (present && (told == present || dismissed == present)) return;
+    dismissed.reset();
     hide();
     waiting = machine.scheduler.after(restingTime, [this] { show(); });
+}
+
+void ToolTips::dismiss() {
+    dismissed = subject();
+    hide();
 }
 
 void ToolTips::hide() {

@@ -29,7 +29,8 @@ public:
     std::optional<ShownToolTip> shown() const;
 
     void mouseMoved();
-    void hide();
+    // Who presses or types knows what it does: nothing more is said of it until the mouse has left it.
+    void dismiss();
 
 private:
     // What is under the mouse and has something to say.
@@ -41,10 +42,12 @@ private:
 
     std::optional<Subject> subject() const;
     void show();
+    void hide();
 
     Machine& machine;
     std::optional<std::uint64_t> waiting;  // the machine's item that shows it
     std::optional<Subject> told;
+    std::optional<Subject> dismissed;
     platform::CGRect place;
 };
 

@@ -43,8 +43,13 @@ TEST(ToolTipOnDesk, ComesAfterASecondOfRestAndGoesWithThePointerThePressOrTheKey
     mac.press(copyButton);
     EXPECT_EQ(text(), "");
     mac.release(copyButton);
+    mac.moveTo({1077, 523});
     mac.run(3);
-    EXPECT_EQ(text(), "") << "the mouse hasn't moved since the press";
+    EXPECT_EQ(text(), "") << "the mouse hasn't left the button since the press";
+    mac.moveTo({800, 522});
+    mac.moveTo(copyButton);
+    mac.run(1.5);
+    EXPECT_EQ(text(), "Copy Current Path");
 }
 
 }  // namespace

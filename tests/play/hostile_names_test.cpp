@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "desk/display/GuiApplication.h"
+#include "play/Json.h"
 #include "play/ScriptPlayer.h"
 
 namespace {
@@ -32,12 +33,12 @@ constexpr const char* harm = "/tmp/harmed";
 const std::string shellScript = R"((do shell script "s=$(printf '\\057'); ${s}usr${s}bin${s}touch ${s}tmp${s}harmed"))";
 const std::string payload = R"(" & )" + shellScript + R"( & ")";
 
-std::string inQuotes(std::string_view text, const char* escapeOfControl) {
+std::string scriptWord(std::string_view text) {
     std::string result = "\"";
     for (const char character : text) {
         if (static_cast<unsigned char>(character) < 0x20) {
             std::array<char, 8> escape{};
-            std::snprintf(escape.data(), escape.size(), escapeOfControl, static_cast<unsigned>(character));
+            std::snprintf(escape.data(), escape.size(), "\\u{%X}", static_cast<unsigned>(character));
             result += escape.data();
         } else {
             if (character == '"' || character == '\\') result += '\\';
@@ -46,11 +47,9 @@ std::string inQuotes(std::string_view text, const char* escapeOfControl) {
     }
     return result + '"';
 }
-std::string scriptWord(std::string_view text) {
-    return inQuotes(text, "\\u{%X}");
-}
-std::string jsonText(std::string_view text) {
-    return inQuotes(text, "\\u%04x");
+
+std::string json(std::string_view text) {
+    return play::toText(play::jsonText(text));
 }
 
 std::string hostileName(std::mt19937& random) {
@@ -92,20 +91,19 @@ void HostileNames::visit(const std::string& base, const std::string& name) {
     // Such a name breaks its own window's record, so that its bar may not show it.
     const bool breaksRecords = name.find_first_of("\x1e\x1f") != std::string::npos;
     const std::string atFolder =
-        "expect /finder/windows/0/path " + jsonText(folder) + "\nexpect /panels/0/errorMessage null\n";
+        "expect /finder/windows/0/path " + json(folder) + "\nexpect /panels/0/errorMessage null\n";
     const std::string comeBack = "finder go 101 " + beside + "\nwait 0.6\n";
 
     tell("folder " + scriptWord(folder + "/inside") + "\nfolder " + beside + "\n" + comeBack +
          "click bar 101 chevron " + base + "\nclick item " + scriptWord(name) + "\n" + atFolder);
     if (!breaksRecords)
-        tell("wait 0.6\nexpect /observer/windows/0/path " + jsonText(folder + "/") +
-             "\nexpect /panels/0/crumbs/4/title " + jsonText(name) + "\nclick bar 101 copy\nexpect /clipboard " +
-             jsonText(folder + "/") + "\nclick bar 101 crumb " + base +
-             "\nexpect /finder/windows/0/path \"/Users/ana/" + base + "\"\nfinder go 101 " +
+        tell("wait 0.6\nexpect /observer/windows/0/path " + json(folder + "/") + "\nexpect /panels/0/crumbs/4/title " +
+             json(name) + "\nclick bar 101 copy\nexpect /clipboard " + json(folder + "/") + "\nclick bar 101 crumb " +
+             base + "\nexpect /finder/windows/0/path \"/Users/ana/" + base + "\"\nfinder go 101 " +
              scriptWord(folder + "/inside") + "\nwait 0.6\nclick bar 101 crumb " + scriptWord(name) + "\n" + atFolder);
     session.machine.clipboard = folder;
-    tell(comeBack + "key cmd+l\nwait 0.3\nkey cmd+v\nexpect /panels/0/inputText " + jsonText(folder) +
-         "\nkey return\n" + atFolder);
+    tell(comeBack + "key cmd+l\nwait 0.3\nkey cmd+v\nexpect /panels/0/inputText " + json(folder) + "\nkey return\n" +
+         atFolder);
 }
 
 TEST_P(HostileNames, AreGoneIntoAndLeftAndNothingInThemIsRun) {
