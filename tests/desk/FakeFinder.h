@@ -20,7 +20,6 @@ struct FakeFinder : ScriptHost {
     std::vector<std::string> selected;
     std::set<std::string> folders{"/", "/Users", "/Users/ana", "/Users/ana/Desktop", "/Users/ana/Fotos"};
     std::set<std::string> files{"/Users/ana/note.txt", "/Users/ana/Desktop/todo.txt"};
-    std::optional<ScriptError> refused;
     std::map<std::string, std::variant<std::string, ScriptError>> shell;
     std::vector<std::string> calls;
 
@@ -28,7 +27,7 @@ struct FakeFinder : ScriptHost {
         openWindows.push_back({identifier, {std::move(name), std::move(path), {10, 20, 810, 620}}});
     }
 
-    std::optional<ScriptError> refusal() override { return refused; }
+    std::optional<ScriptError> refusal() override { return std::nullopt; }
     std::vector<std::int64_t> windowIdentifiers() override {
         std::vector<std::int64_t> identifiers;
         for (const Window& window : openWindows) {
