@@ -54,10 +54,12 @@ std::vector<std::string> names(const Disk& disk, const std::string& path) {
 }  // namespace
 
 TEST_F(HostTree, NothingOutsideAMountIsReachedOrWritten) {
+    // A name that nobody else has on the host.
+    const std::string fresh = "/tmp/" + std::filesystem::path(base).filename().string() + "-fresh";
     link("absolute", "/etc/hostname");
     link("climbing", "../secret");
     link("climbing-deep", "Work/../../../secret");
-    link("outside", "/tmp/fresh");
+    link("outside", fresh);
     link("Users", base);
     ASSERT_EQ(disk.useAsStartupVolume(base + "/volume"), std::nullopt);
 
@@ -75,8 +77,8 @@ TEST_F(HostTree, NothingOutsideAMountIsReachedOrWritten) {
 
     // A link's absolute target is a Mac path, here one of the Mac's own scratch folder.
     EXPECT_TRUE(disk.makeFile("/outside", "kept on the scratch folder"));
-    EXPECT_EQ(disk.read("/tmp/fresh"), "kept on the scratch folder");
-    EXPECT_FALSE(std::filesystem::exists("/tmp/fresh"));
+    EXPECT_EQ(disk.read(fresh), "kept on the scratch folder");
+    EXPECT_FALSE(std::filesystem::exists(fresh));
 
     for (const char* path : {"/Work/new", "/new/folder", "/Work/notes.txt"}) {
         EXPECT_FALSE(disk.makeFile(path, "x")) << path;
