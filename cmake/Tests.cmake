@@ -12,6 +12,7 @@ set(test_environment
 set(suite_links_platform platform)
 set(suite_links_views views)
 set(suite_links_desk desk)
+set(suite_links_live play)
 set(suite_links_default test_kit app desk play)
 
 # The suites' own code is compiled for a short build: it isn't what is measured, and the checks for undefined behaviour double its time.
@@ -48,6 +49,11 @@ foreach(directory IN LISTS test_directories)
 endforeach()
 
 if(TARGET desk_command)
+    if(TARGET tests_live)
+        # A real display and a real process: the suite starts both.
+        add_dependencies(tests_live desk_command)
+        target_compile_definitions(tests_live PRIVATE BRINDLE_DESK="$<TARGET_FILE:desk_command>")
+    endif()
     file(GLOB scenarios CONFIGURE_DEPENDS RELATIVE "${CMAKE_SOURCE_DIR}" "${CMAKE_SOURCE_DIR}/scenarios/*.desk")
     foreach(scenario IN LISTS scenarios)
         get_filename_component(name "${scenario}" NAME_WE)
@@ -57,4 +63,7 @@ if(TARGET desk_command)
         add_test(NAME scenario_${name} COMMAND desk_command --script "${CMAKE_SOURCE_DIR}/${scenario}" WORKING_DIRECTORY "${pictures}")
         set_tests_properties(scenario_${name} PROPERTIES LABELS scenario TIMEOUT 120 ENVIRONMENT "${test_environment}")
     endforeach()
+    # Random stories, the same at every run; `desk --soak SEED STEPS` tells others.
+    add_test(NAME soak COMMAND desk_command --soak 1 10000)
+    set_tests_properties(soak PROPERTIES LABELS scenario TIMEOUT 300 ENVIRONMENT "${test_environment}")
 endif()

@@ -95,6 +95,7 @@ std::optional<std::string> Disk::mount(const std::string& path, const std::strin
 std::optional<std::string> Disk::setMount(const std::string& path, const std::string& hostFolder, bool writable) {
     const std::optional<std::string> folder = host::existingFolder(hostFolder);
     if (!folder) return "no such folder: " + hostFolder;
+    ++changes;
     std::erase_if(mounts, [&](const Mount& mount) { return mount.path == path; });
     mounts.push_back({path, *folder, writable});
     std::stable_sort(mounts.begin(), mounts.end(),
@@ -159,14 +160,26 @@ std::optional<Disk::Place> Disk::walk(std::string_view path, Last last, Missing 
     return way.back();
 }
 
+// Where the way is straight, so that it needn't be walked step by step: scripts ask again and again for the folders and selections of all windows. Empty proves nothing.
+std::optional<platform::FileKind> Disk::plainKind(std::string_view path) const {
+    const bool isStandard = path.size() > 1 && path.front() == '/' && path.find("/.") == std::string_view::npos &&
+                            path.find("//") == std::string_view::npos && path.find('\0') == std::string_view::npos;
+    if (!isStandard || isMountOrParentOfOne(path)) return std::nullopt;
+    const Mount& mount = mountOf(path);
+    const auto kind = host::kindWithoutLinks(joined(mount.host, below(mount.path, path)));
+    if (!kind) return std::nullopt;
+    return kind == host::EntryKind::directory ? platform::FileKind::directory : platform::FileKind::file;
+}
+
 std::optional<platform::FileKind> Disk::kind(const std::string& path) const {
+    if (const auto plain = plainKind(path)) return plain;
     const auto place = walk(path, Last::followed, Missing::refused);
     if (!place) return std::nullopt;
     return place->isDirectory ? platform::FileKind::directory : platform::FileKind::file;
 }
 
 bool Disk::exists(const std::string& path) const {
-    return walk(path, Last::taken, Missing::refused).has_value();
+    return plainKind(path) || walk(path, Last::taken, Missing::refused);
 }
 
 std::optional<std::vector<DiskEntry>> Disk::list(const std::string& path) const {
@@ -203,6 +216,13 @@ std::optional<Disk::Attributes> Disk::attributes(const std::string& path) const 
     return status ? Attributes{status->size, status->modified} : Attributes{};
 }
 
+std::optional<Disk::Stamp> Disk::stamp(const std::string& path) const {
+    const auto place = walk(path, Last::followed, Missing::refused);
+    if (!place || !place->isDirectory) return std::nullopt;
+    const host::Status status = host::statusOf(place->host).value_or(host::Status{});
+    return Stamp{changes, status.identity, status.modified, status.changed};
+}
+
 std::optional<std::string> Disk::hostPath(const std::string& path) const {
     const auto place = walk(path, Last::followed, Missing::refused);
     if (!place || !host::kindOf(place->host)) return std::nullopt;
@@ -215,6 +235,7 @@ std::optional<std::string> Disk::read(const std::string& path) const {
 }
 
 void Disk::setUnreadable(const std::string& path) {
+    ++changes;
     if (const auto place = walk(path, Last::followed, Missing::allowed)) unreadable.insert(place->path);
 }
 
@@ -223,10 +244,13 @@ bool Disk::isWritable(const std::string& path) const {
     return place && mountOf(place->path).writable;
 }
 
-std::optional<Disk::Place> Disk::placeToWrite(const std::string& path, Last last) const {
-    const auto place = walk(path, last, Missing::allowed);
+std::optional<Disk::Place> Disk::placeToWrite(const std::string& path, Last last) {
+    auto place = walk(path, last, Missing::allowed);
     const bool allowed = place && mountOf(place->path).writable;
-    return allowed ? place : std::nullopt;
+    if (!allowed) return std::nullopt;
+    // Writing to a file that is there changes no list.
+    if (!place->exists || last == Last::taken) ++changes;
+    return place;
 }
 
 bool Disk::makeFolder(const std::string& path) {

@@ -41,6 +41,15 @@ public:
     bool exists(const std::string& path) const;
     // Empty when it is no folder or can't be listed; in the host's order. Names that aren't UTF-8 aren't listed. Mount points show as directories.
     std::optional<std::vector<DiskEntry>> list(const std::string& path) const;
+    // As long as it stays the same, so does list(). Costs one look at the folder; empty when it is none.
+    struct Stamp {
+        std::uint64_t changes = 0;
+        std::uint64_t identity = 0;
+        platform::Date modified;
+        platform::Date changed;
+        friend bool operator==(const Stamp&, const Stamp&) = default;
+    };
+    std::optional<Stamp> stamp(const std::string& path) const;
     struct Attributes {
         std::uint64_t size = 0;
         platform::Date modified;
@@ -83,12 +92,13 @@ private:
     enum class Last { followed, taken };
     enum class Missing { refused, allowed };
 
+    std::optional<platform::FileKind> plainKind(std::string_view path) const;
     std::optional<Place> walk(std::string_view path, Last last, Missing missing) const;
     Place root() const;
     Place placeIn(const Place& folder, std::string_view name) const;
     const Mount& mountOf(std::string_view path) const;
     bool isMountOrParentOfOne(std::string_view path) const;
-    std::optional<Place> placeToWrite(const std::string& path, Last last) const;
+    std::optional<Place> placeToWrite(const std::string& path, Last last);
     std::optional<std::string> setMount(const std::string& path, const std::string& hostFolder, bool writable);
     void addMountPoints(const std::string& path, std::vector<DiskEntry>& entries) const;
 
@@ -96,6 +106,8 @@ private:
     std::string homePath = "/Users/ana";
     std::vector<Mount> mounts;  // longest path first; the startup volume is the last
     std::set<std::string> unreadable;
+    // What the machine itself has made, removed, mounted: the host's clock is too coarse to tell two such changes apart.
+    std::uint64_t changes = 0;
 };
 
 }  // namespace desk

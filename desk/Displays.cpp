@@ -42,9 +42,14 @@ void Displays::add(const DisplayOptions& options) {
 }
 
 void Displays::removeAll() {
+    set({});
+}
+
+void Displays::set(std::vector<DisplayOptions> displays) {
     isDefault = false;
     list.clear();
-    made.clear();
+    for (const DisplayOptions& options : displays) list.push_back(screenOf(options));
+    made = std::move(displays);
     changed();
 }
 

@@ -27,6 +27,8 @@ public:
     // The first display added after the start replaces the default one; removeAll leaves none.
     void add(const DisplayOptions& options);
     void removeAll();
+    // All at once, in the place of what there was.
+    void set(std::vector<DisplayOptions> displays);
     // What the display was made with, in the order of screens().
     const std::vector<DisplayOptions>& options() const { return made; }
 

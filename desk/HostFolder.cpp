@@ -2,7 +2,9 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/openat2.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -46,6 +48,10 @@ EntryKind kindOfMode(mode_t mode) {
     return S_ISDIR(mode) ? EntryKind::directory : EntryKind::file;
 }
 
+platform::Date dateOf(const timespec& time) {
+    return platform::Date{std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec)};
+}
+
 EntryKind kindOfEntry(DIR* folder, const dirent& entry) {
     if (entry.d_type == DT_DIR) return EntryKind::directory;
     if (entry.d_type == DT_LNK) return EntryKind::link;
@@ -63,6 +69,16 @@ std::optional<EntryKind> kindOf(const std::string& path) {
     return kindOfMode(status.st_mode);
 }
 
+std::optional<EntryKind> kindWithoutLinks(const std::string& path) {
+    open_how how{};
+    how.flags = O_PATH | O_CLOEXEC;
+    how.resolve = RESOLVE_NO_SYMLINKS;
+    const Descriptor entry(static_cast<int>(::syscall(SYS_openat2, AT_FDCWD, path.c_str(), &how, sizeof how)));
+    struct stat status {};
+    if (entry.get() < 0 || ::fstat(entry.get(), &status) != 0) return std::nullopt;
+    return kindOfMode(status.st_mode);
+}
+
 std::optional<std::string> linkTarget(const std::string& path) {
     char target[4096];
     const ssize_t length = ::readlink(path.c_str(), target, sizeof target);
@@ -73,9 +89,8 @@ std::optional<std::string> linkTarget(const std::string& path) {
 std::optional<Status> statusOf(const std::string& path) {
     struct stat status {};
     if (::lstat(path.c_str(), &status) != 0) return std::nullopt;
-    const platform::Duration modified =
-        std::chrono::seconds(status.st_mtim.tv_sec) + std::chrono::nanoseconds(status.st_mtim.tv_nsec);
-    return Status{S_ISDIR(status.st_mode) ? 0 : static_cast<std::uint64_t>(status.st_size), platform::Date{modified}};
+    const std::uint64_t size = S_ISDIR(status.st_mode) ? 0 : static_cast<std::uint64_t>(status.st_size);
+    return Status{size, dateOf(status.st_mtim), status.st_ino, dateOf(status.st_ctim)};
 }
 
 bool list(const std::string& path, const std::function<void(std::string_view name, EntryKind kind)>& visit) {

@@ -14,11 +14,16 @@ namespace desk::host {
 enum class EntryKind { file, directory, link };
 
 std::optional<EntryKind> kindOf(const std::string& path);
+// The same at one stroke, whatever the length of the way; empty also when there is a link on it or in its place, or the host can't do it.
+std::optional<EntryKind> kindWithoutLinks(const std::string& path);
 std::optional<std::string> linkTarget(const std::string& path);
 
 struct Status {
     std::uint64_t size = 0;  // 0 of a folder
     platform::Date modified;
+    // Which entry it is, and when anything about it last changed, which nobody can set back.
+    std::uint64_t identity = 0;
+    platform::Date changed;
 };
 std::optional<Status> statusOf(const std::string& path);
 

@@ -3,7 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "desk/Dock.h"
 #include "desk/Machine.h"
+#include "desk/OtherWindowMouse.h"
+#include "desk/SpaceKeys.h"
+#include "desk/finder/FinderKeys.h"
+#include "desk/finder/FinderMouse.h"
+#include "desk/menus/MenuBar.h"
 
 namespace desk {
 
@@ -31,8 +37,16 @@ bool isPassive(const platform::NSWindow& window) {
 
 }  // namespace
 
-void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) {
+Input::Input(Machine& theMachine)
+    : machine(theMachine),
+      bar(std::make_unique<MenuBar>(theMachine)),
+      otherWindows(std::make_unique<OtherWindowMouse>(theMachine)) {}
+
+Input::~Input() = default;
+
+void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount, std::uint64_t modifiers) {
     location = point;
+    modifiersHeld = modifiers;
     machine.toolTips.dismiss();
     const bool isAlerts = isOnAlert(point);
     press = Press{{}, button, clickCount, isAlerts};
@@ -41,46 +55,80 @@ void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount) 
     pressAlertButton(point);
     if (target.owner != 0 && target.owner != ownerOf(key)) key = 0;
     press = Press{target, button, clickCount, isAlerts};
-    const bool isFinders = target.window != 0 && target.owner == machine.finder.pid();
-    if (isFinders && button == MouseButton::left)
-        machine.finder.mouseDown(target.window, point);
+    if (button == MouseButton::left)
+        pressLeft(target, {point, clickCount, modifiers});
     else
         bringForward(target);
     deliverMouse(eventsOf(button).down, target, clickCount);
 }
 
+void Input::pressLeft(const Target& target, const MousePress& mouse) {
+    if (target.window != 0 && target.owner == machine.finder.pid())
+        return machine.finder.mouse().mouseDown(target.window, mouse);
+    bringForward(target);
+    const ServerWindow* window = machine.windows.find(target.window);
+    if (window != nullptr && window->window == nullptr) otherWindows->mouseDown(*window, mouse.point);
+    if (target.owner != 0 || press->isAlerts) return;
+    bar->mouseDown(mouse.point);
+    pressedDockItem = dockItemAt(machine, mouse.point);
+}
+
+void Input::releaseLeft(const Target& target, const CGPoint& point) {
+    const auto dockItem = std::exchange(pressedDockItem, std::nullopt);
+    if (target.owner != 0 && target.owner == machine.finder.pid()) return machine.finder.mouse().mouseUp(point);
+    otherWindows->mouseUp(point);
+    if (dockItem && dockItem == dockItemAt(machine, point)) openDockItem(machine, dockItems(machine)[*dockItem]);
+}
+
 void Input::mouseDragged(const CGPoint& point) {
     location = point;
+    bar->mouseMoved(point);
     const Press held = press.value_or(Press{{}, MouseButton::left, 0, false});
     if (!held.isAlerts && menusTake(eventsOf(held.button).dragged, held.clickCount)) return;
     const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
-    if (isFinders && held.button == MouseButton::left) machine.finder.mouseDragged(point);
+    if (isFinders && held.button == MouseButton::left)
+        machine.finder.mouse().mouseDragged(point);
+    else
+        otherWindows->mouseDragged(point);
     deliverMouse(eventsOf(held.button).dragged, held.target, held.clickCount);
 }
 
 void Input::mouseUp(const CGPoint& point, MouseButton button) {
     location = point;
     const Press held = std::exchange(press, std::nullopt).value_or(Press{{}, button, 1, false});
-    if (!held.isAlerts && menusTake(eventsOf(button).up, held.clickCount)) return;
-    const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
-    if (isFinders && button == MouseButton::left) machine.finder.mouseUp(point);
-    deliverMouse(eventsOf(button).up, held.target, held.clickCount);
+    if (held.isAlerts || !menusTake(eventsOf(button).up, held.clickCount)) {
+        if (button == MouseButton::left) releaseLeft(held.target, point);
+        deliverMouse(eventsOf(button).up, held.target, held.clickCount);
+    }
+    modifiersHeld = 0;
 }
 
 void Input::mouseMoved(const CGPoint& point) {
     location = point;
     machine.toolTips.mouseMoved();
+    bar->mouseMoved(point);
     // Nobody's: only the copies are of interest.
     if (isOnAlert(point) || !menusTake(NSEventType::mouseMoved))
         offerToOthers(eventHere(NSEventType::mouseMoved, 0), targetAt(point).owner);
 }
 
-void Input::scrollWheel(const CGPoint& point, double deltaY) {
+void Input::scrollWheel(const CGPoint& point, double /*deltaX*/, double deltaY) {
     location = point;
     machine.toolTips.dismiss();
     NSEvent event = eventHere(NSEventType::scrollWheel, 0);
     event.scrollingDeltaY = deltaY;
-    if (!menusTake(event)) deliver(std::move(event), targetAt(point));
+    if (menusTake(event)) return;
+    const Target target = targetAt(point);
+    if (target.window != 0 && target.owner == machine.finder.pid())
+        machine.finder.mouse().scrollWheel(target.window, deltaY);
+    deliver(std::move(event), target);
+}
+
+CursorShape Input::cursorAt(const CGPoint& point) const {
+    if (isOnAlert(point) || machine.menus.covers(point)) return CursorShape::arrow;
+    const Target target = press && !press->isAlerts ? press->target : targetAt(point);
+    const bool isFinders = target.window != 0 && target.owner == machine.finder.pid();
+    return isFinders ? machine.finder.mouse().cursorAt(target.window, point) : CursorShape::arrow;
 }
 
 void Input::pressAlertButton(const CGPoint& point) {
@@ -109,10 +157,10 @@ Input::Target Input::targetAt(const CGPoint& point) const {
 
 bool Input::isMenuBarOrDock(const CGPoint& point) const {
     if (machine.windows.isFullScreenSpace()) return false;
+    if (isOnDock(machine, point)) return true;
     const auto& screens = machine.displays.screens();
     return std::any_of(screens.begin(), screens.end(), [&](const platform::NSScreen& screen) {
-        return platform::CGRectContainsPoint(screen.frame, point) &&
-               !platform::CGRectContainsPoint(screen.visibleFrame, point);
+        return platform::CGRectContainsPoint(screen.frame, point) && point.y >= screen.visibleFrame.maxY();
     });
 }
 
@@ -139,6 +187,7 @@ NSEvent Input::eventHere(NSEventType type, int clickCount) const {
     event.clickCount = clickCount;
     event.timestamp = machine.scheduler.now();
     event.locationInWindow = location;
+    event.modifierFlags = modifiersHeld;
     return event;
 }
 
@@ -168,11 +217,14 @@ bool Input::menusTake(const NSEvent& event) {
 
 void Input::keyDown(const KeyStroke& stroke) {
     machine.toolTips.dismiss();
-    deliverKey(NSEventType::keyDown, stroke);
+    if (isSpaceKey(stroke))
+        changeSpaceBy(machine, stroke);
+    else
+        deliverKey(NSEventType::keyDown, stroke);
 }
 
 void Input::keyUp(const KeyStroke& stroke) {
-    deliverKey(NSEventType::keyUp, stroke);
+    if (!isSpaceKey(stroke)) deliverKey(NSEventType::keyUp, stroke);
 }
 
 void Input::deliverKey(NSEventType type, const KeyStroke& stroke) {
@@ -184,6 +236,8 @@ void Input::deliverKey(NSEventType type, const KeyStroke& stroke) {
     if (menusTake(event)) return;
     const Process* frontmost = machine.processes.frontmost();
     const Target inFront{0, frontmost == nullptr ? 0 : frontmost->processIdentifier};
+    const bool isFinders = key == 0 && inFront.owner != 0 && inFront.owner == machine.finder.pid();
+    if (isFinders && type == NSEventType::keyDown) machine.finder.keys().keyDown(event);
     deliver(std::move(event), key != 0 ? Target{key, ownerOf(key)} : inFront);
 }
 

@@ -3,16 +3,21 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "desk/AlertLayout.h"
+#include "desk/WindowFrame.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"
 
 namespace desk {
 
 class Machine;
+class MenuBar;
+class OtherWindowMouse;
+struct MousePress;
 
 enum class MouseButton { left, right };
 
@@ -31,18 +36,23 @@ KeyStroke keyStrokeTyping(const std::string& character);
 
 class Input {
 public:
-    explicit Input(Machine& theMachine) : machine(theMachine) {}
+    explicit Input(Machine& theMachine);
+    ~Input();
 
     platform::CGPoint mouseLocation() const { return location; }
     // A mouse button is held.
     bool isPressed() const { return press.has_value(); }
+    std::optional<MouseButton> pressedButton() const { return press ? std::optional(press->button) : std::nullopt; }
 
-    void mouseDown(const platform::CGPoint& point, MouseButton button, int clickCount = 1);
+    // `modifiers` as in KeyStroke.
+    void mouseDown(const platform::CGPoint& point, MouseButton button, int clickCount = 1, std::uint64_t modifiers = 0);
     void mouseDragged(const platform::CGPoint& point);
     void mouseUp(const platform::CGPoint& point, MouseButton button);
     void mouseMoved(const platform::CGPoint& point);
-    // Positive: towards the beginning of what is scrolled.
-    void scrollWheel(const platform::CGPoint& point, double deltaY);
+    // How far the content moves, in points: to the right, and downward, which is towards its beginning.
+    void scrollWheel(const platform::CGPoint& point, double deltaX, double deltaY);
+    CursorShape cursorAt(const platform::CGPoint& point) const;
+    const MenuBar& menuBar() const { return *bar; }
     void keyDown(const KeyStroke& stroke);
     void keyUp(const KeyStroke& stroke);
 
@@ -67,6 +77,8 @@ private:
     bool isMenuBarOrDock(const platform::CGPoint& point) const;
     std::optional<AlertLayout> alertLayout() const;
     void pressAlertButton(const platform::CGPoint& point);
+    void pressLeft(const Target& target, const MousePress& mouse);
+    void releaseLeft(const Target& target, const platform::CGPoint& point);
     void bringForward(const Target& target);
     void deliverMouse(platform::NSEventType type, const Target& target, int clickCount);
     void deliverKey(platform::NSEventType type, const KeyStroke& stroke);
@@ -79,7 +91,11 @@ private:
     std::int32_t ownerOf(std::int64_t window) const;
 
     Machine& machine;
+    std::unique_ptr<MenuBar> bar;
+    std::unique_ptr<OtherWindowMouse> otherWindows;
+    std::optional<std::size_t> pressedDockItem;
     platform::CGPoint location;
+    std::uint64_t modifiersHeld = 0;  // from a press to its release
     std::int64_t key = 0;
     struct Press {
         Target target;  // has the mouse until the release, wherever that goes

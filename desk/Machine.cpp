@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "desk/KnownApplications.h"
 #include "platform/FileURL.h"
 
 namespace desk {
@@ -107,6 +108,27 @@ void Machine::openFiles(const std::vector<std::string>& paths, const std::string
     });
 }
 
+void Machine::openDocuments(const std::vector<std::string>& paths) {
+    if (const auto editor = knownEditor(disk)) openFiles(paths, *editor);
+}
+
+void Machine::openApplication(const std::string& applicationPath) {
+    const auto& all = processes.running();
+    const bool runs = std::any_of(all.begin(), all.end(),
+                                  [&](const Process& process) { return process.bundlePath == applicationPath; });
+    if (!runs && disk.kind(applicationPath) != platform::FileKind::directory) return;
+    if (!runs && startProgram && startProgram(applicationPath)) return;
+    const std::int32_t owner = processes.openApplication(applicationPath);
+    if (application(owner) == nullptr && !hasWindow(owner))
+        addForeignWindow(owner, processes.find(owner)->name, frameOfOtherWindow, platform::NSWindowOrderingMode::above);
+    activate(owner, true);
+}
+
+bool Machine::hasWindow(std::int32_t processIdentifier) const {
+    const auto all = windows.all();
+    return std::any_of(all.begin(), all.end(), [&](const auto* window) { return window->owner == processIdentifier; });
+}
+
 bool Machine::activate(const std::string& bundleIdentifier) {
     const Process* process = processes.findByBundleIdentifier(bundleIdentifier);
     if (process == nullptr) return false;
@@ -164,6 +186,11 @@ void Machine::frontmostHasChanged() {
 
 void Machine::notifyApplications(platform::WorkspaceNotification notification) {
     for (const auto& launched : running) launched->postWorkspaceNotification(notification);
+}
+
+void Machine::useRealTime(RealTime& realTime) {
+    scheduler.useRealTime(realTime);
+    start = scheduler.now();
 }
 
 void Machine::settle() {

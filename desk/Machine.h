@@ -1,9 +1,10 @@
-// The stand-in Mac: it owns the parts and the applications launched on it, and holds what connects several parts. Everything happens in virtual
-// time on one thread; after each thing done to it from outside, settle() runs what is due.
+// The stand-in Mac: it owns the parts and the applications launched on it, and holds what connects several parts. Everything happens on one
+// thread, in virtual time unless it is told otherwise; after each thing done to it from outside, settle() runs what is due.
 #pragma once
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -64,17 +65,26 @@ public:
     const std::vector<std::unique_ptr<Application>>& applications() const { return running; }
     Application* application(std::int32_t processIdentifier) const;
 
+    // Set by who has programs to run: starts the one of the bundle at that path; false leaves it to the desk to play the application.
+    std::function<bool(const std::string& bundlePath)> startProgram;
+
     // Another process with one ordinary window, behind all others.
     void startOtherProcess(const std::string& bundleIdentifier);
     // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front. Nothing happens when one of the
     // files or the application isn't there.
     void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
+    // Files with the application that documents belong to; nothing happens without one.
+    void openDocuments(const std::vector<std::string>& paths);
+    // The application at that path, as from the Dock: it is started if it doesn't run, has a window, and comes to the front with all it has.
+    void openApplication(const std::string& applicationPath);
     // By bundle identifier, all windows forward, as a person switches applications; false when it doesn't run.
     bool activate(const std::string& bundleIdentifier);
     // `allWindows` false brings only the main window forward.
     void activate(std::int32_t processIdentifier, bool allWindows);
     void switchToSpace(int space);
 
+    // From now on its time is the host's; see Scheduler.
+    void useRealTime(RealTime& realTime);
     void settle();
     void advance(platform::Duration duration);
     double secondsSinceStart() const;
@@ -90,6 +100,7 @@ private:
     void notifyApplications(platform::WorkspaceNotification notification);
     void frontmostHasChanged();
     std::int64_t mainWindow(std::int32_t processIdentifier) const;
+    bool hasWindow(std::int32_t processIdentifier) const;
     void addForeignWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
                           platform::NSWindowOrderingMode place);
 

@@ -126,7 +126,9 @@ QJsonObject panelOf(const Bar& bar, Session& session) {
     const FinderOverlayWindowController& controller = *bar.controller;
     const auto elements = elementsOf(controller);
     const DrawnCrumbs drawn = drawnCrumbs(controller, elements);
-    const platform::CGRect frame = controller.panel->frame();
+    // What is on screen, whatever the application takes it for.
+    const auto* shown = session.machine.windows.find(controller.panel->windowNumber());
+    const platform::CGRect frame = shown == nullptr ? controller.panel->frame() : shown->frame;
     const bool isConfirmed = std::any_of(elements.begin(), elements.end(), [](const AccessibilityElement& element) {
         return element.identifier == "copy" && element.value == "checkmark";
     });
@@ -136,7 +138,7 @@ QJsonObject panelOf(const Bar& bar, Session& session) {
     const auto& model = *controller.viewModel;
     return {{"id", jsonText(std::string_view(*bar.id))},
             {"frame", QJsonArray{frame.origin.x, frame.origin.y, frame.size.width, frame.size.height}},
-            {"level", controller.panel->level()},
+            {"level", shown == nullptr ? controller.panel->level() : shown->level},
             {"visible", controller.panel->isVisible()},
             {"key", controller.panel->isKeyWindow()},
             {"isActive", model.isActive.get()},
@@ -190,6 +192,19 @@ std::optional<platform::CGPoint> barPartPoint(const Session& session, std::int64
         return platform::CGPoint{element.frame.midX(), element.frame.midY()};
     }
     return std::nullopt;
+}
+
+bool showsPathField(const Session& session, std::int64_t panel) {
+    const auto bar = barWithPanel(session, panel);
+    return bar && fieldOf(*bar->controller) != nullptr;
+}
+
+std::vector<std::string> drawnCrumbIds(const Session& session, std::int64_t panel) {
+    std::vector<std::string> ids;
+    if (const auto bar = barWithPanel(session, panel))
+        for (const auto& element : elementsOf(*bar->controller))
+            if (element.identifier == "crumb") ids.push_back(element.key);
+    return ids;
 }
 
 QJsonArray panelsOf(Session& session) {

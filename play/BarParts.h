@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <QJsonArray>
 
@@ -26,6 +27,11 @@ bool barPartHasTitle(std::string_view part);
 // Where to click for that part, from the panel's top left corner, y downward; empty when the bar doesn't show it.
 std::optional<platform::CGPoint> barPartPoint(const Session& session, std::int64_t panel, std::string_view part,
                                               std::string_view title);
+
+// As it is drawn: edit mode shows with the end of the turn in which it begins, and goes with that in which it ends.
+bool showsPathField(const Session& session, std::int64_t panel);
+// What its crumbs show, left to right, as the items' identifiers.
+std::vector<std::string> drawnCrumbIds(const Session& session, std::int64_t panel);
 
 // The panels front to back, for the state.
 QJsonArray panelsOf(Session& session);

@@ -37,7 +37,7 @@ void requireDone(bool done, const std::string& message) {
 
 void tellNumber(ScriptPlayer& player, const std::optional<std::int64_t>& number) {
     requireDone(number.has_value(), "Finder didn't open the window");
-    player.output() << *number << '\n';
+    player.output() << *number << '\n' << std::flush;
 }
 
 void open(ScriptPlayer& player, const Arguments& arguments) {

@@ -1,3 +1,4 @@
+#include <ostream>
 #include <string>
 
 #include "play/Commands.h"
@@ -49,6 +50,13 @@ void click(ScriptPlayer& player, const Arguments& arguments) {
         player.then([&input, point = target.point, button, count] { input.mouseDown(point, button, count); });
         player.then([&input, point = target.point, button] { input.mouseUp(point, button); });
     }
+}
+
+// For whoever moves a real mouse.
+void where(ScriptPlayer& player, const Arguments& arguments) {
+    const Target target = readTarget(player, arguments);
+    arguments.requireCount(target.words, target.words);
+    player.output() << target.point.x << ' ' << target.point.y << '\n' << std::flush;
 }
 
 struct DragPlan {
@@ -131,7 +139,7 @@ void wait(ScriptPlayer& player, const Arguments& arguments) {
 const std::vector<Command>& inputCommands() {
     static const std::vector<Command> table{{"activate", activate}, {"space", switchSpace}, {"mouse", mouse},
                                             {"click", click},       {"drag", drag},         {"key", key},
-                                            {"type", type},         {"wait", wait}};
+                                            {"type", type},         {"wait", wait},         {"where", where}};
     return table;
 }
 

@@ -16,9 +16,32 @@ bool runCommand(const std::vector<Command>& table, std::string_view name, Script
     return false;
 }
 
+namespace {
+
+class TextSource final : public LineSource {
+public:
+    explicit TextSource(std::string_view text) : script(readScript(text)) {}
+
+    std::optional<ScriptLine> next() override {
+        if (position < script.lines.size()) return std::move(script.lines[position++]);
+        if (!script.error) return std::nullopt;
+        return ScriptLine{script.error->line, script.error->message, {}};
+    }
+
+private:
+    Script script;
+    std::size_t position = 0;
+};
+
+}  // namespace
+
 ScriptPlayer::ScriptPlayer(Session& theSession, std::string theFile, std::string_view scriptText,
                            std::ostream& theOutput, std::ostream& theErrors)
-    : stage(theSession), file(std::move(theFile)), script(readScript(scriptText)), out(theOutput), errors(theErrors) {
+    : ScriptPlayer(theSession, std::move(theFile), std::make_unique<TextSource>(scriptText), theOutput, theErrors) {}
+
+ScriptPlayer::ScriptPlayer(Session& theSession, std::string theFile, std::unique_ptr<LineSource> theSource,
+                           std::ostream& theOutput, std::ostream& theErrors)
+    : stage(theSession), file(std::move(theFile)), source(std::move(theSource)), out(theOutput), errors(theErrors) {
     machine().scheduler.setDriver(this);
 }
 
@@ -29,33 +52,35 @@ ScriptPlayer::~ScriptPlayer() {
 int ScriptPlayer::play() {
     machine().settle();
     while (step()) {}
-    return exitCode;
+    return code;
 }
 
 bool ScriptPlayer::step() {
-    if (exitCode != 0) return false;
-    if (parts.empty() && next == script.lines.size()) {
-        if (script.error) fail(2, script.error->line, script.error->message);
-        return false;
-    }
+    if (code != 0) return false;
     try {
-        runNext();
+        if (!runNext()) return false;
         machine().settle();
     } catch (const Failure& failure) {
-        fail(failure.exitCode, currentLine, failure.message);
+        if (!source->goesOnAfter(failure)) fail(failure.exitCode, currentLine, failure.message);
     }
-    return exitCode == 0;
+    return code == 0;
 }
 
-void ScriptPlayer::runNext() {
-    if (!parts.empty()) {
-        const auto part = std::move(parts.front());
-        parts.pop_front();
-        part();
-        return;
+bool ScriptPlayer::runNext() {
+    if (parts.empty()) {
+        const auto line = source->next();
+        if (line) run(*line);
+        return line.has_value();
     }
-    const ScriptLine& line = script.lines[next++];
+    const auto part = std::move(parts.front());
+    parts.pop_front();
+    part();
+    return true;
+}
+
+void ScriptPlayer::run(const ScriptLine& line) {
     currentLine = line.number;
+    if (line.words.empty()) badCommand(line.source);
     const Arguments arguments(line, 1);
     const std::string& name = line.words.front().text;
     for (const auto* table : {&machineCommands(), &finderCommands(), &inputCommands(), &checkCommands()})
@@ -63,9 +88,9 @@ void ScriptPlayer::runNext() {
     badCommand("unknown command: " + name);
 }
 
-void ScriptPlayer::fail(int code, int line, const std::string& message) {
-    if (exitCode != 0) return;
-    exitCode = code;
+void ScriptPlayer::fail(int exitCode, int line, const std::string& message) {
+    if (code != 0) return;
+    code = exitCode;
     parts.clear();
     errors << file << ':' << line << ": " << message << '\n';
 }

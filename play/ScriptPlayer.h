@@ -5,12 +5,13 @@
 #include <deque>
 #include <functional>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "desk/time/Scheduler.h"
 #include "play/Arguments.h"
-#include "play/ScriptReader.h"
+#include "play/LineSource.h"
 #include "play/Session.h"
 
 namespace play {
@@ -20,6 +21,9 @@ public:
     // Messages name the script as `theFile`.
     ScriptPlayer(Session& theSession, std::string theFile, std::string_view scriptText, std::ostream& theOutput,
                  std::ostream& theErrors);
+    // Plays what the source gives.
+    ScriptPlayer(Session& theSession, std::string theFile, std::unique_ptr<LineSource> theSource,
+                 std::ostream& theOutput, std::ostream& theErrors);
     ~ScriptPlayer() override;
 
     // Plays to the end or to the first failure, and answers the exit code.
@@ -27,6 +31,8 @@ public:
 
     // One command, or one part of a command that takes several.
     bool step() override;
+    // 0 until something has failed.
+    int exitCode() const { return code; }
 
     // For commands. A part runs as a step of its own, after what is due has run.
     Session& session() { return stage; }
@@ -37,18 +43,19 @@ public:
     std::int64_t finderWindow(const Arguments& arguments, std::size_t index);
 
 private:
-    void runNext();
-    void fail(int code, int line, const std::string& message);
+    // False at the end.
+    bool runNext();
+    void run(const ScriptLine& line);
+    void fail(int exitCode, int line, const std::string& message);
 
     Session& stage;
     std::string file;
-    Script script;
+    std::unique_ptr<LineSource> source;
     std::ostream& out;
     std::ostream& errors;
-    std::size_t next = 0;
     int currentLine = 0;
     std::deque<std::function<void()>> parts;
-    int exitCode = 0;
+    int code = 0;
 };
 
 }  // namespace play

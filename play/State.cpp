@@ -96,22 +96,9 @@ std::string nameOfOther(const desk::Machine& machine, std::int32_t owner) {
 }
 
 QJsonArray stacking(const Session& session) {
-    const desk::Machine& machine = session.machine;
-    QJsonArray names;
-    for (const auto* window : machine.windows.onScreen()) {
-        std::string name;
-        if (machine.finder.find(window->number) != nullptr) {
-            name = "finder " + std::to_string(window->number);
-        } else if (window->window == nullptr) {
-            name = "other " + nameOfOther(machine, window->owner);
-        } else if (const auto bar = barOfPanel(session, window->number)) {
-            name = "panel " + *bar;
-        } else {
-            name = "window " + window->window->settings().title;
-        }
-        names.append(jsonText(std::string_view(name)));
-    }
-    return names;
+    return arrayOf(session.machine.windows.onScreen(), [&](const desk::ServerWindow* window) {
+        return jsonText(std::string_view(nameInStacking(session, *window)));
+    });
 }
 
 QJsonValue alert(const desk::Machine& machine) {
@@ -186,6 +173,14 @@ QJsonArray log(const desk::Machine& machine) {
 }
 
 }  // namespace
+
+std::string nameInStacking(const Session& session, const desk::ServerWindow& window) {
+    const desk::Machine& machine = session.machine;
+    if (machine.finder.find(window.number) != nullptr) return "finder " + std::to_string(window.number);
+    if (window.window == nullptr) return "other " + nameOfOther(machine, window.owner);
+    if (const auto bar = barOfPanel(session, window.number)) return "panel " + *bar;
+    return "window " + window.window->settings().title;
+}
 
 QJsonObject stateOf(Session& session) {
     const desk::Machine& machine = session.machine;

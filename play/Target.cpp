@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "desk/AlertLayout.h"
-#include "desk/finder/FinderWindow.h"
+#include "desk/WindowFrame.h"
+#include "desk/finder/FinderBrowser.h"
 #include "play/BarParts.h"
 #include "play/Commands.h"
 #include "play/OpenMenus.h"
@@ -28,11 +29,47 @@ const desk::ServerWindow& visibleWindow(ScriptPlayer& player, std::int64_t numbe
     return *window;
 }
 
+using PartTest = bool (*)(desk::FinderPart part);
+
+bool isTitleBar(desk::FinderPart part) {
+    return part == desk::FinderPart::titleBar;
+}
+
+// A press there neither selects nor opens nor deselects.
+bool isStillContent(desk::FinderPart part) {
+    return part == desk::FinderPart::status || part == desk::FinderPart::header || part == desk::FinderPart::sidebar;
+}
+
+// The point of that window nearest to the wanted one where the part is such a one. The wanted one itself when something else covers it, which is pressed then, or when there is none.
+CGPoint nearestPoint(ScriptPlayer& player, const desk::ServerWindow& window, const CGPoint& wanted, PartTest isSuch) {
+    auto& machine = player.machine();
+    const desk::FinderWindow* folder = machine.finder.find(window.number);
+    const auto isSeen = [&](const CGPoint& point) { return machine.windows.windowAt(point) == &window; };
+    if (folder == nullptr || !isSeen(wanted)) return wanted;
+    const desk::FinderLayout layout = machine.finder.browser().layout(*folder);
+    const platform::CGSize size = window.frame.size;
+    const auto fits = [&](const CGPoint& point) {
+        const CGPoint inside = desk::insideWindow(window.frame, point);
+        return isSuch(layout.hit(inside).part) && !desk::windowButtonAt(inside, size) &&
+               !desk::windowEdgesAt(inside, size).any() && isSeen(point);
+    };
+    const double most = std::max(size.width, size.height);
+    for (double distance = 0; distance < most; distance += 1)
+        for (const CGPoint& way : {CGPoint{0, -1}, CGPoint{0, 1}, CGPoint{1, 0}, CGPoint{-1, 0}}) {
+            const CGPoint point{wanted.x + way.x * distance, wanted.y + way.y * distance};
+            if (fits(point)) return point;
+        }
+    return wanted;
+}
+
 Target windowPart(ScriptPlayer& player, const Arguments& words) {
-    const CGRect frame = visibleWindow(player, player.finderWindow(words, 0)).frame;
-    const double titleBar = frame.maxY() - desk::finderTitleBarHeight;
-    if (words.is(1, "titlebar")) return {{frame.midX(), titleBar + desk::finderTitleBarHeight / 2}, 3};
-    if (words.is(1, "content")) return {{frame.midX(), (frame.minY() + titleBar) / 2}, 3};
+    const desk::ServerWindow& window = visibleWindow(player, player.finderWindow(words, 0));
+    const CGRect& frame = window.frame;
+    const double titleBar = frame.maxY() - desk::windowTitleBarHeight;
+    const CGPoint title{frame.midX(), titleBar + desk::windowTitleBarHeight / 2};
+    const CGPoint content{frame.midX(), (frame.minY() + titleBar) / 2};
+    if (words.is(1, "titlebar")) return {nearestPoint(player, window, title, isTitleBar), 3};
+    if (words.is(1, "content")) return {nearestPoint(player, window, content, isStillContent), 3};
     badCommand("unknown part of a window: " + words.text(1));
 }
 

@@ -53,6 +53,8 @@ public:
 
     LiveGeometryState liveGeometryState() const;
     const Counts& counts() const { return tally; }
+    // Windows whose last state is kept, those on screen included.
+    std::size_t cachedWindowCount() const { return cachedWindowStates.size(); }
 
     // Front window first. Frames are AppKit space.
     platform::Published<std::vector<FinderWindowState>, FinderObserver> windows{*this, {}};

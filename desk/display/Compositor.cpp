@@ -4,10 +4,11 @@
 #include <QString>
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include "desk/Machine.h"
+#include "desk/display/CornerRounder.h"
 #include "desk/display/Scene.h"
-#include "desk/display/Visibility.h"
 #include "desk/display/WindowChrome.h"
 
 namespace desk {
@@ -16,19 +17,17 @@ namespace {
 
 using platform::CGRect;
 using platform::CGRectMake;
-using platform::NSScreen;
 
 constexpr QColor noScreen(0x0B, 0x0B, 0x0D);
 constexpr double mostPixels = 200e6;
 
-CGRect boundingBox(const std::vector<NSScreen>& screens) {
+CGRect boundingBox(const std::vector<CGRect>& screens) {
     if (screens.empty()) return CGRectMake(0, 0, 1, 1);
-    CGRect box = screens.front().frame;
-    for (const NSScreen& screen : screens) {
-        const double x = std::min(box.minX(), screen.frame.minX());
-        const double y = std::min(box.minY(), screen.frame.minY());
-        box = CGRectMake(x, y, std::max(box.maxX(), screen.frame.maxX()) - x,
-                         std::max(box.maxY(), screen.frame.maxY()) - y);
+    CGRect box = screens.front();
+    for (const CGRect& screen : screens) {
+        const double x = std::min(box.minX(), screen.minX());
+        const double y = std::min(box.minY(), screen.minY());
+        box = CGRectMake(x, y, std::max(box.maxX(), screen.maxX()) - x, std::max(box.maxY(), screen.maxY()) - y);
     }
     return box;
 }
@@ -48,6 +47,16 @@ Palette paletteOf(const Machine& machine) {
     return palette;
 }
 
+// What no one sees through: all but the corners, and a last row or column that is covered in part.
+QRegion opaquePart(const Scene& scene, const Layer& layer) {
+    QRect frame = scene.pixels(layer.frame);
+    const double radius = layer.cornerRadius * scene.scale;
+    const int corner = radius > 0 ? CornerRounder::squareSize(frame, radius) : 0;
+    frame.setWidth(static_cast<int>(layer.frame.width() * scene.scale));
+    frame.setHeight(static_cast<int>(layer.frame.height() * scene.scale));
+    return QRegion(frame.adjusted(corner, 0, -corner, 0)) + QRegion(frame.adjusted(0, corner, 0, -corner));
+}
+
 }  // namespace
 
 bool savePng(const QImage& image, const std::string& file) {
@@ -55,43 +64,112 @@ bool savePng(const QImage& image, const std::string& file) {
 }
 
 QImage Compositor::compose(Machine& machine, double scale) {
-    const std::vector<NSScreen>& screens = machine.displays.screens();
+    DesktopFrame frame;
+    update(machine, frame, scale);
+    return frame.image;
+}
+
+QRegion Compositor::update(Machine& machine, DesktopFrame& frame, double scale, const std::vector<Layer>& onTop) {
+    std::vector<CGRect> screens;
+    for (const platform::NSScreen& screen : machine.displays.screens()) screens.push_back(screen.frame);
+    std::vector<Layer> layers = desktopLayers.read(machine);
+    layers.insert(layers.end(), onTop.begin(), onTop.end());
+    dropPicturesBut(layers);
+
+    const Palette palette = paletteOf(machine);
     const CGRect box = boundingBox(screens);
-    QImage image = emptyPicture(box.size, scale, noScreen);
-    if (image.isNull()) return image;
-    QPainter target(&image);
-    Scene scene{image, target, paletteOf(machine), scale, {box.minX(), box.maxY()}};
-    QRegion lit;
-    for (const NSScreen& screen : screens) {
-        const QRect area = scene.pixels(screen.frame);
-        target.drawImage(area.topLeft(), desktop.image(area.size(), scene.palette.scheme));
-        lit += area;
+    QRegion damage;
+    if (frame.image.isNull() || frame.scale != scale || frame.palette != palette || frame.screens != screens) {
+        frame.image = emptyPicture(box.size, scale, noScreen);
+        frame.scale = scale;
+        frame.palette = palette;
+        frame.screens = screens;
+        damage = frame.image.rect();
+    } else {
+        const auto pixels = [&](const CGRect& place) { return pixelsOf(place, {box.minX(), box.maxY()}, scale); };
+        // A pixel more: frames between pixels are rounded one by one.
+        for (const CGRect& place : differences(frame.layers, layers))
+            damage += pixels(place).adjusted(-1, -1, 1, 1) & frame.image.rect();
     }
-    target.setClipRegion(lit);
-    paintWindows(machine, scene);
-    for (std::size_t i = 0; i < screens.size(); ++i) paintScreenFurniture(machine, scene, i);
-    paintMenus(machine, scene);
-    paintAlert(machine, scene);
-    return image;
+    frame.layers = std::move(layers);
+    if (frame.image.isNull() || damage.isEmpty()) return {};
+    paintLayers(machine, frame, damage);
+    ++paints.updates;
+    return damage;
+}
+
+void Compositor::paintLayers(Machine& machine, DesktopFrame& frame, const QRegion& region) {
+    const CGRect box = boundingBox(frame.screens);
+    QPainter target(&frame.image);
+    Scene scene{frame.image, target, frame.palette, frame.scale, {box.minX(), box.maxY()}};
+
+    QRegion lit;
+    for (const CGRect& screen : frame.screens) lit += scene.pixels(screen);
+    // Front to back, what each layer shows of what is left to paint.
+    QRegion left = region & lit;
+    std::vector<QRegion> parts(frame.layers.size());
+    for (std::size_t i = frame.layers.size(); i-- > 0 && !left.isEmpty();) {
+        const Layer& layer = frame.layers[i];
+        parts[i] = left & scene.pixels(layer.extent()).adjusted(-1, -1, 1, 1);
+        if (layer.isOpaque) left -= opaquePart(scene, layer);
+    }
+    for (const CGRect& screen : frame.screens) {
+        const QRect area = scene.pixels(screen);
+        target.setClipRegion(left & area);
+        target.drawImage(area.topLeft(), desktop.image(area.size(), scene.palette.scheme));
+    }
+    for (std::size_t i = 0; i < frame.layers.size(); ++i) {
+        if (parts[i].isEmpty()) continue;
+        target.setClipRegion(parts[i]);
+        paintLayer(machine, scene, frame.layers[i]);
+    }
+}
+
+void Compositor::paintLayer(Machine& machine, Scene& scene, const Layer& layer) {
+    if (layer.popover) {
+        paintPopover(scene, layer);
+        return;
+    }
+    const QImage* content =
+        layer.content ? picture(machine, layer.content->window, scene.palette, scene.scale) : nullptr;
+    if (layer.content && content == nullptr) return;
+    const QRect frame = scene.pixels(layer.frame);
+    const auto paintDrawing = [&](const SharedDrawing& drawing) {
+        if (drawing) painter.paint(scene.painter, *drawing, scene.palette, scene.scale, frame.topLeft());
+    };
+    if (layer.shadow) shadow.paint(scene.painter, frame, *layer.shadow, scene.scale);
+    std::optional<CornerRounder> rounder;
+    if (layer.cornerRadius > 0) rounder.emplace(scene.image, frame, layer.cornerRadius * scene.scale);
+    paintDrawing(layer.background);
+    if (content != nullptr)
+        scene.painter.drawImage(QPoint(frame.left(), frame.bottom() + 1 - content->height()), *content);
+    if (rounder) rounder->restore(scene.painter);
+    paintDrawing(layer.foreground);
 }
 
 QImage Compositor::composeWindow(Machine& machine, std::int64_t number, double scale) {
-    const ServerWindow* window = machine.windows.find(number);
-    if (window == nullptr || window->window == nullptr || window->window->contentView() == nullptr) return {};
-    const QImage* kept = picture(*window, paletteOf(machine), scale);
+    const QImage* kept = picture(machine, number, paletteOf(machine), scale);
     return kept == nullptr ? QImage() : *kept;
 }
 
+void Compositor::dropPicturesBut(const std::vector<Layer>& layers) {
+    std::set<std::int64_t> shown;
+    for (const Layer& layer : layers) shown.insert(layer.id);
+    std::erase_if(pictures, [&](const auto& entry) { return !shown.contains(entry.first); });
+}
+
 // Empty when the window is too small or too large for a picture.
-const QImage* Compositor::picture(const ServerWindow& window, const Palette& palette, double scale) {
-    platform::ContentView& content = *window.window->contentView();
-    const platform::WindowSettings& settings = window.window->settings();
+const QImage* Compositor::picture(Machine& machine, std::int64_t number, const Palette& palette, double scale) {
+    const ServerWindow* window = machine.windows.find(number);
+    if (window == nullptr || window->window == nullptr || window->window->contentView() == nullptr) return nullptr;
+    platform::ContentView& content = *window->window->contentView();
+    const platform::WindowSettings& settings = window->window->settings();
     const double titleBar = (settings.styleMask & platform::NSWindowStyleMask::titled) != 0 ? windowTitleBarHeight : 0;
-    const platform::CGSize size{window.frame.width(), window.frame.height() - titleBar};
+    const platform::CGSize size{window->frame.width(), window->frame.height() - titleBar};
     const platform::Drawing& drawing = content.drawing();
     const std::uint64_t version = content.drawingVersion();
 
-    Picture& kept = pictures[window.number];
+    Picture& kept = pictures[number];
     const QSize pixels(static_cast<int>(std::lround(size.width * scale)),
                        static_cast<int>(std::lround(size.height * scale)));
     if (kept.image.size() == pixels && kept.version == version && kept.palette == palette && kept.scale == scale &&

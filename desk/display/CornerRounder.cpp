@@ -19,7 +19,7 @@ RoundedCorner cornerOf(const QRect& window, double radius) {
 
 CornerRounder::CornerRounder(const QImage& target, const QRect& window, double radius)
     : frame(window), cornerRadius(radius) {
-    const int size = static_cast<int>(std::ceil(cornerOf(window, radius).extent));
+    const int size = squareSize(window, radius);
     const int right = window.right() + 1 - size;
     const int bottom = window.bottom() + 1 - size;
     const std::array<QPoint, 4> places{window.topLeft(), QPoint(right, window.top()), QPoint(window.left(), bottom),
@@ -30,6 +30,10 @@ CornerRounder::CornerRounder(const QImage& target, const QRect& window, double r
         corners[i].behind =
             target.copy(QRect(places[i], QSize(size, size))).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
+}
+
+int CornerRounder::squareSize(const QRect& window, double radius) {
+    return static_cast<int>(std::ceil(cornerOf(window, radius).extent));
 }
 
 void CornerRounder::restore(QPainter& painter) const {

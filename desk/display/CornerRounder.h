@@ -16,6 +16,8 @@ public:
     // `target` is what the painter paints onto; all in device pixels.
     CornerRounder(const QImage& target, const QRect& window, double radius);
     void restore(QPainter& painter) const;
+    // Of the squares at the corners, in which something of what is behind is seen.
+    static int squareSize(const QRect& window, double radius);
 
 private:
     struct Corner {

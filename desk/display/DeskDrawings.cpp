@@ -14,12 +14,7 @@ using platform::CGRectMake;
 using platform::CGSize;
 using platform::Color;
 using platform::ColorRole;
-using platform::Font;
 using platform::FontWeight;
-
-constexpr Font menuBarFont{13, FontWeight::regular};
-constexpr Font applicationFont{13, FontWeight::bold};
-constexpr double menuBarPadding = 10;
 
 }  // namespace
 
@@ -33,33 +28,30 @@ void drawMenuBar(DrawingBuilder& builder, CGSize size, const MenuBarContent& con
     builder.text(content.clock, menuBarFont, ink, clock);
     builder.symbol("magnifyingglass", {12, FontWeight::medium}, ink, glass);
 
-    double x = 42;
-    const auto title = [&](const std::string& text, Font font) {
-        const double width = builder.width(text, font);
-        if (x + width + menuBarPadding > glass.minX()) return false;
-        builder.text(text, font, ink, CGRectMake(x, 0, width, size.height));
-        x += width + 2 * menuBarPadding;
-        return true;
-    };
-    if (!title(content.application, applicationFont)) return;
-    for (const std::string& menu : content.menus)
-        if (!title(menu, menuBarFont)) return;
+    for (const MenuBarTitle& title : content.titles) {
+        const bool isFirst = &title == &content.titles.front();
+        if (title.isOpen) builder.fill(CGRectInset(title.box, 0, 2), Color::of(ColorRole::primary, 0.12), 4);
+        builder.text(title.text, isFirst ? menuBarApplicationFont : menuBarFont, ink, title.box, TextAlignment::center);
+    }
 }
 
 void drawDock(DrawingBuilder& builder, CGSize size, const std::vector<DockItem>& items) {
-    const double height = size.height - 8;
-    const double icon = std::floor(height - 16);
-    if (icon < 8 || items.empty()) return;
-    const double gap = 8;
-    const double width = static_cast<double>(items.size()) * (icon + gap) + gap;
-    const CGRect plate = CGRectMake(std::floor((size.width - width) / 2), 2, width, height);
-    builder.fill(plate, builder.shade(0xF2F2F6, 0x2A2A2E, 0.62), height * 0.3);
-    builder.border(plate, builder.shade(0xFFFFFF, 0xFFFFFF, builder.isDark() ? 0.16 : 0.5), 0.5, height * 0.3);
-    double x = plate.minX() + gap;
-    for (const DockItem& item : items) {
-        drawApplicationIcon(builder, CGRectMake(x, plate.minY() + 6, icon, icon), item.name);
-        if (item.isRunning) builder.circle({x + icon / 2, plate.maxY() - 4.5}, 4, Color::of(ColorRole::primary, 0.6));
-        x += icon + gap;
+    const DockLayout layout(size, items);
+    const CGRect& plate = layout.plate;
+    if (layout.icons.empty()) return;
+    builder.fill(plate, builder.shade(0xF2F2F6, 0x2A2A2E, 0.62), plate.height() * 0.3);
+    builder.border(plate, builder.shade(0xFFFFFF, 0xFFFFFF, builder.isDark() ? 0.16 : 0.5), 0.5, plate.height() * 0.3);
+    if (layout.divider)
+        builder.fill(CGRectMake(*layout.divider, plate.minY() + 10, 0.5, plate.height() - 20),
+                     Color::of(ColorRole::primary, 0.25));
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const CGRect& icon = layout.icons[i];
+        if (items[i].window != 0)
+            drawWindowIcon(builder, icon);
+        else
+            drawApplicationIcon(builder, icon, items[i].name);
+        if (items[i].isRunning)
+            builder.circle({icon.midX(), plate.maxY() - 4.5}, 4, Color::of(ColorRole::primary, 0.6));
     }
 }
 
@@ -88,15 +80,16 @@ void drawAlert(DrawingBuilder& builder, const SystemAlert& alert, const AlertLay
     drawWindowEdge(builder, frame.size);
 }
 
-void drawOtherWindow(DrawingBuilder& builder, CGSize size, std::string_view title, std::string_view bundleIdentifier,
-                     WindowLook look) {
+void drawOtherWindow(DrawingBuilder& builder, CGSize size, std::string_view title, std::string_view application,
+                     std::string_view note, WindowLook look) {
     drawPlainWindow(builder, size, title, look);
     const double middle = (size.height + windowTitleBarHeight) / 2;
     const double icon = 96;
     if (middle - icon > windowTitleBarHeight)
-        drawApplicationIcon(
-            builder, CGRectMake(std::floor((size.width - icon) / 2), std::floor(middle - icon), icon, icon), title);
-    builder.text(bundleIdentifier, menuBarFont, Color::of(ColorRole::secondary),
+        drawApplicationIcon(builder,
+                            CGRectMake(std::floor((size.width - icon) / 2), std::floor(middle - icon), icon, icon),
+                            application);
+    builder.text(note, menuBarFont, Color::of(ColorRole::secondary),
                  CGRectMake(20, middle + 12, std::max(0.0, size.width - 40), 20), TextAlignment::center);
     drawWindowEdge(builder, size);
 }

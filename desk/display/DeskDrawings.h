@@ -6,22 +6,18 @@
 #include <vector>
 
 #include "desk/AlertLayout.h"
+#include "desk/Dock.h"
 #include "desk/Permissions.h"
 #include "desk/display/DrawingBuilder.h"
 #include "desk/display/WindowChrome.h"
+#include "desk/menus/MenuBar.h"
 #include "platform/Geometry.h"
 
 namespace desk {
 
 struct MenuBarContent {
-    std::string application;
-    std::vector<std::string> menus;
+    std::vector<MenuBarTitle> titles;
     std::string clock;
-};
-
-struct DockItem {
-    std::string name;
-    bool isRunning = false;
 };
 
 void drawMenuBar(DrawingBuilder& builder, platform::CGSize size, const MenuBarContent& content);
@@ -29,7 +25,8 @@ void drawMenuBar(DrawingBuilder& builder, platform::CGSize size, const MenuBarCo
 void drawDock(DrawingBuilder& builder, platform::CGSize size, const std::vector<DockItem>& items);
 // The alert's own rectangle at (0, 0); places its buttons as the layout says.
 void drawAlert(DrawingBuilder& builder, const SystemAlert& alert, const AlertLayout& layout);
+// With the application's icon, and its name or identifier.
 void drawOtherWindow(DrawingBuilder& builder, platform::CGSize size, std::string_view title,
-                     std::string_view bundleIdentifier, WindowLook look);
+                     std::string_view application, std::string_view note, WindowLook look);
 
 }  // namespace desk

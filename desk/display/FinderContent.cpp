@@ -1,29 +1,16 @@
 #include "desk/display/FinderContent.h"
 
-#include <unicode/coll.h>
-#include <unicode/stringpiece.h>
-
 #include <algorithm>
-#include <cmath>
-#include <memory>
 #include <string_view>
-#include <utility>
+#include <unordered_map>
 
-#include "desk/display/FinderMetrics.h"
 #include "desk/display/FinderWords.h"
+#include "desk/finder/FinderBrowser.h"
+#include "platform/FileURL.h"
 
 namespace desk {
 
 namespace {
-
-std::string childPath(const std::string& folder, const std::string& name) {
-    return folder == "/" ? "/" + name : folder + "/" + name;
-}
-
-std::string lastComponent(const std::string& path) {
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string::npos || path.size() == 1 ? path : path.substr(slash + 1);
-}
 
 FinderItem describe(const Disk& disk, const std::string& path, const DiskEntry& entry, platform::Date now) {
     FinderItem item;
@@ -47,76 +34,39 @@ FinderItem describe(const Disk& disk, const std::string& path, const DiskEntry& 
 
 }  // namespace
 
-// Names as Finder orders them: numbers by value, letters without regard to case before with.
-class FinderContentReader::NameOrder {
-public:
-    NameOrder() {
-        UErrorCode status = U_ZERO_ERROR;
-        collator.reset(icu::Collator::createInstance(icu::Locale::getRoot(), status));
-        if (U_FAILURE(status)) collator.reset();
-        if (collator != nullptr) collator->setAttribute(UCOL_NUMERIC_COLLATION, UCOL_ON, status);
-    }
-
-    bool operator()(const DiskEntry& a, const DiskEntry& b) const {
-        if (collator == nullptr) return a.name < b.name;
-        UErrorCode status = U_ZERO_ERROR;
-        const UCollationResult result = collator->compareUTF8(piece(a.name), piece(b.name), status);
-        return result == UCOL_EQUAL ? a.name < b.name : result == UCOL_LESS;
-    }
-
-private:
-    static icu::StringPiece piece(const std::string& name) {
-        return {name.data(), static_cast<std::int32_t>(name.size())};
-    }
-
-    std::unique_ptr<icu::Collator> collator;
-};
-
-FinderContentReader::FinderContentReader() : order(std::make_unique<NameOrder>()) {}
-
-FinderContentReader::~FinderContentReader() = default;
-
-// Those in sight first; the others follow in any order.
-std::vector<DiskEntry> FinderContentReader::inOrder(std::vector<DiskEntry> entries, std::size_t count) const {
-    std::erase_if(entries, [](const DiskEntry& entry) { return entry.isHidden; });
-    const auto inSight = static_cast<std::ptrdiff_t>(std::min(count, entries.size()));
-    std::partial_sort(entries.begin(), entries.begin() + inSight, entries.end(),
-                      [this](const DiskEntry& a, const DiskEntry& b) { return (*order)(a, b); });
-    return entries;
-}
-
-std::size_t rowsInSight(double windowHeight) {
-    const double room = windowHeight - windowTitleBarHeight - finderHeaderHeight - finderStatusHeight;
-    return room > 0 ? static_cast<std::size_t>(std::ceil(room / finderRowHeight)) : 0;
-}
-
-FinderContent FinderContentReader::read(const Disk& disk, const FinderWindow& window, platform::CGSize size,
-                                        WindowLook look, platform::Date now) const {
+FinderContent finderContent(FinderBrowser& browser, const Disk& disk, const FinderWindow& window, WindowLook look,
+                            platform::Date now) {
+    const FinderListing& list = browser.listing(window);
+    const FinderLayout layout = browser.layout(window);
     FinderContent content;
     content.title = window.name;
-    content.home = disk.home();
-    content.size = size;
+    content.path = window.target.value_or("");
+    content.size = layout.size();
     content.look = look;
+    content.places = browser.places();
+    content.itemCount = list.count();
     content.selectedCount = window.selection.size();
-    if (!window.target) return content;
-    content.path = *window.target;
-    std::optional<std::vector<DiskEntry>> listed = disk.list(content.path);
-    content.isReadable = listed.has_value();
-    if (!listed) return content;
-    const std::vector<DiskEntry> entries = inOrder(std::move(*listed), rowsInSight(size.height));
-    content.itemCount = entries.size();
-    for (std::size_t i = 0; i < std::min(rowsInSight(size.height), entries.size()); ++i) {
-        const std::string path = childPath(content.path, entries[i].name);
-        FinderItem item = describe(disk, path, entries[i], now);
-        item.isSelected = std::find(window.selection.begin(), window.selection.end(), path) != window.selection.end();
-        content.items.push_back(std::move(item));
+    content.scrolled = layout.scrolled();
+    content.band = browser.band(window);
+    content.isReadable = list.isReadable();
+    content.canGoBack = browser.canGoBack(window.number);
+    content.canGoForward = browser.canGoForward(window.number);
+    const std::size_t end = std::min(layout.firstRow() + layout.rowsInSight(), list.count());
+    std::unordered_map<std::string, std::size_t> inSight;
+    for (std::size_t row = layout.firstRow(); row < end; ++row) {
+        const std::string path = list.pathOf(row);
+        inSight.emplace(path, content.items.size());
+        content.items.push_back(describe(disk, path, list.entries()[row], now));
     }
+    for (const std::string& path : window.selection)
+        if (const auto found = inSight.find(path); found != inSight.end())
+            content.items[found->second].isSelected = true;
     return content;
 }
 
 FinderItem finderItem(const Disk& disk, const std::string& path, platform::Date now) {
     DiskEntry entry;
-    entry.name = lastComponent(path);
+    entry.name = platform::lastPathComponent(path);
     entry.isDirectory = disk.kind(path) == platform::FileKind::directory;
     const std::string_view name = entry.name;
     entry.isPackage = entry.isDirectory && name.size() > 4 && name.substr(name.size() - 4) == ".app";

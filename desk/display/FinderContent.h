@@ -1,20 +1,23 @@
-// What a folder window of Finder shows at one moment, as plain words: read from the disk, compared to tell whether the window looks different, and drawn by
-// FinderWindowDrawing. Lists no further than what the window has room for.
+// What a folder window of Finder shows at one moment, as plain words: taken from Finder and the disk, compared to tell whether the window looks different, and drawn by
+// FinderWindowDrawing. Of the list it holds no more than what is in sight.
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "desk/Disk.h"
 #include "desk/display/WindowChrome.h"
+#include "desk/finder/FinderLayout.h"
+#include "desk/finder/FinderPlaces.h"
 #include "desk/finder/FinderWindow.h"
 #include "platform/Geometry.h"
 #include "platform/Time.h"
 
 namespace desk {
+
+class FinderBrowser;
 
 enum class ItemIcon { folder, document, application };
 
@@ -31,32 +34,22 @@ struct FinderItem {
 struct FinderContent {
     std::string title;
     std::string path;  // empty of a virtual location
-    std::string home;
     platform::CGSize size;
     WindowLook look = WindowLook::inactive;
-    std::vector<FinderItem> items;  // those in sight, in Finder's order
+    std::vector<FinderPlace> places;
+    std::vector<FinderItem> items;  // from the first row in sight on
     std::size_t itemCount = 0;
     std::size_t selectedCount = 0;
+    double scrolled = 0;
+    std::optional<platform::CGRect> band;  // being dragged open, in the whole list
     bool isReadable = true;
+    bool canGoBack = false;
+    bool canGoForward = false;
     friend bool operator==(const FinderContent&, const FinderContent&) = default;
 };
 
-// How many rows a window of that height shows.
-std::size_t rowsInSight(double windowHeight);
-
-class FinderContentReader {
-public:
-    FinderContentReader();
-    ~FinderContentReader();
-    FinderContent read(const Disk& disk, const FinderWindow& window, platform::CGSize size, WindowLook look,
-                       platform::Date now) const;
-
-private:
-    class NameOrder;
-    std::vector<DiskEntry> inOrder(std::vector<DiskEntry> entries, std::size_t count) const;
-
-    std::unique_ptr<NameOrder> order;
-};
+FinderContent finderContent(FinderBrowser& browser, const Disk& disk, const FinderWindow& window, WindowLook look,
+                            platform::Date now);
 
 // One item by itself, for an info panel.
 FinderItem finderItem(const Disk& disk, const std::string& path, platform::Date now);

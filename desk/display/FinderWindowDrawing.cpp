@@ -4,7 +4,6 @@
 #include <array>
 #include <string>
 
-#include "desk/display/FinderMetrics.h"
 #include "desk/display/Icons.h"
 
 namespace desk {
@@ -25,21 +24,6 @@ constexpr Font headerFont{11, FontWeight::medium};
 constexpr double iconSize = 16;
 constexpr double listInset = 10;
 constexpr double cellPadding = 8;
-
-struct Favourite {
-    const char* name;
-    const char* symbol;
-    const char* path;  // "~" stands for the home folder
-};
-constexpr std::array favourites{
-    Favourite{"Recents", "clock", ""},
-    Favourite{"Applications", "square.grid.2x2", "/Applications"},
-    Favourite{"Desktop", "desktopcomputer", "~/Desktop"},
-    Favourite{"Documents", "doc", "~/Documents"},
-    Favourite{"Downloads", "arrow.down.circle", "~/Downloads"},
-    Favourite{"ana", "house", "~"},
-};
-constexpr std::array locations{Favourite{"Macintosh HD", "internaldrive", "/"}};
 
 struct Column {
     const char* title;
@@ -62,7 +46,8 @@ public:
           content(theContent),
           width(content.size.width),
           height(content.size.height),
-          left(width >= finderSidebarThreshold ? finderSidebarWidth : 0) {}
+          layout(content.size, countsOf(content), content.scrolled),
+          left(layout.sidebarWidth()) {}
 
     void run() {
         draw.fill(CGRectMake(left, windowTitleBarHeight, width - left, height - windowTitleBarHeight),
@@ -72,27 +57,38 @@ public:
         rows();
         status();
         sidebar();
-        drawTrafficLights(draw, content.look);
+        drawTrafficLights(draw, content.size, content.look);
         drawWindowEdge(draw, content.size);
     }
 
 private:
+    static FinderCounts countsOf(const FinderContent& content) {
+        const auto volumes = static_cast<std::size_t>(std::count_if(
+            content.places.begin(), content.places.end(), [](const FinderPlace& place) { return place.isVolume; }));
+        return {content.itemCount, content.places.size() - volumes, volumes};
+    }
+
     bool isActive() const { return content.look == WindowLook::active; }
 
     void titleBar() {
         draw.fill(CGRectMake(left, 0, width - left, windowTitleBarHeight), titleBarColor(draw, content.look));
         draw.fill(CGRectMake(left, windowTitleBarHeight - 0.5, width - left, 0.5), Color::of(ColorRole::separator));
-        double x = left > 0 ? left + 12 : trafficLightsWidth;
-        for (const char* symbol : {"chevron.left", "chevron.right"}) {
-            draw.symbol(symbol, {12, FontWeight::medium}, Color::of(ColorRole::tertiary),
-                        CGRectMake(x, 0, 16, windowTitleBarHeight));
-            x += 20;
-        }
+        double x = left > 0 ? left + 12 : windowButtonsWidth;
+        arrow("chevron.left", layout.back(), content.canGoBack, x);
+        arrow("chevron.right", layout.forward(), content.canGoForward, x);
         drawFolderIcon(draw, CGRectMake(x + 4, (windowTitleBarHeight - iconSize) / 2, iconSize, iconSize));
         x += 4 + iconSize + 6;
         if (width - x - 12 > 0)
             draw.text(content.title, {13, FontWeight::semibold}, titleColor(content.look),
                       CGRectMake(x, 0, width - x - 12, windowTitleBarHeight));
+    }
+
+    void arrow(const char* symbol, const CGRect& box, bool leadsSomewhere, double& x) {
+        if (!(box.width() > 0)) return;
+        const Color ink =
+            Color::of(leadsSomewhere ? ColorRole::secondary : ColorRole::tertiary, leadsSomewhere ? 1 : 0.6);
+        draw.symbol(symbol, {12, FontWeight::medium}, ink, CGRectMake(box.minX(), 0, 16, windowTitleBarHeight));
+        x = box.maxX();
     }
 
     void sidebar() {
@@ -101,30 +97,27 @@ private:
         draw.beginClip(area);
         draw.fill(area, isActive() ? draw.shade(0xE6E5E9, 0x2B2A2E) : draw.shade(0xF0EFF1, 0x262528));
         draw.fill(CGRectMake(left - 0.5, 0, 0.5, height), Color::of(ColorRole::separator));
-        double y = windowTitleBarHeight + 8;
-        section("Favourites", favourites.begin(), favourites.end(), y);
-        y += 10;
-        section("Locations", locations.begin(), locations.end(), y);
+        sectionTitle("Favourites", FinderLayout::Section::favourites);
+        sectionTitle("Locations", FinderLayout::Section::volumes);
+        for (std::size_t index = 0; index < content.places.size(); ++index)
+            place(content.places[index], layout.place(index));
         draw.endClip();
     }
 
-    void section(const char* title, const Favourite* first, const Favourite* last, double& y) {
-        draw.text(title, {11, FontWeight::semibold}, Color::of(ColorRole::tertiary), CGRectMake(18, y, left - 30, 20));
-        y += 22;
-        for (const Favourite* each = first; each != last; ++each) {
-            const CGRect row = CGRectMake(10, y, left - 20, 26);
-            if (pathOf(*each) == content.path) draw.fill(row, draw.shade(0x000000, 0xFFFFFF, 0.09), 5);
-            const Color tint = isActive() ? Color::of(ColorRole::accent) : Color::of(ColorRole::secondary);
-            draw.symbol(each->symbol, listFont, tint, CGRectMake(16, y, 20, 26));
-            draw.text(each->name, listFont, Color::of(isActive() ? ColorRole::primary : ColorRole::secondary),
-                      CGRectMake(42, y, left - 56, 26));
-            y += 26;
-        }
+    void sectionTitle(const char* title, FinderLayout::Section section) {
+        const CGRect box = layout.sectionTitle(section);
+        draw.text(title, {11, FontWeight::semibold}, Color::of(ColorRole::tertiary),
+                  CGRectMake(18, box.minY(), left - 30, box.height()));
     }
 
-    std::string pathOf(const Favourite& favourite) const {
-        const std::string path = favourite.path;
-        return path.empty() || path[0] != '~' ? path : content.home + path.substr(1);
+    void place(const FinderPlace& place, const CGRect& row) {
+        const bool isShown =
+            place.path ? *place.path == content.path : content.path.empty() && place.name == content.title;
+        if (isShown) draw.fill(row, draw.shade(0x000000, 0xFFFFFF, 0.09), 5);
+        const Color tint = isActive() ? Color::of(ColorRole::accent) : Color::of(ColorRole::secondary);
+        draw.symbol(place.symbol, listFont, tint, CGRectMake(16, row.minY(), 20, row.height()));
+        draw.text(place.name, listFont, Color::of(isActive() ? ColorRole::primary : ColorRole::secondary),
+                  CGRectMake(42, row.minY(), left - 56, row.height()));
     }
 
     // The column's cell in a row whose top is y; nothing for a hidden column.
@@ -145,31 +138,37 @@ private:
     }
 
     void header() {
-        const double y = windowTitleBarHeight;
+        const double y = layout.header().minY();
+        const double headerHeight = layout.header().height();
         for (const Column& column : columns) {
-            const CGRect box = cell(column, y, finderHeaderHeight);
+            const CGRect box = cell(column, y, headerHeight);
             if (!(box.width() > 0)) continue;
             draw.text(column.title, headerFont, Color::of(ColorRole::secondary), box, column.alignment);
             if (&column != &columns.front())
-                draw.fill(CGRectMake(box.minX() - cellPadding, y + 6, 0.5, finderHeaderHeight - 12),
+                draw.fill(CGRectMake(box.minX() - cellPadding, y + 6, 0.5, headerHeight - 12),
                           Color::of(ColorRole::separator));
         }
-        draw.fill(CGRectMake(left, y + finderHeaderHeight - 0.5, width - left, 0.5), Color::of(ColorRole::separator));
+        draw.fill(CGRectMake(left, y + headerHeight - 0.5, width - left, 0.5), Color::of(ColorRole::separator));
     }
 
     void rows() {
-        const double top = windowTitleBarHeight + finderHeaderHeight;
-        const double bottom = height - finderStatusHeight;
-        if (bottom <= top) return;
-        draw.beginClip(CGRectMake(left, top, width - left, bottom - top));
-        for (std::size_t i = 0; i < std::max(content.items.size(), rowsInSight(height)); ++i) {
-            const double y = top + static_cast<double>(i) * finderRowHeight;
-            const CGRect back = CGRectMake(left + listInset, y, width - left - 2 * listInset, finderRowHeight);
-            if (i % 2 == 1) draw.fill(back, draw.shade(0x000000, 0xFFFFFF, 0.04), 5);
+        const CGRect area = layout.list();
+        if (!(area.height() > 0)) return;
+        draw.beginClip(area);
+        for (std::size_t i = 0; i < layout.rowsInSight(); ++i) {
+            const std::size_t index = layout.firstRow() + i;
+            const CGRect back = layout.row(index);
+            if (index % 2 == 1) draw.fill(back, draw.shade(0x000000, 0xFFFFFF, 0.04), 5);
             if (i < content.items.size()) row(content.items[i], back);
         }
-        if (content.items.empty()) emptyNote(top, bottom);
+        if (content.items.empty()) emptyNote(area);
+        if (content.band) {
+            const CGRect band = CGRectOffset(*content.band, area.minX(), area.minY() - layout.scrolled());
+            draw.fill(band, draw.shade(0x000000, 0xFFFFFF, 0.09));
+            draw.border(band, draw.shade(0x000000, 0xFFFFFF, 0.3), 0.5);
+        }
         draw.endClip();
+        if (const auto knob = layout.knob()) draw.fill(*knob, draw.shade(0x000000, 0xFFFFFF, 0.32), knob->width() / 2);
     }
 
     void row(const FinderItem& item, const CGRect& back) {
@@ -177,7 +176,7 @@ private:
         if (item.isSelected)
             draw.fill(back, isBright ? Color::of(ColorRole::accent) : draw.shade(0xDCDCDC, 0x464646), 5);
         for (const Column& column : columns) {
-            CGRect box = cell(column, back.minY(), finderRowHeight);
+            CGRect box = cell(column, back.minY(), back.height());
             const bool isName = &column == &columns.front();
             if (isName) {
                 icon(item, CGRectMake(box.minX(), box.midY() - iconSize / 2, iconSize, iconSize));
@@ -204,14 +203,14 @@ private:
         }
     }
 
-    void emptyNote(double top, double bottom) {
+    void emptyNote(const CGRect& area) {
         if (content.isReadable) return;
         draw.text("The contents of this folder can’t be shown.", listFont, Color::of(ColorRole::tertiary),
-                  CGRectMake(left + 20, top, width - left - 40, bottom - top), TextAlignment::center);
+                  CGRectInset(area, 20, 0), TextAlignment::center);
     }
 
     void status() {
-        const CGRect bar = CGRectMake(left, height - finderStatusHeight, width - left, finderStatusHeight);
+        const CGRect bar = layout.status();
         draw.fill(bar, titleBarColor(draw, content.look));
         draw.fill(CGRectMake(bar.minX(), bar.minY(), bar.width(), 0.5), Color::of(ColorRole::separator));
         const std::string count = std::to_string(content.itemCount);
@@ -226,6 +225,7 @@ private:
     const FinderContent& content;
     const double width;
     const double height;
+    const FinderLayout layout;
     const double left;  // where the list begins
 };
 

@@ -57,7 +57,7 @@ struct KnownIcon {
     void (*draw)(DrawingBuilder&, const CGRect&);
 };
 constexpr std::array knownIcons{KnownIcon{"Finder", drawFinder}, KnownIcon{"Terminal", drawTerminal},
-                                KnownIcon{"Editor", drawEditor}};
+                                KnownIcon{"TextEdit", drawEditor}, KnownIcon{"Visual Studio Code", drawEditor}};
 
 constexpr std::array<std::uint32_t, 7> plateColors{0x3BA55D, 0xE8743B, 0x8E5BD0, 0xD6457A,
                                                    0x2AA3B8, 0xC99A16, 0x5668D8};
@@ -98,6 +98,15 @@ void drawDocumentIcon(DrawingBuilder& builder, const CGRect& square) {
         builder.fill(CGRectMake(line.minX(), line.minY(), line.width(), std::max(0.5, std::round(square.width() / 24))),
                      Color::hex(0xB4B4BA));
     }
+}
+
+void drawWindowIcon(DrawingBuilder& builder, const CGRect& square) {
+    const CGRect window = part(square, 0.02, 0.16, 0.96, 0.7);
+    const CGRect bar = part(window, 0, 0, 1, 0.16);
+    builder.fill(window, builder.shade(0xFFFFFF, 0x1E1E1E), 3);
+    builder.fill(bar, builder.shade(0xE2E1E3, 0x3A393C), 3);
+    drawFolderIcon(builder, part(square, 0.28, 0.34, 0.44, 0.44));
+    builder.border(window, Color::of(ColorRole::primary, 0.25), 0.5, 3);
 }
 
 void drawApplicationIcon(DrawingBuilder& builder, const CGRect& square, std::string_view name) {

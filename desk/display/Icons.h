@@ -10,6 +10,8 @@ namespace desk {
 
 void drawFolderIcon(DrawingBuilder& builder, const platform::CGRect& square);
 void drawDocumentIcon(DrawingBuilder& builder, const platform::CGRect& square);
+// A small folder window.
+void drawWindowIcon(DrawingBuilder& builder, const platform::CGRect& square);
 // Well-known applications have their own; others get their initial on a colour of their name's.
 void drawApplicationIcon(DrawingBuilder& builder, const platform::CGRect& square, std::string_view name);
 

@@ -4,8 +4,8 @@
 
 namespace desk {
 
-QRect Scene::pixels(const platform::CGRect& appKitRect) const {
-    const auto whole = [this](double points) { return static_cast<int>(std::lround(points * scale)); };
+QRect pixelsOf(const platform::CGRect& appKitRect, const platform::CGPoint& topLeft, double scale) {
+    const auto whole = [scale](double points) { return static_cast<int>(std::lround(points * scale)); };
     return {whole(appKitRect.minX() - topLeft.x), whole(topLeft.y - appKitRect.maxY()), whole(appKitRect.width()),
             whole(appKitRect.height())};
 }

@@ -10,6 +10,9 @@
 
 namespace desk {
 
+// In device pixels, of a picture whose top left corner stands at that AppKit point.
+QRect pixelsOf(const platform::CGRect& appKitRect, const platform::CGPoint& topLeft, double scale);
+
 struct Scene {
     QImage& image;
     QPainter& painter;
@@ -17,7 +20,7 @@ struct Scene {
     double scale;
     platform::CGPoint topLeft;  // of the picture, in AppKit space
 
-    QRect pixels(const platform::CGRect& appKitRect) const;
+    QRect pixels(const platform::CGRect& appKitRect) const { return pixelsOf(appKitRect, topLeft, scale); }
 };
 
 }  // namespace desk

@@ -11,9 +11,6 @@ using platform::CGSize;
 using platform::Color;
 using platform::ColorRole;
 
-constexpr double buttonDiameter = 12;
-constexpr double firstButton = 20;
-constexpr double buttonDistance = 20;
 constexpr std::array<std::uint32_t, 3> buttonColors{0xFF5F57, 0xFEBC2E, 0x28C840};
 
 }  // namespace
@@ -26,12 +23,12 @@ Color titleBarColor(const DrawingBuilder& builder, WindowLook look) {
     return look == WindowLook::active ? builder.shade(0xF6F5F6, 0x38373B) : builder.shade(0xEDECED, 0x2C2B2E);
 }
 
-void drawTrafficLights(DrawingBuilder& builder, WindowLook look) {
-    double x = firstButton;
-    for (const std::uint32_t color : buttonColors) {
-        builder.circle({x, windowTitleBarHeight / 2}, buttonDiameter,
+void drawTrafficLights(DrawingBuilder& builder, CGSize size, WindowLook look) {
+    for (const WindowButton button : windowButtons) {
+        if (!windowButtonAt(centerOf(button), size)) continue;
+        const std::uint32_t color = buttonColors[static_cast<std::size_t>(button)];
+        builder.circle(centerOf(button), windowButtonDiameter,
                        look == WindowLook::active ? Color::hex(color) : builder.shade(0xCFCECF, 0x545356));
-        x += buttonDistance;
     }
 }
 
@@ -39,11 +36,11 @@ void drawPlainWindow(DrawingBuilder& builder, CGSize size, std::string_view titl
     builder.fill(CGRectMake(0, 0, size.width, size.height), Color::of(ColorRole::windowBackground));
     builder.fill(CGRectMake(0, 0, size.width, windowTitleBarHeight), titleBarColor(builder, look));
     builder.fill(CGRectMake(0, windowTitleBarHeight - 0.5, size.width, 0.5), Color::of(ColorRole::separator));
-    drawTrafficLights(builder, look);
-    const double room = size.width - 2 * trafficLightsWidth;
+    drawTrafficLights(builder, size, look);
+    const double room = size.width - 2 * windowButtonsWidth;
     if (room > 0)
         builder.text(title, {13, platform::FontWeight::semibold}, titleColor(look),
-                     CGRectMake(trafficLightsWidth, 0, room, windowTitleBarHeight), TextAlignment::center);
+                     CGRectMake(windowButtonsWidth, 0, room, windowTitleBarHeight), TextAlignment::center);
 }
 
 void drawWindowEdge(DrawingBuilder& builder, CGSize size) {

@@ -4,20 +4,17 @@
 
 #include <string_view>
 
+#include "desk/WindowFrame.h"
 #include "desk/display/DrawingBuilder.h"
 #include "platform/Geometry.h"
 
 namespace desk {
 
-inline constexpr double windowTitleBarHeight = 28;
 inline constexpr double windowCornerRadius = 10;
 
 enum class WindowLook { active, inactive };
 
-// Where the title bar's own content may begin.
-inline constexpr double trafficLightsWidth = 78;
-
-void drawTrafficLights(DrawingBuilder& builder, WindowLook look);
+void drawTrafficLights(DrawingBuilder& builder, platform::CGSize size, WindowLook look);
 // Background, title bar with a centred title, buttons.
 void drawPlainWindow(DrawingBuilder& builder, platform::CGSize size, std::string_view title, WindowLook look);
 // The last thing drawn of a window.

@@ -45,6 +45,10 @@ double WindowShadow::reach(Depth depth) {
     return std::ceil(look.sigma * sigmas);
 }
 
+double WindowShadow::drop(Depth depth) {
+    return lookOf(depth).drop;
+}
+
 const WindowShadow::Pieces& WindowShadow::pieces(Depth depth, double scale) {
     const auto key = std::pair(depth, scale);
     if (const auto found = kept.find(key); found != kept.end()) return found->second;

@@ -18,6 +18,8 @@ public:
     void paint(QPainter& painter, const QRect& window, Depth depth, double scale);
     // How far beyond the window's edges it reaches, in points.
     static double reach(Depth depth);
+    // How much lower than the window it lies, in points.
+    static double drop(Depth depth);
 
 private:
     struct Pieces {

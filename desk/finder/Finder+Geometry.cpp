@@ -1,4 +1,4 @@
-// Where Finder's windows are: stacking, frames, full screen, and the mouse that moves them.
+// Where Finder's windows are: stacking, frames, full screen.
 #include <algorithm>
 #include <cmath>
 
@@ -14,7 +14,7 @@ using platform::NSWindowOrderingMode;
 namespace {
 
 // The screen that shows most of the rectangle, the earliest of equals.
-std::optional<CGRect> bestScreen(const std::vector<platform::NSScreen>& screens, const CGRect& rect) {
+std::optional<platform::NSScreen> bestScreen(const std::vector<platform::NSScreen>& screens, const CGRect& rect) {
     const platform::NSScreen* best = nullptr;
     double bestArea = -1;
     for (const platform::NSScreen& screen : screens) {
@@ -25,7 +25,7 @@ std::optional<CGRect> bestScreen(const std::vector<platform::NSScreen>& screens,
             best = &screen;
         }
     }
-    return best == nullptr ? std::nullopt : std::optional(best->frame);
+    return best == nullptr ? std::nullopt : std::optional(*best);
 }
 
 }  // namespace
@@ -113,7 +113,7 @@ bool Finder::enterFullScreen(FinderWindow& window) {
     window.fullScreen = true;
     const int ownSpace = machine.windows.makeSpace();
     machine.windows.setSpace(window.number, ownSpace);
-    moveTo(window.number, *screen);
+    moveTo(window.number, screen->frame);
     machine.switchToSpace(ownSpace);
     mainWindowMayHaveChanged();
     return true;
@@ -127,44 +127,25 @@ void Finder::leaveFullScreen(FinderWindow& window) {
     if (machine.windows.currentSpace() == ownSpace) machine.switchToSpace(window.spaceBeforeFullScreen);
 }
 
+bool Finder::zoom(std::int64_t number) {
+    FinderWindow* window = folderWindow(number);
+    const ServerWindow* shown = machine.windows.find(number);
+    const auto screen = shown == nullptr ? std::nullopt : bestScreen(machine.displays.screens(), shown->frame);
+    if (window == nullptr || window->fullScreen || !screen) return false;
+    // The height alone can have been changed to make room for what stands above it.
+    const bool isZoomed = window->frameBeforeZoom && shown->frame.width() == screen->visibleFrame.width();
+    const CGRect wanted = isZoomed ? *window->frameBeforeZoom : screen->visibleFrame;
+    window->frameBeforeZoom = isZoomed ? std::nullopt : std::optional(shown->frame);
+    moveTo(number, wanted);
+    return true;
+}
+
 void Finder::refitFullScreenWindows() {
     for (const FinderWindow& window : list) {
         if (!window.fullScreen) continue;
         if (const auto screen = bestScreen(machine.displays.screens(), machine.windows.find(window.number)->frame))
-            moveTo(window.number, *screen);
+            moveTo(window.number, screen->frame);
     }
-}
-
-void Finder::mouseDown(std::int64_t number, const platform::CGPoint& point) {
-    drag.reset();
-    const FinderWindow* window = entry(number);
-    if (window == nullptr) return;
-    // Raised before the activation too, so that this is the window which the activation finds in front.
-    machine.windows.raise(number);
-    if (!isFrontmost()) {
-        machine.activate(processIdentifier, false);
-        machine.windows.raise(number);
-    }
-    mainWindowMayHaveChanged();
-    const ServerWindow* shown = machine.windows.find(number);
-    window = entry(number);
-    if (shown == nullptr || window == nullptr || window->fullScreen) return;
-    const CGRect& frame = shown->frame;
-    const CGRect titleBar{{frame.minX(), frame.maxY() - finderTitleBarHeight}, {frame.width(), finderTitleBarHeight}};
-    if (platform::CGRectContainsPoint(titleBar, point))
-        drag = Drag{number, {frame.origin.x - point.x, frame.origin.y - point.y}};
-}
-
-void Finder::mouseDragged(const platform::CGPoint& point) {
-    if (!drag) return;
-    const ServerWindow* shown = machine.windows.find(drag->window);
-    const platform::CGPoint origin{point.x + drag->grip.x, point.y + drag->grip.y};
-    if (shown == nullptr || !setFrame(drag->window, {origin, shown->frame.size})) drag.reset();
-}
-
-void Finder::mouseUp(const platform::CGPoint& point) {
-    mouseDragged(point);
-    drag.reset();
 }
 
 }  // namespace desk

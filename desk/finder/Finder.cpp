@@ -4,8 +4,12 @@
 #include <cmath>
 #include <utility>
 
+#include "desk/KnownApplications.h"
 #include "desk/Machine.h"
 #include "desk/finder/FinderAccessibility.h"
+#include "desk/finder/FinderBrowser.h"
+#include "desk/finder/FinderKeys.h"
+#include "desk/finder/FinderMouse.h"
 #include "platform/FileURL.h"
 
 namespace desk {
@@ -14,10 +18,6 @@ using platform::CGRect;
 using platform::NSWindowOrderingMode;
 
 namespace {
-
-std::string nameOf(const std::string& path) {
-    return path == "/" ? "Macintosh HD" : std::string(platform::lastPathComponent(path));
-}
 
 bool isFinite(const CGRect& rect) {
     return std::isfinite(rect.origin.x) && std::isfinite(rect.origin.y) && std::isfinite(rect.size.width) &&
@@ -31,9 +31,16 @@ CGRect withoutNegativeSize(CGRect rect) {
 
 }  // namespace
 
+std::string nameOfFolder(const std::string& path) {
+    return path == "/" ? "Macintosh HD" : std::string(platform::lastPathComponent(path));
+}
+
 Finder::Finder(Machine& theMachine)
     : machine(theMachine),
       tree(std::make_unique<FinderAccessibility>(theMachine)),
+      inside(std::make_unique<FinderBrowser>(theMachine)),
+      hand(std::make_unique<FinderMouse>(theMachine)),
+      keyboard(std::make_unique<FinderKeys>(theMachine)),
       nextNumber(firstFinderWindowNumber) {
     subscriptions.push_back(machine.windows.changed.subscribe([this] { stackChanged(); }));
     subscriptions.push_back(machine.displays.changed.subscribe([this] { refitFullScreenWindows(); }));
@@ -45,7 +52,7 @@ void Finder::launch() {
     if (isRunning()) return;
     Process process;
     process.bundleIdentifier = "com.apple.finder";
-    process.bundlePath = "/System/Library/CoreServices/Finder.app";
+    process.bundlePath = finderPath;
     process.name = "Finder";
     processIdentifier = machine.processes.add(std::move(process));
 }
@@ -58,8 +65,11 @@ void Finder::quit() {
         if (window.fullScreen && shown != nullptr && shown->space == spaceLeft)
             spaceLeft = window.spaceBeforeFullScreen;
     }
-    for (const FinderWindow& window : std::exchange(list, {})) machine.windows.remove(window.number);
-    drag.reset();
+    for (const FinderWindow& window : std::exchange(list, {})) {
+        inside->forget(window.number);
+        machine.windows.remove(window.number);
+    }
+    hand->letGo();
     announcedMainWindow = 0;
     knownMainWindow.reset();
     const std::int32_t gone = std::exchange(processIdentifier, 0);
@@ -86,7 +96,7 @@ std::optional<std::int64_t> Finder::open(const std::string& path, std::optional<
     FinderWindow window;
     window.target = platform::standardizedPath(path, "/");
     if (!isFolder(path)) return std::nullopt;
-    window.name = nameOf(*window.target);
+    window.name = nameOfFolder(*window.target);
     return add(std::move(window), frame);
 }
 
@@ -106,7 +116,7 @@ std::optional<std::int64_t> Finder::openInfoPanel(const std::string& path) {
     FinderWindow window;
     window.kind = FinderWindowKind::infoPanel;
     window.subject = platform::standardizedPath(path, "/");
-    window.name = nameOf(window.subject) + " Info";
+    window.name = nameOfFolder(window.subject) + " Info";
     return add(std::move(window), std::nullopt);
 }
 
@@ -148,6 +158,7 @@ bool Finder::close(std::int64_t number) {
         window->fullScreen && machine.windows.find(number)->space == machine.windows.currentSpace();
     const int spaceBefore = window->spaceBeforeFullScreen;
     std::erase_if(list, [&](const FinderWindow& each) { return each.number == number; });
+    inside->forget(number);
     machine.windows.remove(number);
     tree->post(number, "AXUIElementDestroyed");
     if (takesItsSpaceAlong) machine.switchToSpace(spaceBefore);
@@ -181,34 +192,6 @@ void Finder::setMinimized(FinderWindow& window, bool minimized) {
     }
     tree->post(number, minimized ? "AXWindowMiniaturized" : "AXWindowDeminiaturized");
     mainWindowMayHaveChanged();
-}
-
-bool Finder::go(std::int64_t number, const std::string& path) {
-    FinderWindow* window = folderWindow(number);
-    const std::string target = platform::standardizedPath(path, "/");
-    if (window == nullptr || !isFolder(path)) return false;
-    window->target = target;
-    window->selection.clear();
-    if (std::exchange(window->name, nameOf(target)) == nameOf(target)) return true;
-    machine.windows.setTitle(number, window->name);
-    tree->post(number, "AXTitleChanged");
-    return true;
-}
-
-bool Finder::select(std::int64_t number, const std::vector<std::string>& paths) {
-    FinderWindow* window = folderWindow(number);
-    if (window == nullptr) return false;
-    std::vector<std::string> selection;
-    for (const std::string& path : paths) {
-        selection.push_back(platform::standardizedPath(path, "/"));
-        if (!machine.disk.exists(selection.back())) return false;
-    }
-    window->selection = std::move(selection);
-    return true;
-}
-
-void Finder::dropVanishedSelection(FinderWindow& window) const {
-    std::erase_if(window.selection, [this](const std::string& path) { return !machine.disk.exists(path); });
 }
 
 bool Finder::setSpace(std::int64_t number, int space) {

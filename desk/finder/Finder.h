@@ -16,6 +16,9 @@
 namespace desk {
 
 class FinderAccessibility;
+class FinderBrowser;
+class FinderKeys;
+class FinderMouse;
 class Machine;
 
 class Finder {
@@ -42,12 +45,19 @@ public:
     // In front of Finder's other windows, and of all windows when Finder is frontmost. Neither its space nor its being minimised changes.
     bool raise(std::int64_t number);
     bool go(std::int64_t number, const std::string& path);
+    bool goVirtual(std::int64_t number, const std::string& name);
+    // Back or forward: what go() and goVirtual() showed before.
+    bool revisit(std::int64_t number, const std::optional<std::string>& target, const std::string& name);
     // False when one of the items isn't there.
     bool select(std::int64_t number, const std::vector<std::string>& paths);
+    // Paths from the window's own list, of which there can be many, aren't looked for.
+    void selectListed(std::int64_t number, std::vector<std::string> paths);
     // Not of a full-screen window, which fills its screen.
     bool setFrame(std::int64_t number, const platform::CGRect& frame);
     // A full-screen window fills its screen, in a space of its own which becomes current; it goes back to where it was.
     bool setFullScreen(std::int64_t number, bool fullScreen);
+    // As large as the screen has room for, and back.
+    bool zoom(std::int64_t number);
     bool setSpace(std::int64_t number, int space);
 
     // Folder windows and info panels: those on screen front to back, then those of other spaces, then minimised ones. Selected items that have
@@ -59,32 +69,28 @@ public:
     // The window that is main and focused: the front folder window on screen, 0 without any.
     std::int64_t mainWindow() const;
 
-    // A person's mouse on one of Finder's windows (AppKit screen points). A press raises the window and activates Finder; from the title bar it begins a drag,
-    // which moves the window with the mouse, not clamped by the menu bar.
-    void mouseDown(std::int64_t number, const platform::CGPoint& point);
-    void mouseDragged(const platform::CGPoint& point);
-    void mouseUp(const platform::CGPoint& point);
+    // What has changed may have another window be the main one; Accessibility hears of it.
+    void mainWindowMayHaveChanged();
+    bool isFrontmost() const;
 
     FinderAccessibility& accessibility() { return *tree; }
+    FinderMouse& mouse() { return *hand; }
+    FinderKeys& keys() { return *keyboard; }
+    FinderBrowser& browser() { return *inside; }
 
 private:
     friend class FinderAccessibility;
-
-    struct Drag {
-        std::int64_t window;
-        platform::CGPoint grip;  // from the mouse to the frame's origin
-    };
 
     // Cheap: they leave the selection as it is.
     const FinderWindow* entry(std::int64_t number) const;
     FinderWindow* entry(std::int64_t number);
     FinderWindow* folderWindow(std::int64_t number);
     void dropVanishedSelection(FinderWindow& window) const;
+    void show(FinderWindow& window, const std::optional<std::string>& target, const std::string& name);
 
     std::optional<std::int64_t> add(FinderWindow window, std::optional<platform::CGRect> frame);
     platform::CGRect defaultFrame(const FinderWindow& window) const;
     bool isFolder(const std::string& path) const;
-    bool isFrontmost() const;
     void bringForward(std::int64_t number);
     void placeAmongOthers(std::int64_t number);
     void moveTo(std::int64_t number, const platform::CGRect& frame);
@@ -94,14 +100,15 @@ private:
     void refitFullScreenWindows();
     std::int64_t findMainWindow() const;
     void stackChanged();
-    void mainWindowMayHaveChanged();
 
     Machine& machine;
     std::unique_ptr<FinderAccessibility> tree;
+    std::unique_ptr<FinderBrowser> inside;
+    std::unique_ptr<FinderMouse> hand;
+    std::unique_ptr<FinderKeys> keyboard;
     mutable std::vector<FinderWindow> list;  // by number
     std::int32_t processIdentifier = 0;
     std::int64_t nextNumber;
-    std::optional<Drag> drag;
 
     std::int64_t announcedMainWindow = 0;
     mutable std::optional<std::int64_t> knownMainWindow;  // until the window stack changes

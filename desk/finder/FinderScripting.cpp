@@ -7,6 +7,7 @@
 #include "desk/applescript/AppleScript.h"
 #include "desk/finder/FinderScriptHost.h"
 #include "desk/finder/ScriptSender.h"
+#include "desk/time/WorkerQueue.h"
 
 namespace desk {
 
@@ -34,17 +35,19 @@ public:
         : machine(theMachine), application(theApplication), source(std::move(theSource)) {}
 
     NSAppleScriptResult executeAndReturnError() override {
-        ScriptSender sender(machine, application);
-        if (sender.isGone()) return failed({-609, "Connection is invalid."});
         ScriptError compilation;
         if (!compiled) compiled = applescript::compile(source, &compilation);
         if (!compiled) return failed(compilation);
 
+        const WorkerQueue::Visit visit;
+        ScriptSender sender(machine, application);
+        if (sender.isGone()) return failed({-609, "Connection is invalid."});
         const platform::Duration latency = machine.faults.scriptLatency;
         const std::uint64_t place = machine.scripting.record(source);
         const ScriptResult result = evaluate(sender);
         machine.scripting.recordError(place, result.error ? result.error->message.value_or("") : "");
         if (!sender.wait(latency)) return failed({-609, "Connection is invalid."});
+        machine.scripting.recordAnswer(place);
         return result.error ? failed(*result.error) : NSAppleScriptResult{result.stringValue, std::nullopt};
     }
 
@@ -69,15 +72,24 @@ std::unique_ptr<platform::NSAppleScript> FinderScripting::makeScript(Application
 }
 
 std::uint64_t FinderScripting::record(const std::string& source) {
-    machine.sentScripts.push_back({source, ""});
+    machine.sentScripts.push_back({source, "", machine.scheduler.now()});
     if (machine.sentScripts.size() > scriptsKept) machine.sentScripts.pop_front();
     return ++sent;
 }
 
 void FinderScripting::recordError(std::uint64_t place, const std::string& error) {
+    if (SentScript* script = recorded(place)) script->error = error;
+}
+
+void FinderScripting::recordAnswer(std::uint64_t place) {
+    if (SentScript* script = recorded(place)) script->took = machine.scheduler.now() - script->sent;
+}
+
+// Null when it was sent too long ago.
+SentScript* FinderScripting::recorded(std::uint64_t place) {
     const std::uint64_t fromTheEnd = sent - place;
-    if (fromTheEnd < machine.sentScripts.size())
-        machine.sentScripts[machine.sentScripts.size() - 1 - fromTheEnd].error = error;
+    std::deque<SentScript>& kept = machine.sentScripts;
+    return fromTheEnd < kept.size() ? &kept[kept.size() - 1 - fromTheEnd] : nullptr;
 }
 
 }  // namespace desk

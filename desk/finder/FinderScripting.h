@@ -4,9 +4,11 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/AppleEvents.h"
+#include "platform/Time.h"
 
 namespace desk {
 
@@ -17,6 +19,8 @@ class Machine;
 struct SentScript {
     std::string source;
     std::string error;  // empty on success
+    platform::Date sent;
+    std::optional<platform::Duration> took = std::nullopt;  // until its sender had the answer
 };
 
 // Compiles and runs a script sent by an application, on the calling thread (its main thread or one of its queues): permission, prompt, faults, evaluation at once,
@@ -36,6 +40,8 @@ private:
     // A script is listed when it is sent; its error is filled in when that is known.
     std::uint64_t record(const std::string& source);
     void recordError(std::uint64_t place, const std::string& error);
+    void recordAnswer(std::uint64_t place);
+    SentScript* recorded(std::uint64_t place);
 
     Machine& machine;
     std::uint64_t sent = 0;

@@ -6,11 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "desk/Disk.h"
 #include "platform/Geometry.h"
 
 namespace desk {
-
-inline constexpr double finderTitleBarHeight = 28;
 
 enum class FinderWindowKind { folder, infoPanel };
 
@@ -21,11 +20,17 @@ struct FinderWindow {
         target;        // without a trailing slash, "/" of the root; empty of a virtual location such as Recents
     std::string name;  // the title
     std::vector<std::string> selection;  // paths
+    // While the list of the folder stays as it was then, nothing that is selected in it has vanished.
+    std::optional<Disk::Stamp> selectionSeenAt;
     bool minimized = false;
     bool fullScreen = false;
     platform::CGRect frameBeforeFullScreen;
+    std::optional<platform::CGRect> frameBeforeZoom;
     int spaceBeforeFullScreen = 1;
     std::string subject;  // of an info panel: the path of the item it tells about
 };
+
+// The title of a window on that folder.
+std::string nameOfFolder(const std::string& path);
 
 }  // namespace desk

@@ -12,7 +12,7 @@ namespace desk {
 namespace {
 
 // As good as for ever, and far from where times overflow.
-constexpr platform::Duration longestWait = std::chrono::hours(24 * 365);
+constexpr platform::Duration longestLatency = std::chrono::hours(24 * 365);
 
 }  // namespace
 
@@ -23,7 +23,7 @@ bool ScriptSender::isGone() const {
 bool ScriptSender::wait(platform::Duration duration) {
     if (isGone()) return false;
     if (duration <= platform::Duration(0)) return true;
-    duration = std::min(duration, longestWait);
+    duration = std::min(duration, longestLatency);
     if (WorkerQueue* queue = WorkerQueue::current()) {
         gone = !queue->waitFor(duration);
     } else {

@@ -259,7 +259,11 @@ void MenuLayer::choose(std::size_t row) {
     const auto action = tracked->menu.items()[row].action;
     Application* owner = machine.application(tracked->owner);
     closeMenu();
-    if (owner != nullptr && action) owner->loop().mainAsync(action);
+    if (!action) return;
+    if (owner != nullptr)
+        owner->loop().mainAsync(action);
+    else
+        machine.scheduler.after({}, action);
 }
 
 }  // namespace desk

@@ -1,5 +1,5 @@
 // What stands above all windows: the open menu, of which there is at most one, and the popovers. It is asked first about every event, and decides what a press, a key or
-// a move of the mouse does to them; an action that was chosen runs in a turn of the application that opened the menu. The display reads what is open from here.
+// a move of the mouse does to them; an action that was chosen runs in a turn of the application that opened the menu, or of the machine for Finder and others that it plays itself. The display reads what is open from here.
 //
 // A menu's press:
 //   press on a button       the application opens the menu; the mouse stays held

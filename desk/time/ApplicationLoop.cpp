@@ -29,7 +29,7 @@ private:
 
 }  // namespace
 
-// Apart from the loop, since timers may outlive it.
+// Apart from the loop, since timers and what other threads post may outlive it. Main thread only.
 struct ApplicationLoop::State {
     struct QueuedEvent {
         Key key;
@@ -40,6 +40,7 @@ struct ApplicationLoop::State {
     std::deque<QueuedEvent> events;
     std::vector<platform::Block> endOfTurn;
     std::size_t timers = 0;
+    bool dead = false;
 };
 
 class ApplicationLoop::LoopTimer final : public platform::Timer {
@@ -119,14 +120,26 @@ ApplicationLoop::~ApplicationLoop() {
 }
 
 void ApplicationLoop::mainAsync(platform::Block block) {
-    if (dead) return;
-    state->ready.emplace(Key{scheduler.now(), scheduler.nextSequence()}, std::move(block));
+    post({}, std::move(block));
 }
 
 void ApplicationLoop::mainAfter(platform::Duration delay, std::shared_ptr<platform::DispatchWorkItem> item) {
-    if (dead || !item) return;
-    state->ready.emplace(Key{scheduler.later(delay), scheduler.nextSequence()},
-                         [item = std::move(item)] { item->perform(); });
+    if (item) post(delay, [item = std::move(item)] { item->perform(); });
+}
+
+void ApplicationLoop::post(platform::Duration delay, platform::Block block) {
+    if (scheduler.isOffMainThread()) {
+        scheduler.onMainThread([&scheduler = scheduler, delay, weak = std::weak_ptr(state), block = std::move(block)] {
+            const auto held = weak.lock();
+            if (held && !held->dead) held->ready.emplace(Key{scheduler.later(delay), scheduler.nextSequence()}, block);
+        });
+        return;
+    }
+    if (!isShutDown()) state->ready.emplace(Key{scheduler.later(delay), scheduler.nextSequence()}, std::move(block));
+}
+
+bool ApplicationLoop::isShutDown() const {
+    return state->dead;
 }
 
 void ApplicationLoop::mainTask(platform::Block block) {
@@ -137,7 +150,7 @@ std::unique_ptr<platform::SerialQueue> ApplicationLoop::makeSerialQueue(
     std::string label, platform::QualityOfService /*qualityOfService*/) {
     pruneQueues();
     queues.push_back(std::make_shared<WorkerQueue>(scheduler, std::move(label)));
-    if (dead) queues.back()->close();
+    if (isShutDown()) queues.back()->close();
     return std::make_unique<QueueHandle>(queues.back());
 }
 
@@ -155,11 +168,11 @@ std::unique_ptr<platform::Timer> ApplicationLoop::addTimer(platform::Duration pe
 }
 
 void ApplicationLoop::atEndOfTurn(platform::Block block) {
-    if (!dead) state->endOfTurn.push_back(std::move(block));
+    if (!isShutDown()) state->endOfTurn.push_back(std::move(block));
 }
 
 void ApplicationLoop::postEvent(platform::NSEvent event) {
-    if (!dead) state->events.push_back({{scheduler.now(), scheduler.nextSequence()}, std::move(event)});
+    if (!isShutDown()) state->events.push_back({{scheduler.now(), scheduler.nextSequence()}, std::move(event)});
 }
 
 void ApplicationLoop::forgetWindow(const platform::NSWindow* window) {
@@ -172,14 +185,14 @@ bool ApplicationLoop::turn() {
     if (due > scheduler.now() || due == platform::Date::distantFuture()) return false;
     const Raised running(turns);
     runReady();
-    if (!dead) runEndOfTurn();
+    if (!isShutDown()) runEndOfTurn();
     return true;
 }
 
 void ApplicationLoop::runReady() {
     const platform::Date began = scheduler.now();
     const std::uint64_t last = scheduler.nextSequence();
-    while (!dead && runOne(began, last)) {}
+    while (!isShutDown() && runOne(began, last)) {}
 }
 
 // The earliest of what was ready when the turn began and hasn't been run by a loop nested in it.
@@ -204,7 +217,7 @@ bool ApplicationLoop::runOne(platform::Date began, std::uint64_t last) {
 void ApplicationLoop::runEndOfTurn() {
     const auto blocks = std::exchange(state->endOfTurn, {});
     for (const auto& block : blocks)
-        if (!dead) block();
+        if (!isShutDown()) block();
 }
 
 platform::Date ApplicationLoop::nextDue() const {
@@ -219,7 +232,7 @@ platform::Date ApplicationLoop::nextDue() const {
 std::optional<platform::NSEvent> ApplicationLoop::nextEvent(platform::NSEventMask mask, platform::Date until,
                                                             bool dequeue) {
     const Raised pulling(nested);
-    while (!dead) {
+    while (!isShutDown()) {
         const auto found = std::find_if(state->events.begin(), state->events.end(), [&](const auto& queued) {
             return (mask & platform::maskOf(queued.event.type)) != 0;
         });
@@ -229,7 +242,7 @@ std::optional<platform::NSEvent> ApplicationLoop::nextEvent(platform::NSEventMas
             return event;
         }
         if (scheduler.now() >= until) return std::nullopt;
-        if (!scheduler.runDueOnce() && !scheduler.stepDriver()) return std::nullopt;
+        if (!scheduler.runDueOnce() && !scheduler.stepDriver(until)) return std::nullopt;
     }
     return std::nullopt;
 }
@@ -242,12 +255,12 @@ void ApplicationLoop::blockFor(platform::Duration duration) {
 bool ApplicationLoop::blockUntil(const std::function<bool()>& condition) {
     const Raised waiting(blocked);
     while (!condition())
-        if (dead || (!scheduler.runDueOnce() && !scheduler.stepDriver())) return false;
+        if (isShutDown() || (!scheduler.runDueOnce() && !scheduler.stepDriver())) return false;
     return true;
 }
 
 void ApplicationLoop::shutDown() {
-    dead = true;
+    state->dead = true;
     for (const auto& queue : queues) queue->shutDown();
     if (turns > 0) return;
     // Dropping a block can drop the last reference to what posts or ends others.

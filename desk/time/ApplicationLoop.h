@@ -58,7 +58,7 @@ public:
     // Nothing more is delivered, waiting queues are answered with an error and joined. What is still posted is dropped once no turn is on the stack: at
     // once, or by another call.
     void shutDown();
-    bool isShutDown() const { return dead; }
+    bool isShutDown() const;
 
     // Timers alive, work pending, for tests of leaks.
     std::size_t timerCount() const;
@@ -68,7 +68,8 @@ private:
     class LoopTimer;
     class QueueHandle;
 
-    bool canTurn() const { return !dead && blocked == 0 && turns <= nested; }
+    bool canTurn() const { return !isShutDown() && blocked == 0 && turns <= nested; }
+    void post(platform::Duration delay, platform::Block block);
     void runReady();
     bool runOne(platform::Date began, std::uint64_t last);
     void runEndOfTurn();
@@ -81,7 +82,6 @@ private:
     int blocked = 0;
     int nested = 0;  // loops that pull events; while there is one, turns dispatch none
     int turns = 0;
-    bool dead = false;
 };
 
 }  // namespace desk

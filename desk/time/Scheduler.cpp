@@ -1,6 +1,7 @@
 #include "desk/time/Scheduler.h"
 
 #include <algorithm>
+#include <chrono>
 #include <iostream>
 
 #include "desk/time/ApplicationLoop.h"
@@ -12,11 +13,44 @@ namespace {
 // Far beyond what any story needs at one instant; reached only by work that posts itself anew for ever.
 constexpr std::int64_t mostRoundsOfInstant = 1'000'000;
 
+platform::Duration hostTime() {
+    return std::chrono::steady_clock::now().time_since_epoch();
+}
+
 }  // namespace
 
 Scheduler::Scheduler(platform::Date start) : clock(start) {}
 
 Scheduler::~Scheduler() = default;
+
+void Scheduler::useRealTime(RealTime& theRealTime) {
+    const platform::Duration sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
+    hostToClock = sinceEpoch - hostTime();
+    mainThread = std::this_thread::get_id();
+    realTime = &theRealTime;
+}
+
+platform::Date Scheduler::now() const {
+    return isRealTime() ? platform::Date{hostTime() + hostToClock} : clock;
+}
+
+void Scheduler::onMainThread(platform::Block block) {
+    {
+        const std::lock_guard lock(postedMutex);
+        posted.push_back(std::move(block));
+    }
+    realTime->wake();
+}
+
+void Scheduler::takePosted() {
+    if (!isRealTime()) return;
+    std::vector<platform::Block> taken;
+    {
+        const std::lock_guard lock(postedMutex);
+        taken.swap(posted);
+    }
+    for (const auto& block : taken) block();
+}
 
 std::uint64_t Scheduler::at(platform::Date due, platform::Block block) {
     const std::uint64_t item = nextSequence();
@@ -33,9 +67,10 @@ void Scheduler::cancel(std::uint64_t item) {
 }
 
 platform::Date Scheduler::later(platform::Duration delay) const {
-    if (delay <= platform::Duration(0)) return clock;
-    if (delay >= platform::Date::distantFuture() - clock) return platform::Date::distantFuture();
-    return clock + delay;
+    const platform::Date present = now();
+    if (delay <= platform::Duration(0)) return present;
+    if (delay >= platform::Date::distantFuture() - present) return platform::Date::distantFuture();
+    return present + delay;
 }
 
 void Scheduler::settle() {
@@ -51,6 +86,10 @@ bool Scheduler::settled() {
 void Scheduler::advance(platform::Duration duration) {
     const platform::Date target = later(duration);
     settle();
+    if (isRealTime()) {
+        while (now() < target && waitForMore(target)) settle();
+        return;
+    }
     while (advanceToNext(target)) {}
     if (clock >= target) return;
     clock = target;
@@ -66,9 +105,11 @@ bool Scheduler::advanceToNext(platform::Date limit) {
 
 bool Scheduler::runDueOnce() {
     if (roundsOfInstant >= mostRoundsOfInstant) return false;
+    takePosted();
     const bool ranItems = runItems();
     const bool ranTurns = runTurns();
     if (!ranItems && !ranTurns) return false;
+    ++rounds;
     if (++roundsOfInstant == mostRoundsOfInstant)
         std::cerr << "desk: work at one instant never ends; " << mostRoundsOfInstant << " rounds were run\n";
     return true;
@@ -77,7 +118,7 @@ bool Scheduler::runDueOnce() {
 // An item may run others' items through a nested loop, so each one is looked up anew.
 bool Scheduler::runItems() {
     const std::uint64_t last = sequence;
-    const platform::Date began = clock;
+    const platform::Date began = now();
     bool ran = false;
     auto next = items.begin();
     while (next != items.end() && next->first.first <= began) {
@@ -103,9 +144,15 @@ bool Scheduler::runTurns() {
     return ran;
 }
 
-bool Scheduler::stepDriver() {
+bool Scheduler::stepDriver(platform::Date until) {
     roundsOfInstant = 0;
-    return user != nullptr && user->step();
+    if (user != nullptr && user->step()) return true;
+    return isRealTime() && waitForMore(until);
+}
+
+bool Scheduler::waitForMore(platform::Date until) {
+    roundsOfInstant = 0;
+    return realTime->wait(std::min(until, nextDue()) - now());
 }
 
 platform::Date Scheduler::nextDue() const {

@@ -1,8 +1,11 @@
 // The composed picture, asked at probe points: what stands where, what covers what, and how often bars are painted.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
+#include <vector>
 
 #include "desk/display/Compositor.h"
 #include "desk/display/QtTextSystem.h"
@@ -233,6 +236,62 @@ TEST_F(Composed, ContentOfAFolderIsReadAnewEachTime) {
     EXPECT_EQ(compose(), empty);
     desk.tree({"/Users/ana/Work/One/new.txt"});
     EXPECT_NE(compose(), empty);
+}
+
+testing::AssertionResult isSame(const QImage& shown, const QImage& wanted) {
+    if (shown == wanted) return testing::AssertionSuccess();
+    int count = 0;
+    QRect place;
+    for (int y = 0; y < wanted.height(); ++y)
+        for (int x = 0; x < wanted.width(); ++x)
+            if (shown.pixel(x, y) != wanted.pixel(x, y)) {
+                place |= QRect(x, y, 1, 1);
+                ++count;
+            }
+    return testing::AssertionFailure() << count << " pixels differ within " << place.x() << ", " << place.y() << ", "
+                                       << place.width() << ", " << place.height();
+}
+
+// Whatever happens between two pictures: painting what differs comes out as painting everything.
+TEST_F(Composed, PictureBroughtUpToDateIsThePictureMadeAnew) {
+    auto& machine = desk.machine;
+    const auto [back, front] = desk.twoWindows();
+    Bar above = bar(CGRectMake(100, 700, 800, 44), 0x3060C0);
+    above.panel->orderFrontRegardless();
+    std::optional<std::int64_t> third;
+    const std::vector<std::function<void()>> changes{
+        [] {},
+        [&, number = back] { machine.finder.raise(number); },
+        [&, number = back] { machine.finder.setFrame(number, CGRectMake(140.5, 230.25, 640, 420)); },
+        [&] { above.panel->setFrame(CGRectMake(140.5, 650.25, 640, 44), true); },
+        [&] { above.view->show(0xC03060); },
+        [&, number = front] { machine.finder.go(number, "/Users/ana/Documents"); },
+        [&] { third = machine.finder.open("/Users/ana/Downloads", CGRectMake(300, 250, 500, 300)); },
+        [&, number = front] { machine.finder.minimize(number); },
+        [&] { machine.startOtherProcess("com.example.notes"); },
+        [&] { machine.activate("com.example.notes"); },
+        [&] { machine.finder.openInfoPanel("/Users/ana/Documents"); },
+        [&] { machine.finder.setFullScreen(*third, true); },
+        [&] { machine.finder.setFullScreen(*third, false); },
+        [&] {
+            machine.displays.add({CGRectMake(1440, 0, 800, 600), 60, 24, 40});
+        },
+        [&] { machine.appearance.colorScheme.set(platform::ColorScheme::dark); },
+        [&] { machine.finder.close(*third); },
+        [&] { machine.finder.quit(); }};
+    for (const double scale : {1.0, 1.5}) {
+        desk::DesktopFrame frame;
+        compositor.update(machine, frame, scale);
+        EXPECT_TRUE(compositor.update(machine, frame, scale).isEmpty());
+    }
+    desk::DesktopFrame frame;
+    compositor.update(machine, frame, 1.5);
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        changes[i]();
+        machine.settle();
+        compositor.update(machine, frame, 1.5);
+        EXPECT_TRUE(isSame(frame.image, desk::Compositor().compose(machine, 1.5))) << "after change " << i;
+    }
 }
 
 }  // namespace

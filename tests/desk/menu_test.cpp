@@ -198,7 +198,7 @@ TEST_F(MenuTest, AMenuLongerThanTheScreenScrolls) {
     desk.moveTo({120, 300});
     desk.run(3);
     EXPECT_EQ(open()->scrolledBy(), after) << "only while the mouse is on the arrow";
-    desk.play([&] { desk.machine.input.scrollWheel({120, 300}, 1e9); });
+    desk.play([&] { desk.machine.input.scrollWheel({120, 300}, 0, 1e9); });
     EXPECT_EQ(open()->scrolledBy(), 0);
     desk.key("end");
     EXPECT_EQ(highlighted(), "99");

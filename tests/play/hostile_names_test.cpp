@@ -11,22 +11,14 @@
 #include "desk/display/GuiApplication.h"
 #include "play/Json.h"
 #include "play/ScriptPlayer.h"
+#include "tests/kit/Sanitized.h"
 
 namespace {
 
 using namespace std::string_literals;
 
 // A sanitizer makes each name ten times dearer.
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define ORVANE_IS_SANITIZED
-#endif
-#endif
-#ifdef ORVANE_IS_SANITIZED
-constexpr int namesOfEachSeed = 25;
-#else
-constexpr int namesOfEachSeed = 250;
-#endif
+constexpr int namesOfEachSeed = kit::isSanitized ? 25 : 250;
 constexpr const char* harm = "/tmp/harmed";
 
 // A name can't hold a slash, so the line makes its own.

@@ -1,0 +1,136 @@
+#include "desk/Dock.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "desk/KnownApplications.h"
+#include "desk/Machine.h"
+#include "desk/WindowFrame.h"
+#include "platform/FileURL.h"
+
+namespace desk {
+
+namespace {
+
+using platform::CGPoint;
+using platform::CGRect;
+using platform::CGRectMake;
+
+constexpr double dockGap = 8;
+constexpr double dividerRoom = 12;
+constexpr double smallestIcon = 8;
+
+bool isInApplications(const Machine& machine, const std::string& path) {
+    return machine.disk.kind(path) == platform::FileKind::directory;
+}
+
+std::string nameOfApplication(const std::string& path) {
+    const std::string_view name = platform::lastPathComponent(path);
+    return std::string(name.substr(0, name.rfind('.')));
+}
+
+void addRunning(const Machine& machine, std::vector<DockItem>& items) {
+    for (const Process& process : machine.processes.running()) {
+        if (process.policy != platform::NSApplicationActivationPolicy::regular) continue;
+        const auto same = std::find_if(items.begin(), items.end(),
+                                       [&](const DockItem& item) { return item.path == process.bundlePath; });
+        if (same == items.end())
+            items.push_back({process.name, process.bundlePath, true});
+        else
+            same->isRunning = true;
+    }
+}
+
+// The Dock's strip on the screen that shows that point.
+std::optional<CGRect> stripAt(const Machine& machine, const CGPoint& point) {
+    for (const DisplayOptions& options : machine.displays.options()) {
+        const CGRect& frame = options.frame;
+        const CGRect strip = CGRectMake(frame.minX(), frame.minY(), frame.width(), options.dock);
+        if (options.dock > 0 && platform::CGRectContainsPoint(strip, point)) return strip;
+    }
+    return std::nullopt;
+}
+
+void openFinder(Machine& machine) {
+    Finder& finder = machine.finder;
+    finder.launch();
+    machine.activate(finder.pid(), true);
+    const auto windows = finder.windows();
+    const bool hasFolderWindow = std::any_of(windows.begin(), windows.end(), [](const FinderWindow* window) {
+        return window->kind == FinderWindowKind::folder;
+    });
+    if (!hasFolderWindow) finder.open(machine.disk.home());
+}
+
+// Whoever has all of its windows on another space is followed there.
+void followToItsSpace(Machine& machine, std::int32_t owner) {
+    std::optional<int> elsewhere;
+    for (const ServerWindow* window : machine.windows.all()) {
+        if (window->owner != owner || !window->orderedIn || window->minimized) continue;
+        if (machine.windows.isOnScreen(*window)) return;
+        if (!elsewhere) elsewhere = window->space;
+    }
+    if (elsewhere) machine.switchToSpace(*elsewhere);
+}
+
+}  // namespace
+
+std::vector<DockItem> dockItems(const Machine& machine) {
+    std::vector<DockItem> items{{"Finder", finderPath}};
+    const std::optional<std::string> editor = knownEditor(machine.disk);
+    for (const std::string& path : {std::string(browserPath), std::string(terminalPath), editor.value_or("")})
+        if (isInApplications(machine, path)) items.push_back({nameOfApplication(path), path});
+    addRunning(machine, items);
+    for (const FinderWindow* window : machine.finder.windows())
+        if (window->minimized) items.push_back({window->name, {}, false, window->number});
+    return items;
+}
+
+DockLayout::DockLayout(platform::CGSize strip, const std::vector<DockItem>& items) {
+    const double height = strip.height - dockGap;
+    const double icon = std::floor(height - 2 * dockGap);
+    if (icon < smallestIcon || items.empty()) return;
+    const auto firstWindow =
+        std::find_if(items.begin(), items.end(), [](const DockItem& item) { return item.window != 0; });
+    const double room = firstWindow == items.end() ? 0 : dividerRoom;
+    const double width = static_cast<double>(items.size()) * (icon + dockGap) + dockGap + room;
+    plate = CGRectMake(std::floor((strip.width - width) / 2), 2, width, height);
+    double x = plate.minX() + dockGap;
+    for (auto item = items.begin(); item != items.end(); ++item) {
+        if (item == firstWindow) {
+            divider = x + dividerRoom / 2 - dockGap / 2;
+            x += dividerRoom;
+        }
+        icons.push_back(CGRectMake(x, plate.minY() + 6, icon, icon));
+        x += icon + dockGap;
+    }
+}
+
+bool isOnDock(const Machine& machine, const CGPoint& point) {
+    const auto strip = stripAt(machine, point);
+    return strip && containsInside(DockLayout(strip->size, dockItems(machine)).plate, insideWindow(*strip, point));
+}
+
+std::optional<std::size_t> dockItemAt(const Machine& machine, const CGPoint& point) {
+    const auto strip = stripAt(machine, point);
+    if (!strip) return std::nullopt;
+    const DockLayout layout(strip->size, dockItems(machine));
+    for (std::size_t i = 0; i < layout.icons.size(); ++i)
+        if (containsInside(layout.icons[i], insideWindow(*strip, point))) return i;
+    return std::nullopt;
+}
+
+void openDockItem(Machine& machine, const DockItem& item) {
+    if (item.window != 0) {
+        machine.activate(machine.finder.pid(), false);
+        machine.finder.restore(item.window);
+    } else if (item.path == finderPath) {
+        openFinder(machine);
+    } else {
+        machine.openApplication(item.path);
+    }
+    const Process* frontmost = machine.processes.frontmost();
+    if (frontmost != nullptr) followToItsSpace(machine, frontmost->processIdentifier);
+}
+
+}  // namespace desk

@@ -1,0 +1,77 @@
+#include "desk/WindowFrame.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace desk {
+
+using platform::CGPoint;
+using platform::CGRect;
+using platform::CGSize;
+
+namespace {
+
+constexpr double firstButton = 20;
+constexpr double buttonDistance = 20;
+constexpr double narrowestWithButtons = 150;
+
+constexpr double edgeThickness = 4;
+// The title bar is for moving: it gives up no more of itself than this.
+constexpr double topEdgeThickness = 2;
+constexpr double cornerReach = 12;
+constexpr double smallestWithEdges = 80;
+
+}  // namespace
+
+CGPoint centerOf(WindowButton button) {
+    return {firstButton + buttonDistance * static_cast<double>(button), windowTitleBarHeight / 2};
+}
+
+std::optional<WindowButton> windowButtonAt(const CGPoint& point, CGSize size) {
+    if (size.width < narrowestWithButtons || size.height < windowTitleBarHeight) return std::nullopt;
+    for (const WindowButton button : windowButtons) {
+        const CGPoint center = centerOf(button);
+        if (std::hypot(point.x - center.x, point.y - center.y) <= windowButtonDiameter / 2 + 1) return button;
+    }
+    return std::nullopt;
+}
+
+WindowEdges windowEdgesAt(const CGPoint& point, CGSize size) {
+    const bool isInside = containsInside({{}, size}, point);
+    if (!isInside || size.width < smallestWithEdges || size.height < smallestWithEdges) return {};
+    WindowEdges edges{
+        point.x<edgeThickness, point.x >= size.width - edgeThickness, point.y <= topEdgeThickness, point.y> size
+            .height -
+        edgeThickness};
+    if (edges.left || edges.right) {
+        edges.top = point.y <= cornerReach;
+        edges.bottom = point.y > size.height - cornerReach;
+    } else if (edges.top || edges.bottom) {
+        edges.left = point.x < cornerReach;
+        edges.right = point.x >= size.width - cornerReach;
+    }
+    return edges;
+}
+
+CGRect resizedFrame(const CGRect& frame, WindowEdges edges, const CGPoint& by, CGSize least) {
+    double left = frame.minX();
+    double right = frame.maxX();
+    double bottom = frame.minY();
+    double top = frame.maxY();
+    const double width = std::min(least.width, frame.width());
+    const double height = std::min(least.height, frame.height());
+    if (edges.left) left = std::min(left + by.x, right - width);
+    if (edges.right) right = std::max(right + by.x, left + width);
+    if (edges.bottom) bottom = std::min(bottom + by.y, top - height);
+    if (edges.top) top = std::max(top + by.y, bottom + height);
+    return {{left, bottom}, {right - left, top - bottom}};
+}
+
+CursorShape cursorFor(WindowEdges edges) {
+    if ((edges.left && edges.top) || (edges.right && edges.bottom)) return CursorShape::resizeNorthWestSouthEast;
+    if ((edges.right && edges.top) || (edges.left && edges.bottom)) return CursorShape::resizeNorthEastSouthWest;
+    if (edges.left || edges.right) return CursorShape::resizeLeftRight;
+    return edges.any() ? CursorShape::resizeUpDown : CursorShape::arrow;
+}
+
+}  // namespace desk

@@ -1,0 +1,56 @@
+// What every titled window has around its content: title bar, the three buttons, the edges that resize it. Points are those of the window, from its top left corner, y
+// downward, but for frames, which are AppKit's. It neither draws nor moves anything.
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "platform/Geometry.h"
+
+namespace desk {
+
+inline constexpr double windowTitleBarHeight = 28;
+inline constexpr double windowButtonDiameter = 12;
+// Where the title bar's own content may begin.
+inline constexpr double windowButtonsWidth = 78;
+
+enum class WindowButton { close, minimize, zoom };
+inline constexpr std::array windowButtons{WindowButton::close, WindowButton::minimize, WindowButton::zoom};
+
+platform::CGPoint centerOf(WindowButton button);
+// None in a window that is too narrow for a title bar beside them.
+std::optional<WindowButton> windowButtonAt(const platform::CGPoint& point, platform::CGSize size);
+
+struct WindowEdges {
+    bool left = false;
+    bool right = false;
+    bool top = false;
+    bool bottom = false;
+
+    bool any() const { return left || right || top || bottom; }
+    friend bool operator==(const WindowEdges&, const WindowEdges&) = default;
+};
+
+// The edges that a press there would drag: one, the two of a corner, or none. A window too small to be of use by hand has none.
+WindowEdges windowEdgesAt(const platform::CGPoint& point, platform::CGSize size);
+
+// The frame with these edges moved by that much, the others where they were. It becomes no smaller than `least`, or than it is already.
+platform::CGRect resizedFrame(const platform::CGRect& frame, WindowEdges edges, const platform::CGPoint& by,
+                              platform::CGSize least);
+
+enum class CursorShape { arrow, resizeLeftRight, resizeUpDown, resizeNorthWestSouthEast, resizeNorthEastSouthWest };
+CursorShape cursorFor(WindowEdges edges);
+
+// From the screen to the window with that frame, and back.
+inline platform::CGPoint insideWindow(const platform::CGRect& frame, const platform::CGPoint& point) {
+    return {point.x - frame.minX(), frame.maxY() - point.y};
+}
+// AppKit's rectangles have their bottom edge and lack their top one, so with y downward it is the other way round.
+inline bool containsInside(const platform::CGRect& part, const platform::CGPoint& point) {
+    return point.x >= part.minX() && point.x < part.maxX() && point.y > part.minY() && point.y <= part.maxY();
+}
+inline platform::CGRect onScreen(const platform::CGRect& frame, const platform::CGRect& part) {
+    return {{frame.minX() + part.minX(), frame.maxY() - part.maxY()}, part.size};
+}
+
+}  // namespace desk
