@@ -104,7 +104,7 @@ TEST_F(InRealTime, MainThreadGoesOnWhileAQueueWaits) {
 // Otherwise these hang.
 TEST_F(InRealTime, EndTurnsAwayWhoWaitsAndWhoComesLater) {
     enum class Outcome { none, waited, refused };
-    std::atomic<bool> isWaiting = false;
+    std::atomic<int> waiting = 0;
     std::atomic<int> begun = 0;
     Outcome outcome = Outcome::none;
     bool refusedAgain = false;
@@ -113,19 +113,20 @@ TEST_F(InRealTime, EndTurnsAwayWhoWaitsAndWhoComesLater) {
     const auto busy = loop.makeSerialQueue("busy", platform::QualityOfService::standard);
     slow->async([&] {
         const WorkerQueue::Visit visit;
-        isWaiting = true;
+        ++waiting;
         outcome = WorkerQueue::current()->waitFor(seconds(forEver)) ? Outcome::waited : Outcome::refused;
     });
     prompted->async([&] {
         {
             const WorkerQueue::Visit visit;
+            ++waiting;
             WorkerQueue::current()->waitForResume();
         }
         // By now the application is ending; its machine is still there to be visited.
         const WorkerQueue::Visit visit;
         refusedAgain = !WorkerQueue::current()->waitFor(seconds(forEver));
     });
-    runUntil([&] { return isWaiting.load(); });
+    runUntil([&] { return waiting == 2; });
     for (int i = 0; i < rounds; ++i)
         busy->async([&] {
             const WorkerQueue::Visit visit;
