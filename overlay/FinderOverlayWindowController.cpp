@@ -12,9 +12,9 @@ FinderOverlayWindowController::FinderOverlayWindowController(platform::Platform&
                                                              std::shared_ptr<ClipboardService> clipboardService,
                                                              std::shared_ptr<TerminalService> terminalService,
                                                              std::shared_ptr<VSCodeService> vscodeService)
-    : panel(std::make_shared<FinderOverlayPanel>(platform)),
-      viewModel(std::make_shared<FinderOverlayViewModel>()),
-      windowInteractionService(std::make_shared<FinderWindowInteractionService>(platform)) {
+    : windowInteractionService(std::make_shared<FinderWindowInteractionService>(platform)),
+      panel(std::make_shared<FinderOverlayPanel>(platform)),
+      viewModel(std::make_shared<FinderOverlayViewModel>()) {
     viewModel->onBeginEditing = [weakPanel = std::weak_ptr(panel)] {
         if (const auto held = weakPanel.lock()) held->makeKeyAndOrderFront();
     };

@@ -29,9 +29,9 @@ public:
     FinderOverlayWindowController(const FinderOverlayWindowController&) = delete;
     FinderOverlayWindowController& operator=(const FinderOverlayWindowController&) = delete;
 
+    const std::shared_ptr<FinderWindowInteractionService> windowInteractionService;
     const std::shared_ptr<FinderOverlayPanel> panel;
     const std::shared_ptr<FinderOverlayViewModel> viewModel;
-    const std::shared_ptr<FinderWindowInteractionService> windowInteractionService;
 
     bool isDragging = false;
     // As of the coordinator's last pass; empty before the first.
