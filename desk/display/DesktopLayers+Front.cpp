@@ -69,7 +69,7 @@ void DesktopLayers::addScreenFurniture(Machine& machine, std::size_t screen, std
         DrawingBuilder builder(machine.text, scheme);
         const CGRect strip = CGRectMake(frame.minX(), frame.maxY() - options.menuBar, frame.width(), options.menuBar);
         drawMenuBar(builder, strip.size,
-                    {machine.input.menuBar().titles(strip.size), clockText(machine.scheduler.now())});
+                    {machine.input.menuBar().titles(strip), clockText(machine.scheduler.now())});
         layers.push_back(drawn(firstMenuBarId - place, strip, builder));
     }
 }

@@ -17,7 +17,7 @@ constexpr double roomOnTheRight = 180;  // for clock and status items
 
 }  // namespace
 
-std::vector<MenuBarTitle> MenuBar::titles(platform::CGSize strip) const {
+std::vector<MenuBarTitle> MenuBar::titles(const CGRect& strip) const {
     std::vector<MenuBarTitle> shown;
     const Process* frontmost = machine.processes.frontmost();
     if (frontmost == nullptr) return shown;
@@ -25,8 +25,8 @@ std::vector<MenuBarTitle> MenuBar::titles(platform::CGSize strip) const {
     for (const std::string& text : menuBarMenus(machine, *frontmost)) {
         const platform::Font font = shown.empty() ? menuBarApplicationFont : menuBarFont;
         const double width = machine.text.width(text, font) + 2 * padding;
-        if (x + width > strip.width - roomOnTheRight) break;
-        shown.push_back({text, CGRectMake(x, 0, width, strip.height), isOpen() && openTitle == text});
+        if (x + width > strip.width() - roomOnTheRight) break;
+        shown.push_back({text, CGRectMake(x, 0, width, strip.height()), isOpen(strip, text)});
         x += width;
     }
     return shown;
@@ -36,13 +36,17 @@ bool MenuBar::isOpen() const {
     return openMenu != 0 && machine.menus.isOpen(openMenu);
 }
 
+bool MenuBar::isOpen(const CGRect& strip, const std::string& title) const {
+    return isOpen() && openStrip == strip && openTitle == title;
+}
+
 std::optional<MenuBar::Place> MenuBar::titleAt(const CGPoint& point) const {
     if (machine.windows.isFullScreenSpace()) return std::nullopt;
     for (const DisplayOptions& options : machine.displays.options()) {
         const CGRect strip = CGRectMake(options.frame.minX(), options.frame.maxY() - options.menuBar,
                                         options.frame.width(), options.menuBar);
         if (options.menuBar <= 0 || !platform::CGRectContainsPoint(strip, point)) continue;
-        const auto shown = titles(strip.size);
+        const auto shown = titles(strip);
         for (std::size_t i = 0; i < shown.size(); ++i)
             if (containsInside(shown[i].box, insideWindow(strip, point)))
                 return Place{strip, i, shown[i].text, onScreen(strip, shown[i].box)};
@@ -57,13 +61,14 @@ void MenuBar::mouseDown(const CGPoint& point) {
 void MenuBar::mouseMoved(const CGPoint& point) {
     if (!isOpen()) return;
     const auto place = titleAt(point);
-    if (place && place->text != openTitle) open(*place);
+    if (place && !isOpen(place->strip, place->text)) open(*place);
 }
 
 void MenuBar::open(const Place& place) {
     const Process* frontmost = machine.processes.frontmost();
     if (frontmost == nullptr) return;
     auto items = menuBarItems(machine, *frontmost, place.title == 0 ? std::string() : place.text);
+    openStrip = place.strip;
     openTitle = place.text;
     openMenu = machine.menus.openBelow(frontmost->processIdentifier, place.box, std::move(items));
 }

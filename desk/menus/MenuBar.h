@@ -30,8 +30,8 @@ class MenuBar {
 public:
     explicit MenuBar(Machine& theMachine) : machine(theMachine) {}
 
-    // In a strip of that size; the application's own name is the first. None without a frontmost application.
-    std::vector<MenuBarTitle> titles(platform::CGSize strip) const;
+    // In a strip there on the screens; the application's own name is the first. None without a frontmost application.
+    std::vector<MenuBarTitle> titles(const platform::CGRect& strip) const;
 
     void mouseDown(const platform::CGPoint& point);
     void mouseMoved(const platform::CGPoint& point);
@@ -47,8 +47,10 @@ private:
     std::optional<Place> titleAt(const platform::CGPoint& point) const;
     void open(const Place& place);
     bool isOpen() const;
+    bool isOpen(const platform::CGRect& strip, const std::string& title) const;
 
     Machine& machine;
+    platform::CGRect openStrip;
     std::string openTitle;
     std::uint64_t openMenu = 0;
 };

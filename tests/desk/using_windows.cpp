@@ -86,7 +86,7 @@ protected:
     UsingMenus() { machine.displays.set({{CGRectMake(0, 0, 1440, 900), 60, 24, 70}}); }
 
     CGPoint title(const std::string& text) {
-        for (const desk::MenuBarTitle& each : input.menuBar().titles({1440, 24}))
+        for (const desk::MenuBarTitle& each : input.menuBar().titles(CGRectMake(0, 876, 1440, 24)))
             if (each.text == text) return {each.box.midX(), 900 - each.box.midY()};
         ADD_FAILURE() << "no menu " << text;
         return {};
