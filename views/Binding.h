@@ -18,7 +18,8 @@ struct Binding {
         return {[value] { return value; }, [](T) {}};
     }
     static Binding to(platform::Published<T>& published) {
-        return {[&published] { return published.get(); }, [&published](T value) { published.setIfChanged(std::move(value)); }};
+        return {[&published] { return published.get(); },
+                [&published](T value) { published.setIfChanged(std::move(value)); }};
     }
 };
 
