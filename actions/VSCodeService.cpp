@@ -9,7 +9,8 @@ namespace brindle {
 bool VSCodeService::open(const std::string& path) {
     const auto application = applicationPath();
     if (!application) return false;
-    platform.workspace.openURLs({path}, *application);
+    // A file URL of no path is that of the current directory.
+    platform.workspace.openURLs({path.empty() ? platform.files.currentDirectoryPath() : path}, *application);
     return true;
 }
 

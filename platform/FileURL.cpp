@@ -23,10 +23,12 @@ void forEachName(std::string_view path, Visit visit) {
 }  // namespace
 
 std::string stringByExpandingTildeInPath(std::string_view path, std::string_view homeDirectory) {
-    const bool isHome = path == "~" || path.substr(0, 2) == "~/";
+    const std::string_view first = path.substr(0, path.find('/'));
+    const bool isHome = !first.empty() && first.front() == '~' &&
+                        (first.size() == 1 || first.substr(1) == lastPathComponent(homeDirectory));
     if (!isHome) return std::string(path);
     std::string expanded(homeDirectory);
-    expanded += path.substr(1);
+    expanded += path.substr(first.size());
     return expanded;
 }
 

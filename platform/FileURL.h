@@ -8,7 +8,7 @@
 
 namespace platform {
 
-// A leading "~" or "~/" becomes the home folder; anything else stays.
+// A leading "~" becomes the home folder, as does "~" with that folder's own name, when a slash or nothing follows; anything else stays.
 std::string stringByExpandingTildeInPath(std::string_view path, std::string_view homeDirectory);
 
 // The path of the standardized file URL: absolute against the directory when it is relative, without "." and "..", doubled and trailing slashes.

@@ -106,9 +106,9 @@ TEST_F(FinderNavigationServiceTest, StandardizesWhatIsTyped) {
         const char* typed;
         const char* path;
     };
-    for (const Case& each :
-         {Case{"~", "/Users/ana"}, Case{"~/", "/Users/ana"}, Case{"sub/", "/lost here/sub"}, Case{"", "/lost here"},
-          Case{"/..", "/"}, Case{"~other", "/lost here/~other"}, Case{" lead", "/lost here/ lead"}})
+    for (const Case& each : {Case{"~", "/Users/ana"}, Case{"~/", "/Users/ana"}, Case{"~ana/", "/Users/ana"},
+                             Case{"sub/", "/lost here/sub"}, Case{"", "/lost here"}, Case{"/..", "/"},
+                             Case{"~other", "/lost here/~other"}, Case{" lead", "/lost here/ lead"}})
         EXPECT_EQ(service.normalizedDirectoryPath(each.typed), each.path) << '"' << each.typed << '"';
 }
 

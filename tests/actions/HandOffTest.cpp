@@ -41,6 +41,10 @@ TEST(VSCodeService, PrefersTheCopyOfAllUsersAndSaysWhenThereIsNone) {
         EXPECT_EQ(VSCodeService(fake.platform).open("/a b"), !each.installed.empty());
         EXPECT_EQ(fake.opened, each.opened);
     }
+    kit::ActionsPlatform fake;
+    fake.disk[shared] = platform::FileKind::directory;
+    VSCodeService(fake.platform).open("");
+    EXPECT_EQ(fake.opened, (Opened{{shared, {fake.platform.files.currentDirectoryPath()}}}));
 }
 
 }  // namespace
