@@ -54,8 +54,9 @@ double Arguments::seconds(std::size_t index) const {
 }
 
 platform::CGRect Arguments::rect(std::size_t index) const {
-    const platform::CGRect rect =
-        platform::CGRectMake(number(index), number(index + 1), number(index + 2), number(index + 3));
+    // In braces, so that they are read in order and the first that can't be is told.
+    const double sides[] = {number(index), number(index + 1), number(index + 2), number(index + 3)};
+    const platform::CGRect rect = platform::CGRectMake(sides[0], sides[1], sides[2], sides[3]);
     if (rect.width() <= 0 || rect.height() <= 0) badCommand("a frame needs a width and a height above 0");
     return rect;
 }

@@ -1,6 +1,7 @@
 #include "play/Target.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "desk/AlertLayout.h"
 #include "desk/WindowFrame.h"
@@ -126,6 +127,9 @@ constexpr TargetKind targetKinds[] = {
 Target readTarget(ScriptPlayer& player, const Arguments& arguments) {
     for (const auto& kind : targetKinds)
         if (arguments.is(0, kind.name)) return kind.read(player, arguments.after(1));
+    const std::string& first = arguments.text(0);
+    if (!first.empty() && std::isalpha(static_cast<unsigned char>(first.front())) != 0)
+        badCommand("unknown target: " + first);
     return {arguments.point(0), 2};
 }
 
