@@ -136,6 +136,7 @@ Disk::Place Disk::placeIn(const Place& folder, std::string_view name) const {
 }
 
 std::optional<Disk::Place> Disk::walk(std::string_view path, Last last, Missing missing) const {
+    if (auto place = straightPlace(path)) return place;
     if (path.empty() || path.front() != '/' || path.find('\0') != std::string_view::npos) return std::nullopt;
     std::deque<std::string> names;
     pushFront(names, path);
@@ -160,26 +161,28 @@ std::optional<Disk::Place> Disk::walk(std::string_view path, Last last, Missing 
     return way.back();
 }
 
-// Where the way is straight, so that it needn't be walked step by step: scripts ask again and again for the folders and selections of all windows. Empty proves nothing.
-std::optional<platform::FileKind> Disk::plainKind(std::string_view path) const {
+// Where no link lies on the way, it needn't be walked step by step: scripts ask again and again for the folders and selections of all windows, and each line of the log for its file. Empty proves
+// nothing.
+std::optional<Disk::Place> Disk::straightPlace(std::string_view path) const {
+    while (path.size() > 1 && path.back() == '/') path.remove_suffix(1);
     const bool isStandard = path.size() > 1 && path.front() == '/' && path.find("/.") == std::string_view::npos &&
                             path.find("//") == std::string_view::npos && path.find('\0') == std::string_view::npos;
     if (!isStandard || isMountOrParentOfOne(path)) return std::nullopt;
     const Mount& mount = mountOf(path);
-    const auto kind = host::kindWithoutLinks(joined(mount.host, below(mount.path, path)));
+    std::string host = joined(mount.host, below(mount.path, path));
+    const auto kind = host::kindWithoutLinks(host);
     if (!kind) return std::nullopt;
-    return kind == host::EntryKind::directory ? platform::FileKind::directory : platform::FileKind::file;
+    return Place{std::string(path), std::move(host), true, kind == host::EntryKind::directory, false};
 }
 
 std::optional<platform::FileKind> Disk::kind(const std::string& path) const {
-    if (const auto plain = plainKind(path)) return plain;
     const auto place = walk(path, Last::followed, Missing::refused);
     if (!place) return std::nullopt;
     return place->isDirectory ? platform::FileKind::directory : platform::FileKind::file;
 }
 
 bool Disk::exists(const std::string& path) const {
-    return plainKind(path) || walk(path, Last::taken, Missing::refused);
+    return walk(path, Last::taken, Missing::refused).has_value();
 }
 
 std::optional<std::vector<DiskEntry>> Disk::list(const std::string& path) const {

@@ -92,7 +92,7 @@ private:
     enum class Last { followed, taken };
     enum class Missing { refused, allowed };
 
-    std::optional<platform::FileKind> plainKind(std::string_view path) const;
+    std::optional<Place> straightPlace(std::string_view path) const;
     std::optional<Place> walk(std::string_view path, Last last, Missing missing) const;
     Place root() const;
     Place placeIn(const Place& folder, std::string_view name) const;
