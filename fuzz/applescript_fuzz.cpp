@@ -14,17 +14,15 @@ public:
     std::vector<std::int64_t> windowIdentifiers() override { return {101, 102}; }
     std::optional<ScriptWindow> window(std::int64_t identifier) override {
         if (identifier == 101) {
-            return ScriptWindow{"ana", "/Users/ana", {0, 0, 800, 600}};
+            return ScriptWindow{"ana", "/Users/ana"};
         }
-        return identifier == 102 ? std::optional(ScriptWindow{"Recents", std::nullopt, {}}) : std::nullopt;
+        return identifier == 102 ? std::optional(ScriptWindow{"Recents", std::nullopt}) : std::nullopt;
     }
     std::vector<std::string> selection() override { return {"/Users/ana/note.txt"}; }
     void activate() override {}
     std::variant<std::int64_t, ScriptError> openWindow(const std::optional<std::string>&) override { return 101; }
-    std::optional<ScriptError> closeWindow(std::int64_t) override { return std::nullopt; }
     std::optional<ScriptError> setTarget(std::int64_t, const std::string&) override { return std::nullopt; }
-    std::optional<ScriptError> select(const std::vector<std::string>&) override { return std::nullopt; }
-    std::optional<ScriptError> open(const std::string&) override { return std::nullopt; }
+    std::optional<ScriptError> select(const std::string&) override { return std::nullopt; }
     ScriptPathKind pathKind(const std::string& path) override {
         const std::vector<std::string> folders{"/", "/Users", "/Users/ana", "/Users/ana/Desktop"};
         const bool isFolder = std::find(folders.begin(), folders.end(), path) != folders.end();
@@ -32,7 +30,6 @@ public:
                : path == "/Users/ana/note.txt" ? ScriptPathKind::file
                                                : ScriptPathKind::missing;
     }
-    std::string homePath() override { return "/Users/ana"; }
     void delay(double) override {}
     std::variant<std::string, ScriptError> doShellScript(const std::string& command, bool) override {
         return command + "\n";
@@ -46,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t si
     const std::unique_ptr<CompiledScript> script = compile(source, nullptr);
     if (script != nullptr) {
         TinyHost host;
-        run(*script, host, {"first", "second"}, ScriptLimits{50'000, 300});
+        run(*script, host, {"first", "second"}, ScriptLimits{50'000});
     }
     return 0;
 }

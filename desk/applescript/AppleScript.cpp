@@ -1,7 +1,6 @@
 #include "desk/applescript/AppleScript.h"
 
 #include "desk/applescript/Coercion.h"
-#include "desk/applescript/FilePath.h"
 #include "desk/applescript/Interpreter.h"
 #include "desk/applescript/Lexer.h"
 #include "desk/applescript/Parser.h"
@@ -13,18 +12,6 @@ namespace desk::applescript {
 namespace {
 
 constexpr std::size_t longestSource = 1 << 20;
-
-// As the descriptor of the result gives it: what has no text stays empty, and a missing value is its four-letter code.
-std::optional<std::string> stringValue(const Value& value) {
-    const Reference* reference = value.reference();
-    if (value.is<MissingValue>()) {
-        return "msng";
-    }
-    const bool isAlias = reference != nullptr && reference->kind == Reference::Kind::alias;
-    const bool isPlain = value.is<Text>() || value.isNumber() || value.is<bool>();
-    const std::optional<Text> text = isPlain || isAlias ? textOf(value, "") : std::nullopt;
-    return text ? std::optional(text->string()) : std::nullopt;
-}
 
 }  // namespace
 
@@ -50,7 +37,8 @@ std::unique_ptr<CompiledScript> compile(std::string_view source, ScriptError* er
 ScriptResult run(const CompiledScript& script, ScriptHost& host, const std::vector<std::string>& arguments,
                  const ScriptLimits& limits) {
     try {
-        return {stringValue(Interpreter(script.program(), host, limits).run(arguments)), std::nullopt};
+        const std::optional<Text> text = textOf(Interpreter(script.program(), host, limits).run(arguments));
+        return {text ? std::optional(text->string()) : std::nullopt, std::nullopt};
     } catch (const Failure& failure) {
         return {std::nullopt, failure.error};
     }

@@ -1,5 +1,6 @@
-// Compiles and runs AppleScript: the language subset that scripts to Finder use, with Finder's own terms. The desk's
-// NSAppleScript and osascript call it. Applications other than Finder, and user interaction, it doesn't have.
+// Compiles and runs AppleScript: the language subset that the system's own scripts use, with Finder's terms. What else
+// the language has is refused when a script is compiled: lists and records of one's own, arithmetic, handlers other
+// than `run`, applications other than Finder.
 #pragma once
 
 #include "desk/applescript/ScriptHost.h"
@@ -25,7 +26,7 @@ private:
 };
 
 struct ScriptResult {
-    // The result as text; empty for lists, records, references and a script without a result. Meaningless on an error.
+    // The result as text; empty for lists, references and a script without a result. Meaningless on an error.
     std::optional<std::string> stringValue;
     std::optional<ScriptError> error;
 };
@@ -33,7 +34,6 @@ struct ScriptResult {
 // What a script may use up before it is stopped, which no `try` of its own can prevent.
 struct ScriptLimits {
     std::int64_t steps = 2'000'000;
-    int depth = 600;
 };
 
 // Empty if the source is refused, with the reason in `error` where one is wanted. Source is UTF-8; other bytes pass

@@ -9,7 +9,7 @@ namespace desk::applescript {
 
 class Budget {
 public:
-    Budget(std::int64_t steps, int depth) : stepsLeft(steps), depthLeft(depth) {}
+    explicit Budget(std::int64_t steps) : stepsLeft(steps) {}
 
     void charge(std::int64_t steps) {
         stepsLeft -= steps;
@@ -18,26 +18,8 @@ public:
         }
     }
 
-    // One level of recursion, for as long as it lives.
-    class Level {
-    public:
-        explicit Level(Budget& owner) : budget(owner) {
-            if (budget.depthLeft <= 0) {
-                fail(ErrorNumber::stackOverflow, "Stack overflow.");
-            }
-            --budget.depthLeft;
-        }
-        ~Level() { ++budget.depthLeft; }
-        Level(const Level&) = delete;
-        Level& operator=(const Level&) = delete;
-
-    private:
-        Budget& budget;
-    };
-
 private:
     std::int64_t stepsLeft;
-    int depthLeft;
 };
 
 }  // namespace desk::applescript

@@ -2,13 +2,11 @@
 // nothing changes them after compilation.
 #pragma once
 
+#include "desk/applescript/Terminology.h"
 #include "desk/applescript/Value.h"
 
 #include <cstddef>
 #include <memory>
-#include <optional>
-#include <string>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -17,63 +15,19 @@ namespace desk::applescript {
 struct Expression;
 using ExpressionPtr = std::unique_ptr<Expression>;
 
-enum class Operator {
-    concatenate,
-    coerce,
-    add,
-    subtract,
-    multiply,
-    divide,
-    integerDivide,
-    modulo,
-    power,
-    equal,
-    notEqual,
-    less,
-    lessOrEqual,
-    greater,
-    greaterOrEqual,
-    contains,
-    doesNotContain,
-    isIn,
-    isNotIn,
-    startsWith,
-    endsWith,
-    isRunning,
-    isNotRunning,
-    logicalAnd,
-    logicalOr,
-};
-
 struct Literal {
     Value value;
 };
 
-// A place in the frame of the handler in which it stands.
+// The place of a variable in Program::names.
 struct Variable {
     std::size_t slot;
 };
 
-struct ListLiteral {
-    std::vector<ExpressionPtr> items;
-};
-
-struct RecordLiteral {
-    std::vector<std::pair<std::string, ExpressionPtr>> entries;
-};
-
-struct Negation {
-    ExpressionPtr operand;
-};
-
-struct LogicalNot {
-    ExpressionPtr operand;
-};
-
-struct BinaryOperation {
-    Operator operation;
+struct Comparison {
     ExpressionPtr left;
     ExpressionPtr right;
+    bool wantsEqual;
 };
 
 // A whole chain of `&`, so that it is put together in one text.
@@ -83,61 +37,37 @@ struct Concatenation {
 
 struct Coercion {
     ExpressionPtr operand;
-    ClassTerm wanted;
+    CoercionTerm wanted;
 };
-
-// The target of the innermost `tell`, and the script itself.
-struct ItReference {};
-struct MeReference {};
-struct AppleScriptReference {};
-struct ResultReference {};
 
 struct ApplicationReference {
     ExpressionPtr name;
-    bool isByIdentifier;
 };
 
+// Without a container they belong to the target of the innermost `tell`.
 struct PropertyAccess {
-    // The words in lower case, by which a record finds its entry.
-    std::string name;
-    // Empty for a label that only records can have.
-    std::optional<PropertyTerm> term;
-    // Empty: the target of the innermost `tell`.
+    PropertyTerm term;
     ExpressionPtr container;
 };
 
-enum class Selector { every, byIndexOrName, byIdentifier, byName, last, middle, some, range };
+enum class Selector { every, byIndex, byIdentifier };
 
 struct ElementAccess {
-    ClassTerm elements;
+    ElementTerm elements;
     Selector selector;
-    ExpressionPtr first;
-    // The other end of a range.
-    ExpressionPtr second;
-    ExpressionPtr filter;
+    ExpressionPtr which;
     ExpressionPtr container;
 };
 
 struct CommandCall {
     CommandTerm command;
     ExpressionPtr direct;
-    std::vector<std::pair<std::string, ExpressionPtr>> parameters;
-
-    bool has(std::string_view label) const;
-    const Expression* parameter(std::string_view label) const;
-};
-
-struct HandlerCall {
-    std::string name;
-    std::vector<ExpressionPtr> arguments;
-    // Said with `my` or `of me`: within a `tell`, other calls go to the application.
-    bool isToMe;
+    bool asAdministrator = false;
 };
 
 struct Expression {
-    using Node = std::variant<Literal, Variable, ListLiteral, RecordLiteral, Negation, LogicalNot, BinaryOperation,
-                              Concatenation, Coercion, ItReference, MeReference, AppleScriptReference, ResultReference,
-                              ApplicationReference, PropertyAccess, ElementAccess, CommandCall, HandlerCall>;
+    using Node = std::variant<Literal, Variable, Comparison, Concatenation, Coercion, ApplicationReference,
+                              PropertyAccess, ElementAccess, CommandCall>;
 
     Node node;
     // Levels below and including this one, kept small enough to be walked by recursion.

@@ -1,7 +1,5 @@
 #include "desk/applescript/FilePath.h"
 
-#include <algorithm>
-
 namespace desk::applescript {
 
 namespace {
@@ -35,16 +33,8 @@ std::string_view lastComponent(std::string_view path) {
     return path == "/" ? startupDiskName : path.substr(path.rfind('/') + 1);
 }
 
-std::string joinedPath(std::string_view folder, std::string_view name) {
-    return std::string(folder) + (folder == "/" ? "" : "/") + std::string(name);
-}
-
 std::string finderName(std::string_view diskName) {
     return exchanged(diskName);
-}
-
-std::string diskName(std::string_view finderName) {
-    return exchanged(finderName);
 }
 
 std::string colonPath(std::string_view posixPath, bool isFolder) {
@@ -55,17 +45,6 @@ std::string colonPath(std::string_view posixPath, bool isFolder) {
         path += exchanged(posixPath);
     }
     return path + (isFolder ? ":" : "");
-}
-
-std::string posixPathFromColons(std::string_view colonPath) {
-    while (!colonPath.empty() && colonPath.back() == ':') {
-        colonPath.remove_suffix(1);
-    }
-    const std::size_t colon = std::min(colonPath.find(':'), colonPath.size());
-    if (colonPath.substr(0, colon) != startupDiskName) {
-        return std::string(otherDisks) + exchanged(colonPath);
-    }
-    return colon == colonPath.size() ? "/" : exchanged(colonPath.substr(colon));
 }
 
 std::string quotedForShell(std::string_view text) {

@@ -11,14 +11,11 @@ namespace desk::applescript {
 std::string withoutTrailingSlashes(std::string_view path);
 std::string parentPath(std::string_view path);
 std::string_view lastComponent(std::string_view path);
-std::string joinedPath(std::string_view folder, std::string_view name);
 
 // A colon on disk is a slash in Finder, and the other way round.
 std::string finderName(std::string_view diskName);
-std::string diskName(std::string_view finderName);
 
 std::string colonPath(std::string_view posixPath, bool isFolder);
-std::string posixPathFromColons(std::string_view colonPath);
 
 // In single quotes, for a shell.
 std::string quotedForShell(std::string_view text);

@@ -4,7 +4,6 @@
 #include "desk/applescript/Failure.h"
 #include "desk/applescript/FilePath.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace desk::applescript {
@@ -15,18 +14,27 @@ Value windowReference(std::int64_t identifier) {
     return Value::reference({Reference::Kind::window, "", false, identifier});
 }
 
+[[noreturn]] void failToFind(const Value& value) {
+    failInFinder(ErrorNumber::noSuchObject, "Can’t get " + described(value) + ".");
+}
+
+// Of a file, or of the only one in a list.
+std::optional<std::string> pathOf(const Value& value) {
+    if (value.list() != nullptr && value.list()->size() == 1) {
+        return pathOf(value.list()->front());
+    }
+    const Reference* reference = value.reference();
+    return reference != nullptr && reference->isOnDisk() ? std::optional(reference->path) : std::nullopt;
+}
+
 }  // namespace
 
 void failInFinder(std::int64_t number, const std::string& sentence) {
     fail(number, "Finder got an error: " + sentence);
 }
 
-void failToFind(const Value& value) {
-    failInFinder(ErrorNumber::noSuchObject, "Can’t get " + described(value) + ".");
-}
-
 Value FinderTerms::application() {
-    return Value::reference({Reference::Kind::application, "", false, 0});
+    return Value::reference({});
 }
 
 Value FinderTerms::file(Reference::Kind kind, std::string_view posixPath, bool isFolder) {
@@ -35,7 +43,7 @@ Value FinderTerms::file(Reference::Kind kind, std::string_view posixPath, bool i
 
 Value FinderTerms::windows() {
     requireFinder();
-    std::vector<Value> windows;
+    Value::List windows;
     for (const std::int64_t identifier : host.windowIdentifiers()) {
         windows.push_back(windowReference(identifier));
     }
@@ -47,43 +55,50 @@ std::optional<Value> FinderTerms::window(std::int64_t identifier) {
     return host.window(identifier) ? std::optional(windowReference(identifier)) : std::nullopt;
 }
 
-std::optional<Value> FinderTerms::diskItem(ClassTerm kind, const Value& container, const std::string& name) {
+std::optional<Value> FinderTerms::property(const Reference& owner, PropertyTerm term) {
+    if (owner.kind == Reference::Kind::window) {
+        return windowProperty(owner, term);
+    }
+    if (owner.kind != Reference::Kind::application || term != PropertyTerm::selection) {
+        return std::nullopt;
+    }
     requireFinder();
-    std::string path;
-    if (name.find(':') != std::string::npos) {
-        path = posixPathFromColons(name);
-    } else if (kind == ClassTerm::disk) {
-        path = posixPathFromColons(name);
-    } else if (name.empty()) {
-        return std::nullopt;
-    } else {
-        const Reference* owner = container.reference();
-        const bool isImplicit = owner != nullptr && owner->kind == Reference::Kind::application;
-        const std::optional<std::string> folder =
-            isImplicit ? std::optional(joinedPath(host.homePath(), "Desktop")) : pathOf(container);
-        if (!folder) {
-            return std::nullopt;
-        }
-        path = joinedPath(*folder, diskName(name));
+    Value::List items;
+    for (const std::string& path : host.selection()) {
+        items.push_back(file(Reference::Kind::item, path));
     }
-    const ScriptPathKind found = host.pathKind(path);
-    const bool wantsFolder = kind == ClassTerm::folder || kind == ClassTerm::disk;
-    const bool fits = found == ScriptPathKind::folder ? kind != ClassTerm::file : !wantsFolder;
-    if (found == ScriptPathKind::missing || !fits) {
-        return std::nullopt;
-    }
-    return file(Reference::Kind::item, path, found == ScriptPathKind::folder);
+    return Value::list(std::move(items));
 }
 
-bool FinderTerms::exists(const Value& value) {
-    const Reference* reference = value.reference();
-    if (reference == nullptr) {
-        return !value.is<MissingValue>();
+std::optional<Value> FinderTerms::windowProperty(const Reference& owner, PropertyTerm term) {
+    requireFinder();
+    const ScriptWindow window = requiredWindow(owner);
+    switch (term) {
+    case PropertyTerm::identifier:
+        return Value::number(owner.windowIdentifier);
+    case PropertyTerm::name:
+        return Value::text(window.name);
+    case PropertyTerm::target:
+        return window.path ? file(Reference::Kind::item, *window.path, true)
+                           : Value::reference({Reference::Kind::virtualTarget, "", false, owner.windowIdentifier});
+    default:
+        return std::nullopt;
     }
-    if (reference->kind == Reference::Kind::window) {
-        return window(reference->windowIdentifier).has_value();
+}
+
+bool FinderTerms::setProperty(const Reference& owner, PropertyTerm term, const Value& value) {
+    requireFinder();
+    if (owner.kind != Reference::Kind::window || term != PropertyTerm::target) {
+        return false;
     }
-    return !reference->isOnDisk() || host.pathKind(reference->path) != ScriptPathKind::missing;
+    requiredWindow(owner);
+    const std::optional<std::string> path = pathOf(value);
+    if (!path || host.pathKind(*path) != ScriptPathKind::folder) {
+        failInFinder(ErrorNumber::writeDenied,
+                     "Can’t set target of " + described(Value::reference(owner)) + " to " + described(value) + ".");
+    }
+    requireSuccess(host.setTarget(owner.windowIdentifier, *path));
+    return true;
 }
 
 void FinderTerms::activate() {
@@ -107,44 +122,19 @@ Value FinderTerms::makeWindow(const std::optional<Value>& target) {
     return windowReference(std::get<std::int64_t>(opened));
 }
 
-void FinderTerms::close(const Value& windows) {
+void FinderTerms::select(const Value& item) {
     requireFinder();
-    const Value all = listOf(windows);
-    for (const Value& each : all.list()->items) {
-        const Reference* reference = each.reference();
-        if (reference == nullptr || reference->kind != Reference::Kind::window) {
-            failInFinder(ErrorNumber::notUnderstood, described(each) + " doesn’t understand the “close” message.");
-        }
-        requiredWindow(*reference);
-        requireSuccess(host.closeWindow(reference->windowIdentifier));
-    }
-}
-
-void FinderTerms::select(const Value& items) {
-    requireFinder();
-    requireSuccess(host.select(existingPaths(items)));
-}
-
-void FinderTerms::open(const Value& items) {
-    requireFinder();
-    for (const std::string& path : existingPaths(items)) {
-        requireSuccess(host.open(path));
-    }
+    requireSuccess(host.select(existingPath(item)));
 }
 
 Value FinderTerms::alias(const Value& value) {
-    const List* list = value.list();
-    if (list != nullptr && list->items.size() == 1) {
-        return alias(list->items.front());
-    }
     const Reference* reference = value.reference();
     if (reference != nullptr && reference->kind == Reference::Kind::virtualTarget) {
         failInFinder(ErrorNumber::badCoercion, "Can’t make " + described(value) + " into type alias.");
     }
-    const bool isFile = reference != nullptr && reference->isOnDisk();
-    const std::optional<std::string> path = isFile || value.is<Text>() ? pathOf(value) : std::nullopt;
+    const std::optional<std::string> path = pathOf(value);
     if (!path) {
-        failCoercion(value, ClassTerm::alias);
+        failCoercion(value, "alias");
     }
     const ScriptPathKind kind = host.pathKind(*path);
     if (kind == ScriptPathKind::missing) {
@@ -152,30 +142,6 @@ Value FinderTerms::alias(const Value& value) {
              "File " + described(file(Reference::Kind::posixFile, *path)) + " wasn’t found.");
     }
     return file(Reference::Kind::alias, *path, kind == ScriptPathKind::folder);
-}
-
-Value FinderTerms::aliasList(const Value& value) {
-    std::vector<Value> aliases;
-    const Value all = listOf(value);
-    for (const Value& each : all.list()->items) {
-        aliases.push_back(alias(each));
-    }
-    return Value::list(std::move(aliases));
-}
-
-Value FinderTerms::folderAt(std::string_view place) {
-    if (place == "startup disk") {
-        return alias(file(Reference::Kind::posixFile, "/"));
-    }
-    if (place == "applications folder") {
-        return alias(file(Reference::Kind::posixFile, "/Applications"));
-    }
-    if (place == "home folder") {
-        return alias(file(Reference::Kind::posixFile, host.homePath()));
-    }
-    std::string folder(place.substr(0, place.find(' ')));
-    folder.front() = static_cast<char>(folder.front() - 'a' + 'A');
-    return alias(file(Reference::Kind::posixFile, joinedPath(host.homePath(), folder)));
 }
 
 void FinderTerms::requireFinder() {
@@ -196,38 +162,12 @@ ScriptWindow FinderTerms::requiredWindow(const Reference& reference) {
     return std::move(*window);
 }
 
-std::optional<std::string> FinderTerms::pathOf(const Value& value) const {
-    if (const Text* text = value.as<Text>()) {
-        const bool hasColon = text->view().find(':') != std::string_view::npos;
-        return hasColon ? std::optional(posixPathFromColons(text->view())) : std::nullopt;
-    }
-    const List* list = value.list();
-    if (list != nullptr && list->items.size() == 1) {
-        return pathOf(list->items.front());
-    }
-    const Reference* reference = value.reference();
-    if (reference != nullptr && reference->kind == Reference::Kind::window) {
-        const std::optional<ScriptWindow> window = host.window(reference->windowIdentifier);
-        return window ? window->path : std::nullopt;
-    }
-    return reference != nullptr && reference->isOnDisk() ? std::optional(reference->path) : std::nullopt;
-}
-
 std::string FinderTerms::existingPath(const Value& value) {
     std::optional<std::string> path = pathOf(value);
     if (!path || host.pathKind(*path) == ScriptPathKind::missing) {
         failToFind(value);
     }
     return std::move(*path);
-}
-
-std::vector<std::string> FinderTerms::existingPaths(const Value& items) {
-    std::vector<std::string> paths;
-    const Value all = listOf(items);
-    for (const Value& item : all.list()->items) {
-        paths.push_back(existingPath(item));
-    }
-    return paths;
 }
 
 }  // namespace desk::applescript

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "desk/applescript/ScriptHost.h"
+#include "desk/applescript/Terminology.h"
 #include "desk/applescript/Value.h"
 
 #include <optional>
@@ -12,7 +13,6 @@ namespace desk::applescript {
 
 // Throws Failure with "Finder got an error: " before the sentence.
 [[noreturn]] void failInFinder(std::int64_t number, const std::string& sentence);
-[[noreturn]] void failToFind(const Value& value);
 
 // Every operation throws Failure when Finder can't be spoken to or refuses.
 class FinderTerms {
@@ -25,9 +25,6 @@ public:
     Value windows();
     // Empty if there is no such window.
     std::optional<Value> window(std::int64_t identifier);
-    // A folder, file, disk or item of a folder by name, or by a path with colons; empty if there is none of that kind.
-    std::optional<Value> diskItem(ClassTerm kind, const Value& container, const std::string& name);
-    bool exists(const Value& value);
 
     // Empty for a property that such things don't have.
     std::optional<Value> property(const Reference& owner, PropertyTerm term);
@@ -36,26 +33,17 @@ public:
 
     void activate();
     Value makeWindow(const std::optional<Value>& target);
-    void close(const Value& windows);
-    void select(const Value& items);
-    void open(const Value& items);
+    void select(const Value& item);
 
     // `as alias`: something that exists on disk.
     Value alias(const Value& value);
-    Value aliasList(const Value& value);
-    Value folderAt(std::string_view place);
 
 private:
     void requireFinder();
     ScriptWindow requiredWindow(const Reference& reference);
-    std::optional<std::string> pathOf(const Value& value) const;
     std::string existingPath(const Value& value);
-    std::vector<std::string> existingPaths(const Value& items);
     void requireSuccess(const std::optional<ScriptError>& error);
-
-    std::optional<Value> applicationProperty(PropertyTerm term);
     std::optional<Value> windowProperty(const Reference& owner, PropertyTerm term);
-    std::optional<Value> fileProperty(const Reference& owner, PropertyTerm term);
 
     ScriptHost& host;
 };

@@ -1,32 +1,43 @@
 #include "desk/applescript/Interpreter.h"
 
 #include "desk/applescript/Coercion.h"
-#include "desk/applescript/Operators.h"
+#include "desk/applescript/FilePath.h"
 #include "desk/applescript/TextCase.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace desk::applescript {
 
 namespace {
 
-Value scriptReference() {
-    return Value::reference({Reference::Kind::script, "", false, 0});
+constexpr std::int64_t costOfHostCall = 20;
+constexpr std::int64_t costOfDelay = 200;
+constexpr std::int64_t costOfShell = 20'000;
+
+// Finder's own references have no path of this kind; they become an alias first.
+std::optional<Value> languageProperty(PropertyTerm term, const Value& owner) {
+    const Text* text = owner.as<Text>();
+    if (term == PropertyTerm::quotedForm && text != nullptr) {
+        return Value::text(quotedForShell(text->view()));
+    }
+    const Reference* file = owner.reference();
+    const bool hasPath = file != nullptr && file->isOnDisk() && file->kind != Reference::Kind::item;
+    if (term != PropertyTerm::posixPath || !hasPath) {
+        return std::nullopt;
+    }
+    return Value::text(file->path + (file->isFolder && file->path != "/" ? "/" : ""));
 }
 
-// Puts a variable back when its block is left, by whatever way.
-template <typename T>
-class Restored {
-public:
-    Restored(T& variable, T value) : place(variable), former(std::exchange(variable, std::move(value))) {}
-    ~Restored() { place = std::move(former); }
-    Restored(const Restored&) = delete;
-    Restored& operator=(const Restored&) = delete;
-
-private:
-    T& place;
-    T former;
-};
+[[noreturn]] void failGetting(const std::string& what, const Value& owner) {
+    const Reference* reference = owner.reference();
+    const bool isApplication = reference != nullptr && reference->kind == Reference::Kind::application;
+    const std::string sentence = "Can’t get " + what + (isApplication ? "." : " of " + described(owner) + ".");
+    if (reference != nullptr) {
+        failInFinder(ErrorNumber::noSuchObject, sentence);
+    }
+    fail(ErrorNumber::noSuchObject, sentence);
+}
 
 }  // namespace
 
@@ -34,229 +45,180 @@ Interpreter::Interpreter(const Program& compiled, ScriptHost& scriptHost, const 
     : program(compiled),
       host(scriptHost),
       finder(scriptHost),
-      budget(limits.steps, limits.depth),
-      globals(compiled.globalCount) {
-    targets.push_back(scriptReference());
-}
+      budget(limits.steps),
+      variables(compiled.names.size()),
+      targets(1) {}
 
 Value Interpreter::run(const std::vector<std::string>& arguments) {
-    Frame main{program.main, {}};
-    frame = &main;
-    execute(program.main.body);
-    const Handler* runHandler = program.handler("run");
-    if (runHandler == nullptr) {
+    if (execute(program.main) == Flow::returned) {
         return result;
     }
-    std::vector<Value> values;
-    for (const std::string& argument : arguments) {
-        values.push_back(Value::text(argument));
+    if (program.argumentsSlot) {
+        Value::List texts;
+        for (const std::string& argument : arguments) {
+            texts.push_back(Value::text(argument));
+        }
+        variables[*program.argumentsSlot] = Value::list(std::move(texts));
     }
-    if (!runHandler->takesArgumentsSeparately) {
-        values = {Value::list(std::move(values))};
-    }
-    values.resize(runHandler->parameters.size(), Value(MissingValue{}));
-    return call(*runHandler, std::move(values));
-}
-
-Value& Interpreter::place(std::size_t slot) {
-    const std::optional<std::size_t>& global = frame->handler.globals[slot];
-    return global ? globals[*global] : frame->slots[slot];
+    execute(program.runHandler);
+    return result;
 }
 
 Value Interpreter::evaluate(const Expression& expression) {
-    const Budget::Level level(budget);
     budget.charge(1);
     return std::visit([this](const auto& node) { return evaluate(node); }, expression.node);
 }
 
 Value Interpreter::evaluate(const Variable& node) {
-    const Value& value = place(node.slot);
+    const Value& value = variables[node.slot];
     if (value.is<Nothing>()) {
-        fail(ErrorNumber::undefinedVariable,
-             "The variable " + frame->handler.writtenNames[node.slot] + " is not defined.");
+        fail(ErrorNumber::undefinedVariable, "The variable " + program.writtenNames[node.slot] + " is not defined.");
     }
     return value;
 }
 
-Value Interpreter::evaluate(const ListLiteral& node) {
-    std::vector<Value> items;
-    items.reserve(node.items.size());
-    for (const ExpressionPtr& item : node.items) {
-        items.push_back(evaluate(*item));
-    }
-    return Value::list(std::move(items));
-}
-
-Value Interpreter::evaluate(const RecordLiteral& node) {
-    std::vector<std::pair<std::string, Value>> entries;
-    for (const auto& [key, value] : node.entries) {
-        entries.emplace_back(key, evaluate(*value));
-    }
-    return Value::record(std::move(entries));
-}
-
-Value Interpreter::evaluate(const Negation& node) {
-    return negated(evaluate(*node.operand));
-}
-
-Value Interpreter::evaluate(const LogicalNot& node) {
-    return Value::boolean(!evaluateCondition(*node.operand));
-}
-
-Value Interpreter::evaluate(const BinaryOperation& node) {
-    switch (node.operation) {
-    case Operator::logicalAnd:
-        return Value::boolean(evaluateCondition(*node.left) && evaluateCondition(*node.right));
-    case Operator::logicalOr:
-        return Value::boolean(evaluateCondition(*node.left) || evaluateCondition(*node.right));
-    case Operator::isRunning:
-    case Operator::isNotRunning: {
-        const PropertyAccess running{"running", PropertyTerm::running, nullptr};
-        const Value answer = propertyOf(evaluate(*node.left), running);
-        return Value::boolean((answer.as<bool>() != nullptr && *answer.as<bool>()) ==
-                              (node.operation == Operator::isRunning));
-    }
-    case Operator::add:
-    case Operator::subtract:
-    case Operator::multiply:
-    case Operator::divide:
-    case Operator::integerDivide:
-    case Operator::modulo:
-    case Operator::power: {
-        const Value left = evaluate(*node.left);
-        return arithmetic(node.operation, left, evaluate(*node.right));
-    }
-    default:
-        break;
-    }
+Value Interpreter::evaluate(const Comparison& node) {
     const Value left = evaluate(*node.left);
-    const Value right = evaluate(*node.right);
-    budget.charge(static_cast<std::int64_t>((left.weight() + right.weight()) / 16));
-    chargeForText((left.is<Text>() ? left.as<Text>()->view().size() : 0) +
-                  (right.is<Text>() ? right.as<Text>()->view().size() : 0));
-    return Value::boolean(compare(node.operation, left, right, considersCase));
+    return Value::boolean(areEqual(left, evaluate(*node.right)) == node.wantsEqual);
 }
 
 Value Interpreter::evaluate(const Concatenation& node) {
-    Value joined = evaluate(*node.operands.front());
+    Text joined = requiredText(evaluate(*node.operands.front()));
     for (std::size_t index = 1; index < node.operands.size(); ++index) {
-        joined = concatenated(std::move(joined), evaluate(*node.operands[index]));
+        const Text more = requiredText(evaluate(*node.operands[index]));
+        const std::size_t copied = joined.growsInPlace() ? 0 : joined.view().size();
+        budget.charge(static_cast<std::int64_t>((more.view().size() + copied) / 64));
+        joined = joined.appending(more.view());
     }
-    return joined;
+    return Value(joined);
 }
 
-// By value, so that a text that is referred to from here alone grows in place.
-// NOLINTNEXTLINE(performance-unnecessary-value-param)
-Value Interpreter::concatenated(Value left, const Value& right) {
-    if (const Text* text = left.as<Text>()) {
-        if (const std::optional<Text> more = textOf(right, delimiters.view())) {
-            chargeForText(more->view().size() + (text->growsInPlace() ? 0 : text->view().size()));
-            return Value(text->appending(more->view()));
-        }
+Value Interpreter::evaluate(const Coercion& node) {
+    const Value value = evaluate(*node.operand);
+    if (node.wanted == CoercionTerm::text) {
+        return Value(requiredText(value));
     }
-    budget.charge(static_cast<std::int64_t>((left.weight() + right.weight()) / 16));
-    if (left.record() != nullptr && right.record() != nullptr) {
-        std::vector<std::pair<std::string, Value>> entries = left.record()->entries;
-        for (const auto& entry : right.record()->entries) {
-            if (left.record()->find(entry.first) == nullptr) {
-                entries.push_back(entry);
-            }
-        }
-        return Value::record(std::move(entries));
-    }
-    std::vector<Value> items;
-    for (const Value* part : {static_cast<const Value*>(&left), &right}) {
-        if (part->list() != nullptr) {
-            items.insert(items.end(), part->list()->items.begin(), part->list()->items.end());
-        } else {
-            items.push_back(*part);
-        }
-    }
-    return Value::list(std::move(items));
-}
-
-Value Interpreter::evaluate(const MeReference&) {
-    return scriptReference();
-}
-
-Value Interpreter::evaluate(const AppleScriptReference&) {
-    return Value::reference({Reference::Kind::appleScript, "", false, 0});
-}
-
-Value Interpreter::evaluate(const ResultReference&) {
-    if (result.is<Nothing>()) {
-        fail(ErrorNumber::undefinedVariable, "The variable result is not defined.");
-    }
-    return result;
+    budget.charge(costOfHostCall);
+    return finder.alias(value);
 }
 
 Value Interpreter::evaluate(const ApplicationReference& node) {
     const Value name = evaluate(*node.name);
-    const std::string wanted = node.isByIdentifier ? "com.apple.finder" : "finder";
-    if (foldedCase(requiredText(name).view()) != wanted) {
-        fail(ErrorNumber::noSuchObject,
-             std::string("Can’t get application ") + (node.isByIdentifier ? "id " : "") + described(name) + ".");
+    if (foldedCase(requiredText(name).view()) != "finder") {
+        fail(ErrorNumber::noSuchObject, "Can’t get application " + described(name) + ".");
     }
     return FinderTerms::application();
 }
 
-Value Interpreter::evaluate(const HandlerCall& node) {
-    const bool goesToScript =
-        node.isToMe || (target().reference() != nullptr && target().reference()->kind == Reference::Kind::script);
-    const Handler* handler = program.handler(node.name);
-    if (!goesToScript) {
-        failInFinder(ErrorNumber::notUnderstood, "Can’t continue " + node.name + ".");
-    }
-    if (handler == nullptr) {
-        fail(ErrorNumber::notUnderstood, "«script» doesn’t understand the “" + node.name + "” message.");
-    }
-    if (node.arguments.size() != handler->parameters.size()) {
-        fail(ErrorNumber::wrongParameters, "The parameters don’t match those of the handler “" + node.name + "”.");
-    }
-    std::vector<Value> arguments;
-    for (const ExpressionPtr& argument : node.arguments) {
-        arguments.push_back(evaluate(*argument));
-    }
-    return call(*handler, std::move(arguments));
+Value Interpreter::containerOf(const ExpressionPtr& container) {
+    return container == nullptr ? targets.back() : evaluate(*container);
 }
 
-Value Interpreter::call(const Handler& handler, std::vector<Value> arguments) {
-    Frame called{handler, std::vector<Value>(handler.names.size())};
-    for (std::size_t index = 0; index < handler.parameters.size(); ++index) {
-        called.slots[handler.parameters[index]] = std::move(arguments[index]);
+Value Interpreter::evaluate(const PropertyAccess& node) {
+    const Value owner = containerOf(node.container);
+    std::optional<Value> answer;
+    if (owner.reference() != nullptr) {
+        budget.charge(costOfHostCall);
+        answer = finder.property(*owner.reference(), node.term);
     }
-    const Budget::Level level(budget);
-    const Restored<Frame*> restoredFrame(frame, &called);
-    const Entered script(*this, scriptReference());
-    result = Value();
-    execute(handler.body);
-    return result;
+    if (!answer) {
+        answer = languageProperty(node.term, owner);
+    }
+    if (!answer) {
+        failGetting(std::string(nameOf(node.term)), owner);
+    }
+    return *answer;
 }
 
-std::int64_t Interpreter::evaluateInteger(const Expression& expression) {
-    const Value value = evaluate(expression);
-    const std::optional<std::int64_t> number = integerOf(value);
-    if (!number) {
-        failCoercion(value, ClassTerm::integer);
+Value Interpreter::evaluate(const ElementAccess& node) {
+    if (node.elements == ElementTerm::finderWindow) {
+        return window(node);
     }
-    return *number;
+    const Value container = containerOf(node.container);
+    const std::int64_t number = requiredInteger(evaluate(*node.which));
+    const Value::List* list = container.list();
+    if (list == nullptr || number < 1 || static_cast<std::size_t>(number) > list->size()) {
+        failGetting("item " + std::to_string(number), container);
+    }
+    return (*list)[static_cast<std::size_t>(number) - 1];
 }
 
-bool Interpreter::evaluateCondition(const Expression& expression) {
-    const Value value = evaluate(expression);
-    const std::optional<bool> flag = booleanOf(value);
-    if (!flag) {
-        failCoercion(value, ClassTerm::boolean);
+// Only Finder has any.
+Value Interpreter::window(const ElementAccess& node) {
+    if (node.selector == Selector::byIdentifier) {
+        const std::int64_t identifier = requiredInteger(evaluate(*node.which));
+        const std::optional<Value> found = finder.window(identifier);
+        if (!found) {
+            failGetting("Finder window id " + std::to_string(identifier), FinderTerms::application());
+        }
+        return *found;
     }
-    return *flag;
+    Value windows = finder.windows();
+    const Value::List& list = *windows.list();
+    budget.charge(static_cast<std::int64_t>(list.size() / 4));
+    if (node.selector == Selector::every) {
+        return windows;
+    }
+    const std::int64_t number = requiredInteger(evaluate(*node.which));
+    if (number < 1 || static_cast<std::size_t>(number) > list.size()) {
+        failGetting("Finder window " + std::to_string(number), FinderTerms::application());
+    }
+    return list[static_cast<std::size_t>(number) - 1];
 }
 
-Text Interpreter::requiredText(const Value& value) {
-    const std::optional<Text> text = textOf(value, delimiters.view());
-    if (!text) {
-        failCoercion(value, ClassTerm::text);
+Value Interpreter::evaluate(const CommandCall& node) {
+    budget.charge(costOfHostCall);
+    if (node.command == CommandTerm::doShellScript) {
+        return doShellScript(node);
     }
-    return *text;
+    const Value direct = node.direct == nullptr ? Value() : evaluate(*node.direct);
+    switch (node.command) {
+    case CommandTerm::activate:
+        finder.activate();
+        return Value();
+    case CommandTerm::make:
+        return finder.makeWindow(node.direct == nullptr ? std::nullopt : std::optional(direct));
+    case CommandTerm::select:
+        finder.select(direct);
+        return Value();
+    case CommandTerm::count:
+        if (direct.list() == nullptr) {
+            fail(ErrorNumber::notUnderstood, described(direct) + " doesn’t understand the “count” message.");
+        }
+        return Value::number(static_cast<std::int64_t>(direct.list()->size()));
+    case CommandTerm::delay:
+        budget.charge(costOfDelay);
+        host.delay(requiredNumber(direct));
+        return Value();
+    case CommandTerm::asciiCharacter: {
+        const std::int64_t code = requiredInteger(direct);
+        if (code < 0 || code > 127) {
+            failCoercion(direct, "character");
+        }
+        return Value::text(std::string(1, static_cast<char>(code)));
+    }
+    default: {
+        const Text path = requiredText(direct);
+        const bool isFolder = path.view().size() > 1 && path.view().ends_with('/');
+        return FinderTerms::file(Reference::Kind::posixFile, path.view(), isFolder);
+    }
+    }
+}
+
+// The shell's line feeds become returns, and the last one goes.
+Value Interpreter::doShellScript(const CommandCall& node) {
+    budget.charge(costOfShell);
+    const Text command = requiredText(evaluate(*node.direct));
+    std::variant<std::string, ScriptError> answer = host.doShellScript(command.string(), node.asAdministrator);
+    if (const ScriptError* error = std::get_if<ScriptError>(&answer)) {
+        throw Failure{*error};
+    }
+    std::string output = std::move(std::get<std::string>(answer));
+    if (output.ends_with('\n')) {
+        output.pop_back();
+    }
+    std::replace(output.begin(), output.end(), '\n', '\r');
+    return Value::text(std::move(output));
 }
 
 }  // namespace desk::applescript

@@ -24,34 +24,21 @@ bool isWordPart(char character) {
     return isWordStart(character) || isDigit(character);
 }
 
-struct Symbol {
-    std::string_view written;
-    std::string_view meaning;
-};
-
-// Longer spellings first.
-constexpr std::array<Symbol, 26> symbols{
-    {{"≠", "≠"}, {"≤", "≤"}, {"≥", "≥"}, {"÷", "/"}, {"/=", "≠"}, {"<=", "≤"}, {">=", "≥"}, {"(", "("},  {")", ")"},
-     {"{", "{"}, {"}", "}"}, {",", ","}, {":", ":"}, {"&", "&"},  {"+", "+"},  {"-", "-"},  {"−", "-"},  {"*", "*"},
-     {"×", "*"}, {"/", "/"}, {"^", "^"}, {"=", "="}, {"<", "<"},  {">", ">"},  {";", ";"},  {"\\", "\\"}}};
+constexpr std::array<std::string_view, 8> symbols{"≠", "(", ")", "&", "=", "-", "{", "}"};
 
 }  // namespace
 
 std::string Token::description() const {
     switch (kind) {
     case TokenKind::word:
-    case TokenKind::barredWord:
         return "identifier";
     case TokenKind::integer:
     case TokenKind::real:
-    case TokenKind::ordinal:
         return "number";
     case TokenKind::string:
         return "“\"”";
     case TokenKind::symbol:
         return "“" + text + "”";
-    case TokenKind::possessive:
-        return "“'s”";
     case TokenKind::endOfLine:
         return "end of line";
     case TokenKind::endOfScript:
@@ -70,8 +57,6 @@ std::vector<Token> Lexer::tokenize() {
             readNewline();
         } else if (character == '"') {
             readString();
-        } else if (character == '|') {
-            readBarredWord();
         } else if (isWordStart(character)) {
             readWord();
         } else if (isDigit(character) || (character == '.' && isDigit(peek(1)))) {
@@ -88,38 +73,14 @@ std::vector<Token> Lexer::tokenize() {
 bool Lexer::skipBlank() {
     if (peek() == ' ' || peek() == '\t') {
         ++position;
-    } else if (at("\xC2\xA0")) {
-        position += 2;
-    } else if (at("--") || peek() == '#') {
-        skipLine();
-    } else if (at("(*")) {
-        skipBlockComment();
-    } else if (at("¬")) {
-        skipLine();
-        position += at("\r\n") ? 2u : position < source.size() ? 1u : 0u;
-    } else if (position == 0 && at("\xEF\xBB\xBF")) {
-        position += 3;
+    } else if (at("--")) {
+        position = std::min(source.find_first_of("\r\n", position), source.size());
+    } else if (at("¬\n")) {
+        position += std::string_view("¬\n").size();
     } else {
         return false;
     }
     return true;
-}
-
-void Lexer::skipLine() {
-    position = std::min(source.find_first_of("\r\n", position), source.size());
-}
-
-void Lexer::skipBlockComment() {
-    int depth = 0;
-    do {
-        if (position >= source.size()) {
-            failSyntax("“*)”", "end of script");
-        }
-        const bool opens = at("(*");
-        const bool closes = at("*)");
-        depth += opens ? 1 : closes ? -1 : 0;
-        position += opens || closes ? 2u : 1u;
-    } while (depth > 0);
 }
 
 void Lexer::readNewline() {
@@ -152,85 +113,41 @@ void Lexer::readString() {
     add(TokenKind::string, std::move(text));
 }
 
-void Lexer::readBarredWord() {
-    const std::size_t end = source.find_first_of("|\r\n", position + 1);
-    if (end == std::string_view::npos || source[end] != '|') {
-        failSyntax("“|”", end == std::string_view::npos ? "end of script" : "end of line");
-    }
-    add(TokenKind::barredWord, std::string(source.substr(position + 1, end - position - 1)));
-    position = end + 1;
-}
-
 void Lexer::readWord() {
     const std::size_t start = position;
     while (isWordPart(peek())) {
         ++position;
     }
-    // "isn't" and "doesn't" are words; "window's" is a word and a possessive.
-    if (source[position - 1] == 'n' && at("'t")) {
-        position += 2;
-    }
-    std::string text(source.substr(start, position - start));
-    if (foldedCase(text) != "the") {
-        add(TokenKind::word, std::move(text));
-    }
+    add(TokenKind::word, std::string(source.substr(start, position - start)));
 }
 
 void Lexer::readNumber() {
     const std::size_t start = position;
-    const auto digits = [this] {
-        while (isDigit(peek())) {
-            ++position;
-        }
-    };
-    digits();
-    bool isReal = peek() == '.' && isDigit(peek(1));
-    if (isReal) {
+    while (isDigit(peek()) || (peek() == '.' && isDigit(peek(1)))) {
         ++position;
-        digits();
-    }
-    const std::size_t sign = peek(1) == '+' || peek(1) == '-' ? 1 : 0;
-    if ((peek() == 'e' || peek() == 'E') && isDigit(peek(1 + sign))) {
-        isReal = true;
-        position += 1 + sign;
-        digits();
-    }
-    const std::string text(source.substr(start, position - start));
-    constexpr std::array<std::string_view, 4> suffixes{"st", "nd", "rd", "th"};
-    TokenKind kind = isReal ? TokenKind::real : TokenKind::integer;
-    for (const std::string_view suffix : suffixes) {
-        if (!isReal && at(suffix) && !isWordPart(peek(2))) {
-            kind = TokenKind::ordinal;
-            position += 2;
-            break;
-        }
     }
     if (isWordStart(peek())) {
         fail(ErrorNumber::misplacedToken, "A identifier can’t go after this number.");
     }
-    std::int64_t integer = 0;
-    if (std::from_chars(text.data(), text.data() + text.size(), integer).ec == std::errc::result_out_of_range) {
-        kind = TokenKind::real;
+    const std::string text(source.substr(start, position - start));
+    const char* end = text.data() + text.size();
+    add(TokenKind::real, text);
+    Token& token = tokens.back();
+    const auto whole = std::from_chars(text.data(), end, token.integer);
+    if (whole.ec == std::errc() && whole.ptr == end) {
+        token.kind = TokenKind::integer;
+    } else if (std::from_chars(text.data(), end, token.real).ptr != end) {
+        failSyntax("end of line, etc.", "number");
     }
-    add(kind, text);
-    tokens.back().integer = integer;
-    std::from_chars(text.data(), text.data() + text.size(), tokens.back().real);
 }
 
 void Lexer::readSymbol() {
-    if (at("'s") && !isWordPart(peek(2))) {
-        position += 2;
-        add(TokenKind::possessive, "'s");
-        return;
+    const auto symbol = std::find_if(symbols.begin(), symbols.end(), [&](const auto& each) { return at(each); });
+    if (symbol == symbols.end()) {
+        failSyntax("expression", "unknown token");
     }
-    for (const Symbol& symbol : symbols) {
-        if (at(symbol.written)) {
-            position += symbol.written.size();
-            add(TokenKind::symbol, std::string(symbol.meaning));
-            return;
-        }
-    }
-    failSyntax("expression", "unknown token");
+    position += symbol->size();
+    add(TokenKind::symbol, std::string(*symbol));
 }
 
 void Lexer::add(TokenKind kind, std::string text) {

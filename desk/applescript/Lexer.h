@@ -17,11 +17,8 @@ public:
 
 private:
     bool skipBlank();
-    void skipLine();
-    void skipBlockComment();
     void readNewline();
     void readString();
-    void readBarredWord();
     void readWord();
     void readNumber();
     void readSymbol();

@@ -7,249 +7,212 @@
 
 namespace desk::applescript {
 
-struct Parser::OperatorWords {
-    std::string_view words;
-    Operator operation;
-    // Higher binds tighter; `not` stands at 3, between `and` and the comparisons.
-    int level;
-};
-
 namespace {
 
-constexpr int logicalNotLevel = 3;
-constexpr int coercionLevel = 6;
-constexpr int powerLevel = 10;
+struct PropertyWords {
+    std::string_view words;
+    PropertyTerm term;
+    // Within a `tell` to Finder the words need no `of`.
+    bool isFinders;
+};
+
+constexpr auto properties = std::to_array<PropertyWords>({
+    {"posix path", PropertyTerm::posixPath, false},
+    {"quoted form", PropertyTerm::quotedForm, false},
+    {"id", PropertyTerm::identifier, true},
+    {"name", PropertyTerm::name, true},
+    {"target", PropertyTerm::target, true},
+    {"selection", PropertyTerm::selection, true},
+});
+
+struct CommandWords {
+    std::string_view words;
+    CommandTerm term;
+    enum class Operand { none, reference, expression } operand;
+    bool isFinders = false;
+};
+
+constexpr auto commands = std::to_array<CommandWords>({
+    {"activate", CommandTerm::activate, CommandWords::Operand::none, true},
+    {"make new finder window to", CommandTerm::make, CommandWords::Operand::expression, true},
+    {"make new finder window", CommandTerm::make, CommandWords::Operand::none, true},
+    {"select", CommandTerm::select, CommandWords::Operand::expression, true},
+    {"count of", CommandTerm::count, CommandWords::Operand::reference},
+    {"count", CommandTerm::count, CommandWords::Operand::reference},
+    {"delay", CommandTerm::delay, CommandWords::Operand::expression},
+    {"do shell script", CommandTerm::doShellScript, CommandWords::Operand::expression},
+    {"ascii character", CommandTerm::asciiCharacter, CommandWords::Operand::reference},
+    {"posix file", CommandTerm::posixFile, CommandWords::Operand::reference},
+});
 
 }  // namespace
 
-// Most of it is the table.
-// NOLINTNEXTLINE(readability-function-size)
-const Parser::OperatorWords* Parser::operatorAhead() const {
-    static constexpr auto operators = std::to_array<OperatorWords>({
-        {"or", Operator::logicalOr, 1},
-        {"and", Operator::logicalAnd, 2},
-        {"=", Operator::equal, 4},
-        {"is", Operator::equal, 4},
-        {"is equal to", Operator::equal, 4},
-        {"is equal", Operator::equal, 4},
-        {"equals", Operator::equal, 4},
-        {"equal to", Operator::equal, 4},
-        {"≠", Operator::notEqual, 4},
-        {"is not", Operator::notEqual, 4},
-        {"isn't", Operator::notEqual, 4},
-        {"is not equal to", Operator::notEqual, 4},
-        {"isn't equal to", Operator::notEqual, 4},
-        {"does not equal", Operator::notEqual, 4},
-        {"doesn't equal", Operator::notEqual, 4},
-        {"<", Operator::less, 5},
-        {"is less than", Operator::less, 5},
-        {"less than", Operator::less, 5},
-        {"comes before", Operator::less, 5},
-        {"is not greater than or equal to", Operator::less, 5},
-        {"isn't greater than or equal to", Operator::less, 5},
-        {"≤", Operator::lessOrEqual, 5},
-        {"is less than or equal to", Operator::lessOrEqual, 5},
-        {"less than or equal to", Operator::lessOrEqual, 5},
-        {"is not greater than", Operator::lessOrEqual, 5},
-        {"isn't greater than", Operator::lessOrEqual, 5},
-        {"does not come after", Operator::lessOrEqual, 5},
-        {"doesn't come after", Operator::lessOrEqual, 5},
-        {">", Operator::greater, 5},
-        {"is greater than", Operator::greater, 5},
-        {"greater than", Operator::greater, 5},
-        {"comes after", Operator::greater, 5},
-        {"is not less than or equal to", Operator::greater, 5},
-        {"isn't less than or equal to", Operator::greater, 5},
-        {"≥", Operator::greaterOrEqual, 5},
-        {"is greater than or equal to", Operator::greaterOrEqual, 5},
-        {"greater than or equal to", Operator::greaterOrEqual, 5},
-        {"is not less than", Operator::greaterOrEqual, 5},
-        {"isn't less than", Operator::greaterOrEqual, 5},
-        {"does not come before", Operator::greaterOrEqual, 5},
-        {"doesn't come before", Operator::greaterOrEqual, 5},
-        {"contains", Operator::contains, 5},
-        {"contain", Operator::contains, 5},
-        {"does not contain", Operator::doesNotContain, 5},
-        {"doesn't contain", Operator::doesNotContain, 5},
-        {"is in", Operator::isIn, 5},
-        {"is contained by", Operator::isIn, 5},
-        {"is not in", Operator::isNotIn, 5},
-        {"isn't in", Operator::isNotIn, 5},
-        {"is not contained by", Operator::isNotIn, 5},
-        {"isn't contained by", Operator::isNotIn, 5},
-        {"starts with", Operator::startsWith, 5},
-        {"start with", Operator::startsWith, 5},
-        {"begins with", Operator::startsWith, 5},
-        {"begin with", Operator::startsWith, 5},
-        {"ends with", Operator::endsWith, 5},
-        {"end with", Operator::endsWith, 5},
-        {"is running", Operator::isRunning, 5},
-        {"is not running", Operator::isNotRunning, 5},
-        {"isn't running", Operator::isNotRunning, 5},
-        {"as", Operator::coerce, coercionLevel},
-        {"&", Operator::concatenate, 7},
-        {"+", Operator::add, 8},
-        {"-", Operator::subtract, 8},
-        {"*", Operator::multiply, 9},
-        {"/", Operator::divide, 9},
-        {"div", Operator::integerDivide, 9},
-        {"mod", Operator::modulo, 9},
-        {"^", Operator::power, powerLevel},
-        {"is greater", Operator::greater, 5},
-        {"is less", Operator::less, 5},
-    });
-    if (peek().kind != TokenKind::word && peek().kind != TokenKind::symbol) {
-        return nullptr;
-    }
-    const OperatorWords* best = nullptr;
-    std::size_t longest = 0;
-    for (const OperatorWords& entry : operators) {
-        const std::size_t count = wordsAhead(entry.words);
-        if (count > longest) {
-            longest = count;
-            best = &entry;
+// From the loosest binding to the tightest: comparison, then `as` and `&` from left to right, then `of`.
+ExpressionPtr Parser::parseExpression() {
+    ExpressionPtr left = parseJoined();
+    while (isAt("is") || isAt("=") || isAt("≠")) {
+        const bool wantsEqual = !isAt("is not") && !isAt("≠");
+        if (!accept("is not")) {
+            next();
         }
-    }
-    return best;
-}
-
-ExpressionPtr Parser::parseOperation(int lowestLevel) {
-    const Nesting level(*this);
-    ExpressionPtr left;
-    if (accept("not")) {
-        ExpressionPtr operand = parseOperation(logicalNotLevel + 1);
-        const Expression* child = operand.get();
-        left = make(LogicalNot{std::move(operand)}, {child});
-    } else {
-        left = parseOperand();
-    }
-    while (const OperatorWords* found = operatorAhead()) {
-        if (found->level < lowestLevel) {
-            break;
-        }
-        accept(found->words);
-        const bool hasNoRight = found->operation == Operator::isRunning || found->operation == Operator::isNotRunning;
-        if (found->operation == Operator::coerce) {
-            const Expression* child = left.get();
-            left = make(Coercion{std::move(left), parseClass()}, {child});
-        } else {
-            const int rightLevel = found->level == powerLevel ? powerLevel : found->level + 1;
-            left = combined(found->operation, std::move(left), hasNoRight ? nullptr : parseOperation(rightLevel));
-        }
+        ExpressionPtr right = parseJoined();
+        const std::initializer_list<const Expression*> children{left.get(), right.get()};
+        left = make(Comparison{std::move(left), std::move(right), wantsEqual}, children);
     }
     return left;
 }
 
-ExpressionPtr Parser::combined(Operator operation, ExpressionPtr left, ExpressionPtr right) {
-    const Expression* leftChild = left.get();
-    const Expression* rightChild = right.get();
-    if (operation != Operator::concatenate) {
-        return make(BinaryOperation{operation, std::move(left), std::move(right)}, {leftChild, rightChild});
+ExpressionPtr Parser::parseJoined() {
+    ExpressionPtr left = parseReference();
+    while (true) {
+        if (accept("as")) {
+            const Expression* child = left.get();
+            left = make(Coercion{std::move(left), parseCoercion()}, {child});
+        } else if (accept("&")) {
+            left = joined(std::move(left), parseReference());
+        } else {
+            return left;
+        }
     }
+}
+
+ExpressionPtr Parser::joined(ExpressionPtr left, ExpressionPtr right) const {
     if (auto* chain = std::get_if<Concatenation>(&left->node)) {
         left->depth = std::max(left->depth, right->depth + 1);
         checkDepth(*left);
         chain->operands.push_back(std::move(right));
         return left;
     }
+    const std::initializer_list<const Expression*> children{left.get(), right.get()};
     Concatenation chain;
     chain.operands.push_back(std::move(left));
     chain.operands.push_back(std::move(right));
-    return make(std::move(chain), {leftChild, rightChild});
-}
-
-ExpressionPtr Parser::parseOperand() {
-    const Nesting level(*this);
-    if (acceptSymbol("+")) {
-        return parseOperand();
-    }
-    if (!acceptSymbol("-")) {
-        return parseReference();
-    }
-    ExpressionPtr operand = parseOperand();
-    const Expression* child = operand.get();
-    return make(Negation{std::move(operand)}, {child});
+    return make(std::move(chain), children);
 }
 
 ExpressionPtr Parser::parseReference() {
     const Nesting level(*this);
     ExpressionPtr head = parsePrimary();
-    while (peek().kind == TokenKind::possessive) {
-        next();
-        ExpressionPtr owner = std::move(head);
-        head = parsePrimary();
-        attach(*head, std::move(owner));
-    }
-    if (isAtWord("of") || isAtWord("in")) {
-        next();
+    if (accept("of")) {
         attach(*head, parseReference());
-    }
-    if (isAtWord("whose") || isAtWord("where")) {
-        head = parseFilter(std::move(head));
-    }
-    if (accept("exists")) {
-        const Expression* child = head.get();
-        CommandCall call{CommandTerm::exists, std::move(head), {}};
-        head = make(std::move(call), {child});
     }
     return head;
 }
 
-ExpressionPtr Parser::parseFilter(ExpressionPtr element) {
-    auto* access = std::get_if<ElementAccess>(&element->node);
-    const bool canFilter = access != nullptr && access->filter == nullptr && access->selector != Selector::range &&
-                           access->selector != Selector::byName && access->selector != Selector::byIdentifier;
-    if (canFilter) {
-        next();
-        const bool wasInFilter = std::exchange(isInFilter, true);
-        access->filter = parseExpression();
-        isInFilter = wasInFilter;
-        element->depth = std::max(element->depth, access->filter->depth + 1);
-        checkDepth(*element);
-    }
-    return element;
-}
-
-void Parser::attach(Expression& head, ExpressionPtr container) {
-    const int depth = std::max(head.depth, container->depth + 1);
-    if (const auto* variable = std::get_if<Variable>(&head.node)) {
-        const std::string name = handler->names[variable->slot];
-        const auto terms = propertyWords();
-        const auto known =
-            std::find_if(terms.begin(), terms.end(), [&](const auto& entry) { return entry.words == name; });
-        head.node = PropertyAccess{name, known == terms.end() ? std::nullopt : std::optional(known->term), nullptr};
-    }
+void Parser::attach(Expression& head, ExpressionPtr container) const {
+    head.depth = std::max(head.depth, container->depth + 1);
+    checkDepth(head);
     auto* property = std::get_if<PropertyAccess>(&head.node);
     auto* element = std::get_if<ElementAccess>(&head.node);
-    auto* call = std::get_if<HandlerCall>(&head.node);
     if (property != nullptr && property->container == nullptr) {
         property->container = std::move(container);
     } else if (element != nullptr && element->container == nullptr) {
         element->container = std::move(container);
-    } else if (call != nullptr && std::holds_alternative<MeReference>(container->node)) {
-        call->isToMe = true;
     } else {
         failSyntax("end of line, etc.", "“of”");
     }
-    head.depth = depth;
-    checkDepth(head);
 }
 
-ClassTerm Parser::parseClass() {
-    const ClassWords* best = nullptr;
-    std::size_t longest = 0;
-    for (const ClassWords& entry : classWords()) {
-        const std::size_t count = wordsAhead(entry.singular);
-        if (count > longest && (!entry.isFinders || isInFinder)) {
-            longest = count;
-            best = &entry;
-        }
+ExpressionPtr Parser::parsePrimary() {
+    switch (peek().kind) {
+    case TokenKind::integer:
+        return make(Literal{Value::number(next().integer)});
+    case TokenKind::real:
+        return make(Literal{Value(Value::Storage(next().real))});
+    case TokenKind::string:
+        return make(Literal{Value(Text::literal(next().text))});
+    case TokenKind::word:
+        return parseWord();
+    default:
+        break;
     }
-    if (best == nullptr) {
+    if (!accept("(")) {
+        failExpecting("expression");
+    }
+    ExpressionPtr inner = parseExpression();
+    expect(")");
+    return inner;
+}
+
+ExpressionPtr Parser::parseWord() {
+    if (isAt("application") && peek(1).kind == TokenKind::string) {
+        next();
+        ExpressionPtr name = parsePrimary();
+        const Expression* child = name.get();
+        return make(ApplicationReference{std::move(name)}, {child});
+    }
+    if (ExpressionPtr property = parseProperty()) {
+        return property;
+    }
+    if (ExpressionPtr command = parseCommand()) {
+        return command;
+    }
+    if (ExpressionPtr element = parseElement()) {
+        return element;
+    }
+    if (isAt("every")) {
+        next();
         failExpecting("class name");
     }
-    position += longest;
-    return best->term;
+    return make(Variable{expectVariable()});
+}
+
+ExpressionPtr Parser::parseProperty() {
+    for (const PropertyWords& property : properties) {
+        const std::size_t count = wordsAhead(property.words);
+        const bool isOwned = count > 0 && peek(count).kind == TokenKind::word && peek(count).folded == "of";
+        if (count > 0 && (isOwned || (property.isFinders && isInFinder))) {
+            position += count;
+            return make(PropertyAccess{property.term, nullptr});
+        }
+    }
+    return nullptr;
+}
+
+ExpressionPtr Parser::parseElement() {
+    if (isInFinder && (accept("every finder window") || accept("finder windows"))) {
+        return make(ElementAccess{ElementTerm::finderWindow, Selector::every, nullptr, nullptr});
+    }
+    if (isInFinder && accept("front finder window")) {
+        return make(
+            ElementAccess{ElementTerm::finderWindow, Selector::byIndex, make(Literal{Value::number(1)}), nullptr});
+    }
+    const bool isWindow = isInFinder && accept("finder window");
+    const bool isIndexed = peek(1).kind == TokenKind::integer || peek(1).kind == TokenKind::word;
+    if (!isWindow && (!isAt("item") || !isIndexed || !accept("item"))) {
+        return nullptr;
+    }
+    const Selector selector = isWindow && accept("id") ? Selector::byIdentifier : Selector::byIndex;
+    ExpressionPtr which = parsePrimary();
+    const Expression* child = which.get();
+    const ElementTerm elements = isWindow ? ElementTerm::finderWindow : ElementTerm::item;
+    return make(ElementAccess{elements, selector, std::move(which), nullptr}, {child});
+}
+
+ExpressionPtr Parser::parseCommand() {
+    const auto isHere = [&](const CommandWords& each) { return (isInFinder || !each.isFinders) && accept(each.words); };
+    const auto words = std::find_if(commands.begin(), commands.end(), isHere);
+    if (words == commands.end()) {
+        return nullptr;
+    }
+    CommandCall call{words->term, nullptr};
+    if (words->operand == CommandWords::Operand::none) {
+        return make(std::move(call));
+    }
+    call.direct = words->operand == CommandWords::Operand::reference ? parseReference() : parseExpression();
+    call.asAdministrator = words->term == CommandTerm::doShellScript && accept("with administrator privileges");
+    const Expression* child = call.direct.get();
+    return make(std::move(call), {child});
+}
+
+CoercionTerm Parser::parseCoercion() {
+    if (accept("text")) {
+        return CoercionTerm::text;
+    }
+    if (!accept("alias")) {
+        failExpecting("class name");
+    }
+    return CoercionTerm::alias;
 }
 
 }  // namespace desk::applescript

@@ -1,9 +1,9 @@
 #include "desk/applescript/Parser.h"
 
 #include "desk/applescript/Failure.h"
-#include "desk/applescript/TextCase.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace desk::applescript {
@@ -12,6 +12,15 @@ namespace {
 
 constexpr int deepestNesting = 400;
 constexpr int deepestExpression = 200;
+
+// Words that can't be the name of a variable.
+constexpr auto reservedWords = std::to_array<std::string_view>(
+    {"and", "as", "else", "end",    "error",  "every", "exit", "from", "if", "in",  "is",   "mod",    "not",
+     "of",  "on", "or",   "repeat", "return", "set",   "tell", "then", "to", "try", "with", "without"});
+
+bool isReserved(std::string_view folded) {
+    return std::find(reservedWords.begin(), reservedWords.end(), folded) != reservedWords.end();
+}
 
 [[noreturn]] void failTooDeep() {
     fail(ErrorNumber::stackOverflow, "Stack overflow.");
@@ -30,96 +39,23 @@ Program Parser::parse() {
     while (peek().kind != TokenKind::endOfScript) {
         if (peek().kind == TokenKind::endOfLine) {
             next();
-            continue;
+        } else if (isAt("on run")) {
+            parseRunHandler();
+            expectEndOfLine();
+        } else {
+            program.main.push_back(parseStatement());
+            expectEndOfLine();
         }
-        parseTopLevel();
-        expectEndOfLine();
     }
-    resolveGlobals();
     return std::move(program);
 }
 
-void Parser::parseTopLevel() {
-    if (isAtWord("on") || isAtWord("to")) {
-        parseHandler();
-    } else if (isAtWord("property") || isAtWord("prop")) {
-        parsePropertyDeclaration();
-    } else {
-        program.main.body.push_back(parseStatement());
+std::size_t Parser::expectVariable() {
+    if (peek().kind != TokenKind::word || isReserved(peek().folded)) {
+        failExpecting("variable name");
     }
-}
-
-void Parser::parseHandler() {
-    next();
-    if (peek().kind != TokenKind::word && peek().kind != TokenKind::barredWord) {
-        failExpecting("identifier");
-    }
-    Handler parsed;
-    handler = &parsed;
-    parsed.name = next().folded;
-    const bool isInBraces = parsed.name == "run" && isAtSymbol("{");
-    if (isInBraces || isAtSymbol("(")) {
-        next();
-        const std::string_view close = isInBraces ? "}" : ")";
-        while (!isAtSymbol(close)) {
-            parsed.parameters.push_back(expectVariable());
-            if (!acceptSymbol(",")) {
-                break;
-            }
-        }
-        expectSymbol(close);
-    } else if (parsed.name == "run" && !isAtEndOfLine()) {
-        parsed.parameters.push_back(expectVariable());
-        parsed.takesArgumentsSeparately = false;
-    } else if (parsed.name != "run") {
-        failExpecting("“(”");
-    }
-    expectEndOfLine();
-    parsed.body = parseBlockAndEnd(parsed.name);
-    handler = &program.main;
-    program.handlers.push_back(std::move(parsed));
-}
-
-void Parser::parsePropertyDeclaration() {
-    next();
-    const Token name = peek();
-    const std::size_t slot = expectVariable();
-    program.main.declaredGlobal.insert(name.folded);
-    expectSymbol(":");
-    program.main.body.push_back({Assignment{make(Variable{slot}), parseExpression()}});
-}
-
-void Parser::parseGlobalDeclaration() {
-    do {
-        handler->declaredGlobal.insert(peek().folded);
-        expectVariable();
-    } while (acceptSymbol(","));
-}
-
-void Parser::parseLocalDeclaration() {
-    do {
-        expectVariable();
-    } while (acceptSymbol(","));
-}
-
-// A handler's variable is one of the script's globals if either the handler or the script declares it so.
-void Parser::resolveGlobals() {
-    for (Handler& each : program.handlers) {
-        each.globals.resize(each.names.size());
-        for (std::size_t slot = 0; slot < each.names.size(); ++slot) {
-            const std::string& name = each.names[slot];
-            const bool isParameter =
-                std::find(each.parameters.begin(), each.parameters.end(), slot) != each.parameters.end();
-            if (!isParameter && (each.declaredGlobal.contains(name) || program.main.declaredGlobal.contains(name))) {
-                each.globals[slot] = program.main.slot(name, each.writtenNames[slot]);
-            }
-        }
-    }
-    program.globalCount = program.main.names.size();
-    program.main.globals.resize(program.globalCount);
-    for (std::size_t slot = 0; slot < program.globalCount; ++slot) {
-        program.main.globals[slot] = slot;
-    }
+    const Token name = next();
+    return program.slot(name.folded, name.text);
 }
 
 const Token& Parser::peek(std::size_t ahead) const {
@@ -132,58 +68,34 @@ Token Parser::next() {
     return token;
 }
 
-bool Parser::isAtSymbol(std::string_view symbol) const {
-    return peek().kind == TokenKind::symbol && peek().folded == symbol;
-}
-
-bool Parser::isAtWord(std::string_view word, std::size_t ahead) const {
-    return peek(ahead).kind == TokenKind::word && peek(ahead).folded == word;
-}
-
-std::size_t Parser::wordsAhead(std::string_view term, std::size_t ahead) const {
-    // Most terms are ruled out by their first letter.
-    if (term.empty() || peek(ahead).folded.empty() || peek(ahead).folded.front() != foldedCase(term.front())) {
-        return 0;
-    }
-    std::size_t count = 0;
-    while (!term.empty()) {
-        const std::size_t blank = std::min(term.find(' '), term.size());
-        const Token& token = peek(ahead + count);
-        const bool hasWords = token.kind == TokenKind::word || token.kind == TokenKind::symbol;
-        const auto isSameLetter = [](char left, char right) { return left == foldedCase(right); };
-        if (!hasWords || !std::equal(token.folded.begin(), token.folded.end(), term.begin(),
-                                     term.begin() + static_cast<std::ptrdiff_t>(blank), isSameLetter)) {
-            return 0;
-        }
-        ++count;
-        term.remove_prefix(std::min(blank + 1, term.size()));
-    }
-    return count;
-}
-
 bool Parser::isAtEndOfLine() const {
     return peek().kind == TokenKind::endOfLine || peek().kind == TokenKind::endOfScript;
 }
 
-bool Parser::accept(std::string_view term) {
-    const std::size_t count = wordsAhead(term);
+std::size_t Parser::wordsAhead(std::string_view words) const {
+    std::size_t count = 0;
+    while (!words.empty()) {
+        const std::size_t blank = std::min(words.find(' '), words.size());
+        const Token& token = peek(count);
+        const bool hasWords = token.kind == TokenKind::word || token.kind == TokenKind::symbol;
+        if (!hasWords || token.folded != words.substr(0, blank)) {
+            return 0;
+        }
+        ++count;
+        words.remove_prefix(std::min(blank + 1, words.size()));
+    }
+    return count;
+}
+
+bool Parser::accept(std::string_view words) {
+    const std::size_t count = wordsAhead(words);
     position += count;
     return count > 0;
 }
 
-bool Parser::acceptSymbol(std::string_view symbol) {
-    return isAtSymbol(symbol) && accept(symbol);
-}
-
-void Parser::expect(std::string_view word) {
-    if (!accept(word)) {
-        failExpecting("“" + std::string(word) + "”");
-    }
-}
-
-void Parser::expectSymbol(std::string_view symbol) {
-    if (!acceptSymbol(symbol)) {
-        failExpecting("“" + std::string(symbol) + "”");
+void Parser::expect(std::string_view words) {
+    if (!accept(words)) {
+        failExpecting("“" + std::string(words) + "”");
     }
 }
 
@@ -194,22 +106,6 @@ void Parser::expectEndOfLine() {
     if (peek().kind == TokenKind::endOfLine) {
         next();
     }
-}
-
-bool Parser::lineNamesFinder() const {
-    for (std::size_t ahead = 0; peek(ahead).kind != TokenKind::endOfLine; ++ahead) {
-        if (peek(ahead).kind == TokenKind::endOfScript) {
-            break;
-        }
-        if (isAtWord("application", ahead) || isAtWord("app", ahead)) {
-            const bool isById = isAtWord("id", ahead + 1);
-            const Token& name = peek(ahead + (isById ? 2 : 1));
-            if (name.kind == TokenKind::string && name.text == (isById ? "com.apple.finder" : "Finder")) {
-                return true;
-            }
-        }
-    }
-    return false;
 }
 
 void Parser::failExpecting(const std::string& expected) const {
@@ -227,11 +123,11 @@ std::string Parser::foundHere() const {
     return isReserved(token.folded) ? "“" + token.text + "”" : token.description();
 }
 
-ExpressionPtr Parser::make(Expression::Node node, std::initializer_list<const Expression*> children) const {
+ExpressionPtr Parser::make(Expression::Node node, std::initializer_list<const Expression*> children) {
     auto expression = std::make_unique<Expression>();
     expression->node = std::move(node);
     for (const Expression* child : children) {
-        expression->depth = std::max(expression->depth, child == nullptr ? 1 : child->depth + 1);
+        expression->depth = std::max(expression->depth, child->depth + 1);
     }
     checkDepth(*expression);
     return expression;

@@ -4,7 +4,6 @@
 
 #include "desk/applescript/ScriptError.h"
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -17,8 +16,6 @@ struct ScriptWindow {
     std::string name;
     // The folder shown, as a path without a trailing slash; empty for a location that is no folder, such as Recents.
     std::optional<std::string> path;
-    // Left, top, right, bottom, in points from the top left of the primary screen.
-    std::array<std::int64_t, 4> bounds{};
 };
 
 enum class ScriptPathKind { missing, file, folder };
@@ -40,16 +37,12 @@ public:
     virtual void activate() = 0;
     // Without a path the window shows what Finder shows by default. The path is a folder that exists.
     virtual std::variant<std::int64_t, ScriptError> openWindow(const std::optional<std::string>& path) = 0;
-    virtual std::optional<ScriptError> closeWindow(std::int64_t identifier) = 0;
     virtual std::optional<ScriptError> setTarget(std::int64_t identifier, const std::string& path) = 0;
-    // Replaces the selection, revealing the items in the front window; all of them exist. An empty list deselects.
-    virtual std::optional<ScriptError> select(const std::vector<std::string>& paths) = 0;
-    // As a double click would: a folder in a window, a file in its application. The path exists.
-    virtual std::optional<ScriptError> open(const std::string& path) = 0;
+    // Replaces the selection, revealing the item in the front window. The path exists.
+    virtual std::optional<ScriptError> select(const std::string& path) = 0;
 
     // Symbolic links are followed; a package is a folder here.
     virtual ScriptPathKind pathKind(const std::string& path) = 0;
-    virtual std::string homePath() = 0;
 
     virtual void delay(double seconds) = 0;
     // The standard output as it came, or the exit status with what was written on standard error.

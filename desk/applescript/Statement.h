@@ -18,7 +18,7 @@ struct ExpressionStatement {
     ExpressionPtr expression;
 };
 
-// `set` and `copy`. The target is a variable, a property, an element, or a list of such.
+// The target is a variable or a property.
 struct Assignment {
     ExpressionPtr target;
     ExpressionPtr value;
@@ -34,36 +34,12 @@ struct IfChain {
     Block otherwise;
 };
 
-struct RepeatForever {
-    Block body;
-};
-
-struct RepeatTimes {
-    ExpressionPtr times;
-    Block body;
-};
-
-struct RepeatCondition {
-    ExpressionPtr condition;
-    bool stopsWhen;
-    Block body;
-};
-
 struct RepeatRange {
     std::size_t slot;
     ExpressionPtr from;
     ExpressionPtr to;
-    ExpressionPtr by;
     Block body;
 };
-
-struct RepeatList {
-    std::size_t slot;
-    ExpressionPtr list;
-    Block body;
-};
-
-struct ExitRepeat {};
 
 struct TryBlock {
     Block body;
@@ -81,14 +57,9 @@ struct ReturnStatement {
     ExpressionPtr value;
 };
 
-struct ConsideringBlock {
-    std::optional<bool> considersCase;
-    Block body;
-};
-
 struct Statement {
-    std::variant<ExpressionStatement, Assignment, TellBlock, IfChain, RepeatForever, RepeatTimes, RepeatCondition,
-                 RepeatRange, RepeatList, ExitRepeat, TryBlock, RaiseError, ReturnStatement, ConsideringBlock>
+    std::variant<ExpressionStatement, Assignment, TellBlock, IfChain, RepeatRange, TryBlock, RaiseError,
+                 ReturnStatement>
         node;
 };
 

@@ -6,7 +6,7 @@
 
 namespace desk::applescript {
 
-enum class TokenKind { word, barredWord, integer, real, ordinal, string, symbol, possessive, endOfLine, endOfScript };
+enum class TokenKind { word, integer, real, string, symbol, endOfLine, endOfScript };
 
 struct Token {
     TokenKind kind = TokenKind::endOfScript;

@@ -1,7 +1,5 @@
 #include "desk/finder/FinderScriptHost.h"
 
-#include <cmath>
-
 #include "desk/Machine.h"
 #include "desk/shell/Shell.h"
 #include "platform/FileURL.h"
@@ -13,18 +11,12 @@ using applescript::ScriptWindow;
 
 namespace {
 
-constexpr const char* editor = "/Applications/TextEdit.app";
-
 applescript::ScriptError handlerFailed() {
     return {-10000, "Finder got an error: AppleEvent handler failed."};
 }
 
 applescript::ScriptError noSuchWindow(std::int64_t identifier) {
     return {-1728, "Finder got an error: Can’t get Finder window id " + std::to_string(identifier) + "."};
-}
-
-std::int64_t whole(double value) {
-    return static_cast<std::int64_t>(std::llround(std::fmax(-1e9, std::fmin(value, 1e9))));
 }
 
 }  // namespace
@@ -50,12 +42,8 @@ std::vector<std::int64_t> FinderScriptHost::windowIdentifiers() {
 
 std::optional<ScriptWindow> FinderScriptHost::window(std::int64_t identifier) {
     const FinderWindow* window = machine.finder.find(identifier);
-    const ServerWindow* shown = machine.windows.find(identifier);
-    if (window == nullptr || shown == nullptr || window->kind != FinderWindowKind::folder) return std::nullopt;
-    const platform::CGRect bounds = machine.displays.topLeftRect(shown->frame);
-    return ScriptWindow{window->name,
-                        window->target,
-                        {whole(bounds.minX()), whole(bounds.minY()), whole(bounds.maxX()), whole(bounds.maxY())}};
+    if (window == nullptr || window->kind != FinderWindowKind::folder) return std::nullopt;
+    return ScriptWindow{window->name, window->target};
 }
 
 std::vector<std::string> FinderScriptHost::selection() {
@@ -77,39 +65,20 @@ std::variant<std::int64_t, applescript::ScriptError> FinderScriptHost::openWindo
     return *number;
 }
 
-std::optional<applescript::ScriptError> FinderScriptHost::closeWindow(std::int64_t identifier) {
-    if (machine.finder.close(identifier)) return std::nullopt;
-    return noSuchWindow(identifier);
-}
-
 std::optional<applescript::ScriptError> FinderScriptHost::setTarget(std::int64_t identifier, const std::string& path) {
     if (machine.finder.find(identifier) == nullptr) return noSuchWindow(identifier);
     if (machine.finder.go(identifier, path)) return std::nullopt;
     return handlerFailed();
 }
 
-// Items are revealed in the front window, which goes to their folder if it shows another.
-std::optional<applescript::ScriptError> FinderScriptHost::select(const std::vector<std::string>& paths) {
+// The item is revealed in the front window, which goes to its folder if it shows another.
+std::optional<applescript::ScriptError> FinderScriptHost::select(const std::string& path) {
     const std::vector<std::int64_t> identifiers = windowIdentifiers();
-    if (paths.empty()) {
-        if (!identifiers.empty()) machine.finder.select(identifiers.front(), {});
-        return std::nullopt;
-    }
-    const std::string folder = platform::deletingLastPathComponent(paths.front());
+    const std::string folder = platform::deletingLastPathComponent(path);
     const auto number = identifiers.empty() ? machine.finder.open(folder) : std::optional(identifiers.front());
     const FinderWindow* window = number ? machine.finder.find(*number) : nullptr;
     const bool isThere = window != nullptr && (window->target == folder || machine.finder.go(*number, folder));
-    if (isThere && machine.finder.select(*number, paths)) return std::nullopt;
-    return handlerFailed();
-}
-
-std::optional<applescript::ScriptError> FinderScriptHost::open(const std::string& path) {
-    const auto kind = machine.disk.kind(path);
-    if (kind == platform::FileKind::file) {
-        machine.opened.push_back({editor, {path}});
-        return std::nullopt;
-    }
-    if (kind && machine.finder.open(path)) return std::nullopt;
+    if (isThere && machine.finder.select(*number, {path})) return std::nullopt;
     return handlerFailed();
 }
 
@@ -117,10 +86,6 @@ ScriptPathKind FinderScriptHost::pathKind(const std::string& path) {
     const auto kind = machine.disk.kind(path);
     if (!kind) return ScriptPathKind::missing;
     return *kind == platform::FileKind::directory ? ScriptPathKind::folder : ScriptPathKind::file;
-}
-
-std::string FinderScriptHost::homePath() {
-    return machine.disk.home();
 }
 
 void FinderScriptHost::delay(double seconds) {

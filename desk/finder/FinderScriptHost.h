@@ -26,13 +26,10 @@ public:
 
     void activate() override;
     std::variant<std::int64_t, ScriptError> openWindow(const std::optional<std::string>& path) override;
-    std::optional<ScriptError> closeWindow(std::int64_t identifier) override;
     std::optional<ScriptError> setTarget(std::int64_t identifier, const std::string& path) override;
-    std::optional<ScriptError> select(const std::vector<std::string>& paths) override;
-    std::optional<ScriptError> open(const std::string& path) override;
+    std::optional<ScriptError> select(const std::string& path) override;
 
     applescript::ScriptPathKind pathKind(const std::string& path) override;
-    std::string homePath() override;
     void delay(double seconds) override;
     std::variant<std::string, ScriptError> doShellScript(const std::string& command,
                                                          bool withAdministratorPrivileges) override;

@@ -24,7 +24,7 @@ struct FakeFinder : ScriptHost {
     std::vector<std::string> calls;
 
     void addWindow(std::int64_t identifier, std::string name, std::optional<std::string> path) {
-        openWindows.push_back({identifier, {std::move(name), std::move(path), {10, 20, 810, 620}}});
+        openWindows.push_back({identifier, {std::move(name), std::move(path)}});
     }
 
     std::optional<ScriptError> refusal() override { return std::nullopt; }
@@ -44,29 +44,16 @@ struct FakeFinder : ScriptHost {
     std::variant<std::int64_t, ScriptError> openWindow(const std::optional<std::string>& path) override {
         calls.push_back("open window " + path.value_or("?"));
         const std::int64_t identifier = 101 + static_cast<std::int64_t>(openWindows.size());
-        openWindows.insert(openWindows.begin(), {identifier, {"new", path, {}}});
+        openWindows.insert(openWindows.begin(), {identifier, {"new", path}});
         return identifier;
-    }
-    std::optional<ScriptError> closeWindow(std::int64_t identifier) override {
-        calls.push_back("close " + std::to_string(identifier));
-        openWindows.erase(find(identifier));
-        return std::nullopt;
     }
     std::optional<ScriptError> setTarget(std::int64_t identifier, const std::string& path) override {
         calls.push_back("target " + std::to_string(identifier) + " " + path);
         find(identifier)->state.path = path;
         return std::nullopt;
     }
-    std::optional<ScriptError> select(const std::vector<std::string>& paths) override {
-        std::string call = "select";
-        for (const std::string& path : paths) {
-            call += " " + path;
-        }
-        calls.push_back(call);
-        return std::nullopt;
-    }
-    std::optional<ScriptError> open(const std::string& path) override {
-        calls.push_back("open " + path);
+    std::optional<ScriptError> select(const std::string& path) override {
+        calls.push_back("select " + path);
         return std::nullopt;
     }
     ScriptPathKind pathKind(const std::string& path) override {
@@ -74,7 +61,6 @@ struct FakeFinder : ScriptHost {
                : files.count(path) > 0 ? ScriptPathKind::file
                                        : ScriptPathKind::missing;
     }
-    std::string homePath() override { return "/Users/ana"; }
     void delay(double seconds) override { calls.push_back("delay " + std::to_string(seconds)); }
     std::variant<std::string, ScriptError> doShellScript(const std::string& command, bool asAdministrator) override {
         calls.push_back((asAdministrator ? "sudo " : "sh ") + command);
