@@ -39,10 +39,11 @@ std::optional<WindowButton> windowButtonAt(const CGPoint& point, CGSize size) {
 WindowEdges windowEdgesAt(const CGPoint& point, CGSize size) {
     const bool isInside = containsInside({{}, size}, point);
     if (!isInside || size.width < smallestWithEdges || size.height < smallestWithEdges) return {};
-    WindowEdges edges{
-        point.x<edgeThickness, point.x >= size.width - edgeThickness, point.y <= topEdgeThickness, point.y> size
-            .height -
-        edgeThickness};
+    WindowEdges edges;
+    edges.left = point.x < edgeThickness;
+    edges.right = point.x >= size.width - edgeThickness;
+    edges.top = point.y <= topEdgeThickness;
+    edges.bottom = point.y > size.height - edgeThickness;
     if (edges.left || edges.right) {
         edges.top = point.y <= cornerReach;
         edges.bottom = point.y > size.height - cornerReach;

@@ -18,7 +18,8 @@ struct SoakOptions {
     Preparation prepare;
 };
 
-// The command's exit code: 0 when everything held; 1 after a failed check, with the seed and the shortest script for it written out. The lines that only bring the desk to rest don't count.
+// Answers the exit code of the command: 0 when everything held, else 1, after writing the seed and as short a script as can be found that fails the same check. Lines that bring the desk to rest
+// aren't among the counted ones.
 int runSoak(const SoakOptions& options, std::ostream& output);
 
 }  // namespace play
