@@ -79,7 +79,7 @@ struct Stage {
     }
 
     kit::Desk desk;
-    desk::Application* application = nullptr;
+    desk::LaunchedApplication* application = nullptr;
 };
 
 platform::Platform withEvents(const platform::Platform& original, platform::Events& events,

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "desk/KnownApplications.h"
+#include "desk/processes/KnownApplications.h"
 #include "platform/FileURL.h"
 
 namespace desk {
@@ -51,20 +51,20 @@ Machine::~Machine() {
     while (!running.empty()) running.pop_back();
 }
 
-Application& Machine::launch(const std::string& bundlePath, const ApplicationImage& image,
-                             const ProgramFactory& factory) {
+LaunchedApplication& Machine::launch(const std::string& bundlePath, const ApplicationImage& image,
+                                     const ProgramFactory& factory) {
     Process process;
     process.bundleIdentifier = image.identifier();
     process.bundlePath = bundlePath;
     process.name = image.name;
     const std::int32_t pid = processes.add(std::move(process));
-    running.push_back(std::make_unique<Application>(*this, bundlePath, image, pid));
-    Application& launched = *running.back();
+    running.push_back(std::make_unique<LaunchedApplication>(*this, bundlePath, image, pid));
+    LaunchedApplication& launched = *running.back();
     launched.start(factory);
     return launched;
 }
 
-Application* Machine::application(std::int32_t processIdentifier) const {
+LaunchedApplication* Machine::application(std::int32_t processIdentifier) const {
     const auto found = std::find_if(running.begin(), running.end(), [&](const auto& candidate) {
         return candidate->processIdentifier() == processIdentifier && !candidate->isDead();
     });
@@ -146,7 +146,7 @@ void Machine::activate(std::int32_t processIdentifier, bool allWindows) {
         windows.raiseAll(processIdentifier);
     else
         windows.raise(main);
-    Application* launched = application(processIdentifier);
+    LaunchedApplication* launched = application(processIdentifier);
     platform::NSWindow* window = launched == nullptr ? nullptr : launched->window(main);
     if (!wasFrontmost && window != nullptr) window->makeKeyWindow();
 }
@@ -231,8 +231,8 @@ void Machine::reap() {
     // Out of the list first: what an application does while it goes may look at the others.
     const auto isAlive = [](const auto& launched) { return !launched->isDead() || launched->isOnStack(); };
     const auto firstGone = std::stable_partition(running.begin(), running.end(), isAlive);
-    std::vector<std::unique_ptr<Application>> gone(std::make_move_iterator(firstGone),
-                                                   std::make_move_iterator(running.end()));
+    std::vector<std::unique_ptr<LaunchedApplication>> gone(std::make_move_iterator(firstGone),
+                                                           std::make_move_iterator(running.end()));
     running.erase(firstGone, running.end());
 }
 

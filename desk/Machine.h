@@ -10,19 +10,19 @@
 #include <string>
 #include <vector>
 
-#include "desk/Application.h"
-#include "desk/Disk.h"
-#include "desk/Displays.h"
-#include "desk/Faults.h"
-#include "desk/Input.h"
-#include "desk/Permissions.h"
-#include "desk/Processes.h"
-#include "desk/WindowStack.h"
+#include "desk/disk/Disk.h"
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderScripting.h"
+#include "desk/input/Input.h"
 #include "desk/menus/MenuLayer.h"
 #include "desk/menus/ToolTips.h"
+#include "desk/processes/Faults.h"
+#include "desk/processes/LaunchedApplication.h"
+#include "desk/processes/Permissions.h"
+#include "desk/processes/Processes.h"
 #include "desk/time/Scheduler.h"
+#include "desk/windows/Displays.h"
+#include "desk/windows/WindowStack.h"
 #include "platform/Screens.h"
 #include "platform/Text.h"
 
@@ -61,9 +61,10 @@ public:
     platform::TextSystem& text;
 
     // Starts a copy; its launch callbacks run when the machine next settles.
-    Application& launch(const std::string& bundlePath, const ApplicationImage& image, const ProgramFactory& factory);
-    const std::vector<std::unique_ptr<Application>>& applications() const { return running; }
-    Application* application(std::int32_t processIdentifier) const;
+    LaunchedApplication& launch(const std::string& bundlePath, const ApplicationImage& image,
+                                const ProgramFactory& factory);
+    const std::vector<std::unique_ptr<LaunchedApplication>>& applications() const { return running; }
+    LaunchedApplication* application(std::int32_t processIdentifier) const;
 
     // Set by who has programs to run: starts the one of the bundle at that path; false leaves it to the desk to play the application.
     std::function<bool(const std::string& bundlePath)> startProgram;
@@ -107,7 +108,7 @@ private:
     platform::Date start;
     std::int64_t nextOtherNumber;
     std::vector<platform::Token> subscriptions;
-    std::vector<std::unique_ptr<Application>> running;
+    std::vector<std::unique_ptr<LaunchedApplication>> running;
 };
 
 }  // namespace desk

@@ -4,9 +4,9 @@
 
 #include "play/BarParts.h"
 #include "play/Commands.h"
+#include "play/DeskState.h"
 #include "play/Json.h"
 #include "play/ScriptPlayer.h"
-#include "play/State.h"
 
 namespace play {
 

@@ -31,7 +31,7 @@ void Session::launch(const std::string& bundlePath) {
                    [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
 }
 
-desk::Application* Session::application() const {
+desk::LaunchedApplication* Session::application() const {
     const auto& all = machine.applications();
     for (auto entry = all.rbegin(); entry != all.rend(); ++entry)
         if (!(*entry)->isDead() && (*entry)->program() != nullptr) return entry->get();

@@ -30,7 +30,7 @@ public:
     bool hasLaunched() const { return launched; }
 
     // The living copy that was launched last, and what runs in it; null without one.
-    desk::Application* application() const;
+    desk::LaunchedApplication* application() const;
     const brindle::OrvaneApp* orvane() const;
 
 private:

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cctype>
 
-#include "desk/AlertLayout.h"
-#include "desk/WindowFrame.h"
 #include "desk/finder/FinderBrowser.h"
+#include "desk/system/AlertLayout.h"
+#include "desk/windows/WindowFrame.h"
 #include "play/BarParts.h"
 #include "play/Commands.h"
 #include "play/OpenMenus.h"

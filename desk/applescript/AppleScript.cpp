@@ -37,7 +37,7 @@ std::unique_ptr<CompiledScript> compile(std::string_view source, ScriptError* er
 ScriptResult run(const CompiledScript& script, ScriptHost& host, const std::vector<std::string>& arguments,
                  const ScriptLimits& limits) {
     try {
-        const std::optional<Text> text = textOf(Interpreter(script.program(), host, limits).run(arguments));
+        const std::optional<ScriptText> text = textOf(Interpreter(script.program(), host, limits).run(arguments));
         return {text ? std::optional(text->string()) : std::nullopt, std::nullopt};
     } catch (const Failure& failure) {
         return {std::nullopt, failure.error};

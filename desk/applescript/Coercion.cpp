@@ -4,24 +4,24 @@
 
 namespace desk::applescript {
 
-std::optional<Text> textOf(const Value& value) {
-    if (const Text* text = value.as<Text>()) {
+std::optional<ScriptText> textOf(const Value& value) {
+    if (const ScriptText* text = value.as<ScriptText>()) {
         return *text;
     }
     if (const auto* number = value.as<std::int64_t>()) {
-        return Text(std::to_string(*number));
+        return ScriptText(std::to_string(*number));
     }
     if (const double* number = value.as<double>()) {
-        return Text(std::to_string(*number));
+        return ScriptText(std::to_string(*number));
     }
     if (const bool* flag = value.as<bool>()) {
-        return Text(*flag ? "true" : "false");
+        return ScriptText(*flag ? "true" : "false");
     }
     return std::nullopt;
 }
 
-Text requiredText(const Value& value) {
-    const std::optional<Text> text = textOf(value);
+ScriptText requiredText(const Value& value) {
+    const std::optional<ScriptText> text = textOf(value);
     if (!text) {
         failCoercion(value, "text");
     }

@@ -9,10 +9,10 @@
 namespace desk::applescript {
 
 // Empty for lists, references and what is no value.
-std::optional<Text> textOf(const Value& value);
+std::optional<ScriptText> textOf(const Value& value);
 
 // These throw Failure with AppleScript's "Can’t make ... into type ...".
-Text requiredText(const Value& value);
+ScriptText requiredText(const Value& value);
 std::int64_t requiredInteger(const Value& value);
 double requiredNumber(const Value& value);
 bool requiredBoolean(const Value& value);

@@ -17,7 +17,7 @@ constexpr std::int64_t costOfShell = 20'000;
 
 // Finder's own references have no path of this kind; they become an alias first.
 std::optional<Value> languageProperty(PropertyTerm term, const Value& owner) {
-    const Text* text = owner.as<Text>();
+    const ScriptText* text = owner.as<ScriptText>();
     if (term == PropertyTerm::quotedForm && text != nullptr) {
         return Value::text(quotedForShell(text->view()));
     }
@@ -83,9 +83,9 @@ Value Interpreter::evaluate(const Comparison& node) {
 }
 
 Value Interpreter::evaluate(const Concatenation& node) {
-    Text joined = requiredText(evaluate(*node.operands.front()));
+    ScriptText joined = requiredText(evaluate(*node.operands.front()));
     for (std::size_t index = 1; index < node.operands.size(); ++index) {
-        const Text more = requiredText(evaluate(*node.operands[index]));
+        const ScriptText more = requiredText(evaluate(*node.operands[index]));
         const std::size_t copied = joined.growsInPlace() ? 0 : joined.view().size();
         budget.charge(static_cast<std::int64_t>((more.view().size() + copied) / 64));
         joined = joined.appending(more.view());
@@ -198,7 +198,7 @@ Value Interpreter::evaluate(const CommandCall& node) {
         return Value::text(std::string(1, static_cast<char>(code)));
     }
     default: {
-        const Text path = requiredText(direct);
+        const ScriptText path = requiredText(direct);
         const bool isFolder = path.view().size() > 1 && path.view().ends_with('/');
         return FinderTerms::file(Reference::Kind::posixFile, path.view(), isFolder);
     }
@@ -208,7 +208,7 @@ Value Interpreter::evaluate(const CommandCall& node) {
 // The shell's line feeds become returns, and the last one goes.
 Value Interpreter::doShellScript(const CommandCall& node) {
     budget.charge(costOfShell);
-    const Text command = requiredText(evaluate(*node.direct));
+    const ScriptText command = requiredText(evaluate(*node.direct));
     std::variant<std::string, ScriptError> answer = host.doShellScript(command.string(), node.asAdministrator);
     if (const ScriptError* error = std::get_if<ScriptError>(&answer)) {
         throw Failure{*error};

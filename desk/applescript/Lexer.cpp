@@ -28,7 +28,7 @@ constexpr std::array<std::string_view, 8> symbols{"≠", "(", ")", "&", "=", "-"
 
 }  // namespace
 
-std::string Token::description() const {
+std::string ScriptToken::description() const {
     switch (kind) {
     case TokenKind::word:
         return "identifier";
@@ -47,7 +47,7 @@ std::string Token::description() const {
     return "unknown token";
 }
 
-std::vector<Token> Lexer::tokenize() {
+std::vector<ScriptToken> Lexer::tokenize() {
     while (position < source.size()) {
         if (skipBlank()) {
             continue;
@@ -132,7 +132,7 @@ void Lexer::readNumber() {
     const std::string text(source.substr(start, position - start));
     const char* end = text.data() + text.size();
     add(TokenKind::real, text);
-    Token& token = tokens.back();
+    ScriptToken& token = tokens.back();
     const auto whole = std::from_chars(text.data(), end, token.integer);
     if (whole.ec == std::errc() && whole.ptr == end) {
         token.kind = TokenKind::integer;

@@ -1,7 +1,7 @@
 // Turns the source of a script into tokens: strips comments, joins continued lines, undoes the escapes of literals.
 #pragma once
 
-#include "desk/applescript/Token.h"
+#include "desk/applescript/ScriptToken.h"
 
 #include <string_view>
 #include <vector>
@@ -13,7 +13,7 @@ public:
     explicit Lexer(std::string_view text) : source(text) {}
 
     // Always ends with an end of line and the end of the script. Throws Failure for what is no token.
-    std::vector<Token> tokenize();
+    std::vector<ScriptToken> tokenize();
 
 private:
     bool skipBlank();
@@ -28,7 +28,7 @@ private:
 
     std::string_view source;
     std::size_t position = 0;
-    std::vector<Token> tokens;
+    std::vector<ScriptToken> tokens;
 };
 
 }  // namespace desk::applescript

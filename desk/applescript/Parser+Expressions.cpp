@@ -120,7 +120,7 @@ ExpressionPtr Parser::parsePrimary() {
     case TokenKind::real:
         return make(Literal{Value(Value::Storage(next().real))});
     case TokenKind::string:
-        return make(Literal{Value(Text::literal(next().text))});
+        return make(Literal{Value(ScriptText::literal(next().text))});
     case TokenKind::word:
         return parseWord();
     default:

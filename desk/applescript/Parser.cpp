@@ -54,16 +54,16 @@ std::size_t Parser::expectVariable() {
     if (peek().kind != TokenKind::word || isReserved(peek().folded)) {
         failExpecting("variable name");
     }
-    const Token name = next();
+    const ScriptToken name = next();
     return program.slot(name.folded, name.text);
 }
 
-const Token& Parser::peek(std::size_t ahead) const {
+const ScriptToken& Parser::peek(std::size_t ahead) const {
     return tokens[std::min(position + ahead, tokens.size() - 1)];
 }
 
-Token Parser::next() {
-    Token token = peek();
+ScriptToken Parser::next() {
+    ScriptToken token = peek();
     position = std::min(position + 1, tokens.size() - 1);
     return token;
 }
@@ -76,7 +76,7 @@ std::size_t Parser::wordsAhead(std::string_view words) const {
     std::size_t count = 0;
     while (!words.empty()) {
         const std::size_t blank = std::min(words.find(' '), words.size());
-        const Token& token = peek(count);
+        const ScriptToken& token = peek(count);
         const bool hasWords = token.kind == TokenKind::word || token.kind == TokenKind::symbol;
         if (!hasWords || token.folded != words.substr(0, blank)) {
             return 0;
@@ -113,7 +113,7 @@ void Parser::failExpecting(const std::string& expected) const {
 }
 
 std::string Parser::foundHere() const {
-    const Token& token = peek();
+    const ScriptToken& token = peek();
     if (token.kind != TokenKind::word) {
         return token.description();
     }

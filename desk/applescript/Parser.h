@@ -3,7 +3,7 @@
 #pragma once
 
 #include "desk/applescript/Program.h"
-#include "desk/applescript/Token.h"
+#include "desk/applescript/ScriptToken.h"
 
 #include <initializer_list>
 #include <string>
@@ -15,7 +15,7 @@ namespace desk::applescript {
 
 class Parser {
 public:
-    explicit Parser(std::vector<Token> scriptTokens) : tokens(std::move(scriptTokens)) {}
+    explicit Parser(std::vector<ScriptToken> scriptTokens) : tokens(std::move(scriptTokens)) {}
 
     // Throws Failure with ErrorNumber::syntaxError or a neighbour of it.
     Program parse();
@@ -52,8 +52,8 @@ private:
     CoercionTerm parseCoercion();
 
     // Tokens (Parser.cpp)
-    const Token& peek(std::size_t ahead = 0) const;
-    Token next();
+    const ScriptToken& peek(std::size_t ahead = 0) const;
+    ScriptToken next();
     bool isAtEndOfLine() const;
     // How many tokens the words or the symbol take if they stand here, else none.
     std::size_t wordsAhead(std::string_view words) const;
@@ -67,7 +67,7 @@ private:
     static ExpressionPtr make(Expression::Node node, std::initializer_list<const Expression*> children = {});
     static void checkDepth(const Expression& expression);
 
-    std::vector<Token> tokens;
+    std::vector<ScriptToken> tokens;
     std::size_t position = 0;
     int nesting = 0;
     bool isInFinder = false;

@@ -69,11 +69,11 @@ std::string described(const Value& value) {
     if (value.reference() != nullptr) {
         return described(*value.reference());
     }
-    const std::optional<Text> text = textOf(value);
+    const std::optional<ScriptText> text = textOf(value);
     if (!text) {
         return "«script»";
     }
-    return value.is<Text>() ? inQuotes(text->view()) : text->string();
+    return value.is<ScriptText>() ? inQuotes(text->view()) : text->string();
 }
 
 bool areEqual(const Value& left, const Value& right) {
@@ -82,8 +82,8 @@ bool areEqual(const Value& left, const Value& right) {
     if (leftNumber != nullptr && rightNumber != nullptr) {
         return *leftNumber == *rightNumber;
     }
-    const Text* leftText = left.as<Text>();
-    const Text* rightText = right.as<Text>();
+    const ScriptText* leftText = left.as<ScriptText>();
+    const ScriptText* rightText = right.as<ScriptText>();
     if (leftText != nullptr && rightText != nullptr) {
         return foldedCase(leftText->view()) == foldedCase(rightText->view());
     }

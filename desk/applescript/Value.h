@@ -1,7 +1,7 @@
 // The values that a script computes with.
 #pragma once
 
-#include "desk/applescript/Text.h"
+#include "desk/applescript/ScriptText.h"
 
 #include <cstdint>
 #include <memory>
@@ -32,13 +32,13 @@ struct Nothing {};
 class Value {
 public:
     using List = std::vector<Value>;
-    using Storage = std::variant<Nothing, bool, std::int64_t, double, Text, std::shared_ptr<const List>,
+    using Storage = std::variant<Nothing, bool, std::int64_t, double, ScriptText, std::shared_ptr<const List>,
                                  std::shared_ptr<const Reference>>;
 
     Value() = default;
     Value(Storage value) : storage(std::move(value)) {}
 
-    static Value text(std::string bytes) { return Value(Text(std::move(bytes))); }
+    static Value text(std::string bytes) { return Value(ScriptText(std::move(bytes))); }
     static Value number(std::int64_t number) { return Value(Storage(number)); }
     static Value boolean(bool flag) { return Value(Storage(flag)); }
     static Value reference(Reference reference) {

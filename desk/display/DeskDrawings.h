@@ -5,12 +5,12 @@
 #include <string_view>
 #include <vector>
 
-#include "desk/AlertLayout.h"
-#include "desk/Dock.h"
-#include "desk/Permissions.h"
 #include "desk/display/DrawingBuilder.h"
 #include "desk/display/WindowChrome.h"
 #include "desk/menus/MenuBar.h"
+#include "desk/processes/Permissions.h"
+#include "desk/system/AlertLayout.h"
+#include "desk/system/Dock.h"
 #include "platform/Geometry.h"
 
 namespace desk {

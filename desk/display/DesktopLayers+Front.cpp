@@ -1,12 +1,12 @@
 // What stands before all windows: Dock, menu bar, popovers, tooltip, the open menu, alert.
 #include <algorithm>
 
-#include "desk/AlertLayout.h"
 #include "desk/Machine.h"
 #include "desk/display/DeskDrawings.h"
 #include "desk/display/DesktopLayers.h"
 #include "desk/display/FinderWords.h"
 #include "desk/display/MenuDrawing.h"
+#include "desk/system/AlertLayout.h"
 
 namespace desk {
 

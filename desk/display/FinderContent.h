@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 #include "desk/display/WindowChrome.h"
 #include "desk/finder/FinderLayout.h"
 #include "desk/finder/FinderPlaces.h"

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "desk/WindowStack.h"
+#include "desk/windows/WindowStack.h"
 #include "platform/Geometry.h"
 #include "platform/Screens.h"
 

@@ -4,8 +4,8 @@
 
 #include <string_view>
 
-#include "desk/WindowFrame.h"
 #include "desk/display/DrawingBuilder.h"
+#include "desk/windows/WindowFrame.h"
 #include "platform/Geometry.h"
 
 namespace desk {

@@ -4,12 +4,12 @@
 #include <cmath>
 #include <utility>
 
-#include "desk/KnownApplications.h"
 #include "desk/Machine.h"
 #include "desk/finder/FinderAccessibility.h"
 #include "desk/finder/FinderBrowser.h"
 #include "desk/finder/FinderKeys.h"
 #include "desk/finder/FinderMouse.h"
+#include "desk/processes/KnownApplications.h"
 #include "platform/FileURL.h"
 
 namespace desk {

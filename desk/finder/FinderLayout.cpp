@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desk/WindowFrame.h"
+#include "desk/windows/WindowFrame.h"
 
 namespace desk {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 #include "platform/Collation.h"
 
 namespace desk {

@@ -16,8 +16,8 @@
 #include <variant>
 #include <vector>
 
-#include "desk/WindowFrame.h"
 #include "desk/finder/FinderLayout.h"
+#include "desk/windows/WindowFrame.h"
 #include "platform/Geometry.h"
 
 namespace desk {

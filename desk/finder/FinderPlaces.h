@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 
 namespace desk {
 

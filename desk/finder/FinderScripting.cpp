@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "desk/Application.h"
 #include "desk/Machine.h"
 #include "desk/applescript/AppleScript.h"
 #include "desk/finder/FinderScriptHost.h"
 #include "desk/finder/ScriptSender.h"
+#include "desk/processes/LaunchedApplication.h"
 #include "desk/time/WorkerQueue.h"
 
 namespace desk {
@@ -31,7 +31,7 @@ NSAppleScriptResult failed(const ScriptError& error) {
 // Holds the compiled script from its first run on.
 class FinderScripting::Script final : public platform::NSAppleScript {
 public:
-    Script(Machine& theMachine, Application& theApplication, std::string theSource)
+    Script(Machine& theMachine, LaunchedApplication& theApplication, std::string theSource)
         : machine(theMachine), application(theApplication), source(std::move(theSource)) {}
 
     NSAppleScriptResult executeAndReturnError() override {
@@ -62,12 +62,13 @@ private:
     }
 
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
     const std::string source;
     std::unique_ptr<applescript::CompiledScript> compiled;
 };
 
-std::unique_ptr<platform::NSAppleScript> FinderScripting::makeScript(Application& sender, const std::string& source) {
+std::unique_ptr<platform::NSAppleScript> FinderScripting::makeScript(LaunchedApplication& sender,
+                                                                     const std::string& source) {
     return std::make_unique<Script>(machine, sender, source);
 }
 

@@ -12,7 +12,7 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 // One script sent, for whoever looks at the machine.
@@ -28,7 +28,7 @@ struct SentScript {
 class FinderScripting {
 public:
     explicit FinderScripting(Machine& theMachine) : machine(theMachine) {}
-    std::unique_ptr<platform::NSAppleScript> makeScript(Application& sender, const std::string& source);
+    std::unique_ptr<platform::NSAppleScript> makeScript(LaunchedApplication& sender, const std::string& source);
 
     // Since the machine was made.
     std::uint64_t scriptsSent() const { return sent; }

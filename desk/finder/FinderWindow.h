@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 #include "platform/Geometry.h"
 
 namespace desk {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <chrono>
 
-#include "desk/Application.h"
 #include "desk/Machine.h"
+#include "desk/processes/LaunchedApplication.h"
 #include "desk/time/WorkerQueue.h"
 
 namespace desk {

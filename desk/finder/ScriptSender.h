@@ -6,12 +6,13 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 class ScriptSender {
 public:
-    ScriptSender(Machine& theMachine, Application& theApplication) : machine(theMachine), application(theApplication) {}
+    ScriptSender(Machine& theMachine, LaunchedApplication& theApplication)
+        : machine(theMachine), application(theApplication) {}
 
     // False when the application ended meanwhile, and from then on.
     bool wait(platform::Duration duration);
@@ -23,7 +24,7 @@ private:
     bool parkUntilAnswered();
 
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
     bool gone = false;
 };
 

@@ -9,8 +9,8 @@
 #include <optional>
 #include <vector>
 
-#include "desk/Input.h"
 #include "desk/display/Compositor.h"
+#include "desk/input/Input.h"
 #include "platform/Geometry.h"
 #include "platform/Time.h"
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "desk/Input.h"
+#include "desk/input/Input.h"
 
 class QKeyEvent;
 

@@ -1,7 +1,7 @@
 #include "desk/menus/MenuBar.h"
 
 #include "desk/Machine.h"
-#include "desk/WindowFrame.h"
+#include "desk/windows/WindowFrame.h"
 
 namespace desk {
 

@@ -257,7 +257,7 @@ void MenuLayer::typeToSelect(const NSEvent& event) {
 
 void MenuLayer::choose(std::size_t row) {
     const auto action = tracked->menu.items()[row].action;
-    Application* owner = machine.application(tracked->owner);
+    LaunchedApplication* owner = machine.application(tracked->owner);
     closeMenu();
     if (!action) return;
     if (owner != nullptr)

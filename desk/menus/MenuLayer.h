@@ -23,7 +23,7 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 struct ShownPopover {

@@ -9,12 +9,12 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 class AccessibilityPort final : public platform::Accessibility {
 public:
-    AccessibilityPort(Machine& theMachine, Application& theApplication)
+    AccessibilityPort(Machine& theMachine, LaunchedApplication& theApplication)
         : machine(theMachine), application(theApplication) {}
 
     bool AXIsProcessTrusted() override;
@@ -35,7 +35,7 @@ private:
     bool isFinder(std::int32_t processIdentifier) const;
 
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
     std::shared_ptr<std::size_t> subscriptions = std::make_shared<std::size_t>(0);  // of all observers
 };
 

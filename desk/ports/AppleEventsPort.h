@@ -5,18 +5,18 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 class AppleEventsPort final : public platform::AppleEvents {
 public:
-    AppleEventsPort(Machine& theMachine, Application& theApplication)
+    AppleEventsPort(Machine& theMachine, LaunchedApplication& theApplication)
         : machine(theMachine), application(theApplication) {}
     std::unique_ptr<platform::NSAppleScript> makeAppleScript(const std::string& source) override;
 
 private:
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
 };
 
 }  // namespace desk

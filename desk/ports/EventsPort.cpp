@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "desk/Input.h"
+#include "desk/input/Input.h"
 
 namespace desk {
 

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <utility>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 #include "platform/FileURL.h"
 
 namespace desk {

@@ -7,12 +7,13 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 class MenusPort final : public platform::Menus {
 public:
-    MenusPort(Machine& theMachine, Application& theApplication) : machine(theMachine), application(theApplication) {}
+    MenusPort(Machine& theMachine, LaunchedApplication& theApplication)
+        : machine(theMachine), application(theApplication) {}
 
     std::unique_ptr<platform::MenuHandle> popUpBelow(const platform::CGRect& anchor,
                                                      std::vector<platform::MenuItem> items) override;
@@ -26,7 +27,7 @@ public:
 
 private:
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
 };
 
 }  // namespace desk

@@ -23,7 +23,7 @@ std::optional<platform::NSEvent> NSApplicationPort::nextEventMatchingMask(platfo
                                                                           platform::NSRunLoopMode /*mode*/,
                                                                           bool dequeue) {
     auto event = application.loop().nextEvent(mask, untilDate, dequeue);
-    if (event) event = Application::inItsWindow(*event);
+    if (event) event = LaunchedApplication::inItsWindow(*event);
     return event;
 }
 

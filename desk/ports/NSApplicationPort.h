@@ -5,12 +5,12 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 class NSApplicationPort final : public platform::NSApplication {
 public:
-    NSApplicationPort(Machine& theMachine, Application& theApplication)
+    NSApplicationPort(Machine& theMachine, LaunchedApplication& theApplication)
         : machine(theMachine), application(theApplication) {}
 
     void setActivationPolicy(platform::NSApplicationActivationPolicy policy) override;
@@ -21,7 +21,7 @@ public:
 
 private:
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
 };
 
 }  // namespace desk

@@ -6,7 +6,7 @@ namespace desk {
 
 using platform::NSWindowOrderingMode;
 
-PanelHandle::PanelHandle(Machine& theMachine, Application& theApplication, platform::NSWindow& theWindow,
+PanelHandle::PanelHandle(Machine& theMachine, LaunchedApplication& theApplication, platform::NSWindow& theWindow,
                          const platform::CGRect& frame)
     : machine(theMachine),
       application(theApplication),

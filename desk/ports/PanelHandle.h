@@ -4,17 +4,17 @@
 
 #include <cstdint>
 
-#include "desk/WindowStack.h"
+#include "desk/windows/WindowStack.h"
 #include "platform/Windows.h"
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 class PanelHandle final : public platform::WindowHandle {
 public:
-    PanelHandle(Machine& theMachine, Application& theApplication, platform::NSWindow& theWindow,
+    PanelHandle(Machine& theMachine, LaunchedApplication& theApplication, platform::NSWindow& theWindow,
                 const platform::CGRect& frame);
     ~PanelHandle() override;
 
@@ -34,7 +34,7 @@ private:
     const ServerWindow* entry() const;
 
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
     platform::NSWindow& window;
     const std::int64_t number;
     platform::CGRect lastFrame;

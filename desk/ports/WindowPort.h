@@ -5,18 +5,19 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 
 class WindowPort final : public platform::WindowSystem {
 public:
-    WindowPort(Machine& theMachine, Application& theApplication) : machine(theMachine), application(theApplication) {}
+    WindowPort(Machine& theMachine, LaunchedApplication& theApplication)
+        : machine(theMachine), application(theApplication) {}
     std::unique_ptr<platform::WindowHandle> makeWindow(platform::NSWindow& window,
                                                        const platform::CGRect& frame) override;
 
 private:
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
 };
 
 }  // namespace desk

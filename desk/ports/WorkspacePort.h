@@ -11,13 +11,13 @@
 
 namespace desk {
 
-class Application;
+class LaunchedApplication;
 class Machine;
 struct Process;
 
 class WorkspacePort final : public platform::Workspace {
 public:
-    WorkspacePort(Machine& theMachine, Application& theApplication)
+    WorkspacePort(Machine& theMachine, LaunchedApplication& theApplication)
         : machine(theMachine), application(theApplication) {}
 
     std::vector<platform::NSRunningApplication> runningApplications() override;
@@ -40,7 +40,7 @@ private:
     platform::NSRunningApplication describe(const Process& process);
 
     Machine& machine;
-    Application& application;
+    LaunchedApplication& application;
     Registry<Observer> observers;
 };
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 #include "desk/shell/BashProcess.h"
 #include "desk/shell/ShellTools.h"
 #include "platform/FileURL.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 #include "platform/FileURL.h"
 
 namespace desk {

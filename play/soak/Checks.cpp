@@ -8,9 +8,9 @@
 
 #include "pathbar/BreadcrumbModel.h"
 #include "play/BarParts.h"
+#include "play/DeskState.h"
 #include "play/Json.h"
 #include "play/Session.h"
-#include "play/State.h"
 #include "play/soak/Expectations.h"
 #include "play/soak/Leeway.h"
 #include "play/soak/Lines.h"
@@ -31,7 +31,7 @@ constexpr std::size_t mostCachedBeyondScreen = 128;
 struct Rest {
     Session& session;
     const Leeway& leeway;
-    const desk::Application& application;
+    const desk::LaunchedApplication& application;
     const brindle::FinderObserver& observer;
     const brindle::FinderOverlayCoordinator::Controllers& bars;
 };

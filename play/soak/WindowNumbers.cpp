@@ -8,7 +8,7 @@
 #include <optional>
 #include <string_view>
 
-#include "desk/WindowStack.h"
+#include "desk/windows/WindowStack.h"
 #include "play/ScriptReader.h"
 #include "play/soak/Lines.h"
 

@@ -63,7 +63,7 @@ public:
 inline Probe& launchProbe(Desk& desk, const std::string& bundleIdentifier = "org.example.Probe") {
     desk::ApplicationImage image;
     image.bundleIdentifier = bundleIdentifier;
-    desk::Application& launched =
+    desk::LaunchedApplication& launched =
         desk.machine.launch("/Applications/Probe.app", image,
                             [](platform::Platform& platform) { return std::make_unique<Probe>(platform); });
     desk.machine.settle();

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 
 namespace desk {
 

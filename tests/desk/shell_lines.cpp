@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 #include "desk/shell/Shell.h"
 
 namespace desk {

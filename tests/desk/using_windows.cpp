@@ -1,8 +1,8 @@
 // Windows, Dock, menu bar and spaces as a person uses them.
 #include <gtest/gtest.h>
 
-#include "desk/Dock.h"
 #include "desk/menus/MenuBar.h"
+#include "desk/system/Dock.h"
 #include "tests/desk/UsingFinder.h"
 
 namespace {

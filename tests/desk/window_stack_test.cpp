@@ -1,10 +1,10 @@
 // Stacking, as whole lists front to back, and what is on screen.
 #include <gtest/gtest.h>
 
-#include "desk/Displays.h"
-#include "desk/Faults.h"
-#include "desk/Processes.h"
-#include "desk/WindowStack.h"
+#include "desk/processes/Faults.h"
+#include "desk/processes/Processes.h"
+#include "desk/windows/Displays.h"
+#include "desk/windows/WindowStack.h"
 
 namespace {
 

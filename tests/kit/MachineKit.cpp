@@ -25,14 +25,14 @@ std::unique_ptr<platform::TextSystem> systemText() {
 
 OrvaneDesk::OrvaneDesk() : Desk(systemText()) {}
 
-desk::Application& OrvaneDesk::launch(const std::string& bundlePath) {
-    desk::Application& launched = machine.launch(
+desk::LaunchedApplication& OrvaneDesk::launch(const std::string& bundlePath) {
+    desk::LaunchedApplication& launched = machine.launch(
         bundlePath, image, [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
     machine.settle();
     return launched;
 }
 
-desk::Application& OrvaneDesk::application() {
+desk::LaunchedApplication& OrvaneDesk::application() {
     return *machine.applications().back();
 }
 

@@ -16,10 +16,10 @@ public:
     desk::ApplicationImage image;
 
     // Starts a copy and lets its launch callbacks run.
-    desk::Application& launch(const std::string& bundlePath = "/Applications/Orvane.app");
+    desk::LaunchedApplication& launch(const std::string& bundlePath = "/Applications/Orvane.app");
     // What runs in the copy that was launched last, as long as it lives.
     brindle::OrvaneApp& orvane();
-    desk::Application& application();
+    desk::LaunchedApplication& application();
 };
 
 }  // namespace kit

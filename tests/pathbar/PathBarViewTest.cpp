@@ -5,7 +5,7 @@
 #include "pathbar/PathBarMetrics.h"
 #include "pathbar/PathBarView.h"
 #include "tests/kit/ViewPlatform.h"
-#include "tests/pathbar/BarParts.h"
+#include "tests/pathbar/BarElements.h"
 
 namespace {
 

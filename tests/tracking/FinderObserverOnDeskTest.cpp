@@ -64,7 +64,7 @@ struct FollowedDesk : kit::Desk {
         }
         return texts;
     }
-    desk::Application* application = nullptr;
+    desk::LaunchedApplication* application = nullptr;
 };
 
 TEST(FollowedDesk, TwinsWithOneFrameAndOneTitleKeepTheirOwnPaths) {

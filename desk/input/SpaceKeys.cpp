@@ -1,4 +1,4 @@
-#include "desk/SpaceKeys.h"
+#include "desk/input/SpaceKeys.h"
 
 #include <algorithm>
 #include <array>

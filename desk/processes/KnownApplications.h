@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 
 namespace desk {
 

@@ -1,4 +1,4 @@
-#include "desk/Application.h"
+#include "desk/processes/LaunchedApplication.h"
 
 #include <utility>
 
@@ -29,8 +29,8 @@ std::optional<std::string> ApplicationImage::identifier() const {
     return *text;
 }
 
-struct Application::Ports {
-    Ports(Machine& machine, Application& self, const ApplicationImage& image)
+struct LaunchedApplication::Ports {
+    Ports(Machine& machine, LaunchedApplication& self, const ApplicationImage& image)
         : workspace(machine, self),
           windowServer(machine),
           accessibility(machine, self),
@@ -62,8 +62,8 @@ struct Application::Ports {
     UuidPort uuids;
 };
 
-Application::Application(Machine& theMachine, std::string theBundlePath, const ApplicationImage& image,
-                         std::int32_t theProcessIdentifier)
+LaunchedApplication::LaunchedApplication(Machine& theMachine, std::string theBundlePath, const ApplicationImage& image,
+                                         std::int32_t theProcessIdentifier)
     : machine(theMachine),
       path(std::move(theBundlePath)),
       pid(theProcessIdentifier),
@@ -95,14 +95,14 @@ Application::Application(Machine& theMachine, std::string theBundlePath, const A
                                           *slots}) {}
 
 // What is posted may hold on to the program, the program to what is shared, and both to the ports.
-Application::~Application() {
+LaunchedApplication::~LaunchedApplication() {
     dead = true;
     runLoop->shutDown();
     runningProgram.reset();
     slots.reset();
 }
 
-void Application::start(const ProgramFactory& factory) {
+void LaunchedApplication::start(const ProgramFactory& factory) {
     ++callDepth;
     runningProgram = factory(*platformOfIt);
     --callDepth;
@@ -112,7 +112,7 @@ void Application::start(const ProgramFactory& factory) {
     });
 }
 
-void Application::terminate() {
+void LaunchedApplication::terminate() {
     if (dead) return;
     const bool agreed = !runningProgram || runningProgram->delegate().applicationShouldTerminate() ==
                                                platform::NSApplicationTerminateReply::terminateNow;
@@ -127,38 +127,38 @@ void Application::terminate() {
     machine.processes.remove(pid);
 }
 
-const platform::Dictionary& Application::storedDefaults() const {
+const platform::Dictionary& LaunchedApplication::storedDefaults() const {
     return ports->defaults.storedValues();
 }
 
-platform::NSEvent Application::inItsWindow(platform::NSEvent event) {
+platform::NSEvent LaunchedApplication::inItsWindow(platform::NSEvent event) {
     if (event.window == nullptr) return event;
     const platform::CGPoint origin = event.window->frame().origin;
     event.locationInWindow = {event.locationInWindow.x - origin.x, event.locationInWindow.y - origin.y};
     return event;
 }
 
-void Application::sendEvent(const platform::NSEvent& event) {
+void LaunchedApplication::sendEvent(const platform::NSEvent& event) {
     const auto keepAlive = event.window == nullptr ? nullptr : event.window->weak_from_this().lock();
     const auto answered = ports->events.runLocalMonitors(event);
     if (!dead && answered && answered->window != nullptr) answered->window->sendEvent(*answered);
 }
 
-void Application::offerToGlobalMonitors(const platform::NSEvent& event) {
+void LaunchedApplication::offerToGlobalMonitors(const platform::NSEvent& event) {
     if (dead || !ports->events.hasGlobalMonitorFor(event.type)) return;
     runLoop->mainAsync([this, event] { ports->events.runGlobalMonitors(event); });
 }
 
-void Application::postWorkspaceNotification(platform::WorkspaceNotification notification) {
+void LaunchedApplication::postWorkspaceNotification(platform::WorkspaceNotification notification) {
     if (!dead) runLoop->mainAsync([this, notification] { ports->workspace.notify(notification); });
 }
 
-platform::NSWindow* Application::window(std::int64_t number) {
+platform::NSWindow* LaunchedApplication::window(std::int64_t number) {
     const auto entry = ownWindows.find(number);
     return entry == ownWindows.end() ? nullptr : entry->second;
 }
 
-Application::Registrations Application::registrations() const {
+LaunchedApplication::Registrations LaunchedApplication::registrations() const {
     return {ports->events.globalMonitorCount(),
             ports->events.localMonitorCount(),
             ports->workspace.observerCount(),

@@ -1,13 +1,13 @@
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 
 #include <algorithm>
 #include <array>
 #include <deque>
 #include <stdexcept>
 
-#include "desk/HostFolder.h"
-#include "desk/SampleVolume.h"
-#include "desk/Utf8.h"
+#include "desk/disk/HostFolder.h"
+#include "desk/disk/SampleVolume.h"
+#include "desk/disk/Utf8.h"
 #include "platform/FileURL.h"
 
 namespace desk {

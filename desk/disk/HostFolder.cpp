@@ -1,4 +1,4 @@
-#include "desk/HostFolder.h"
+#include "desk/disk/HostFolder.h"
 
 #include <dirent.h>
 #include <fcntl.h>

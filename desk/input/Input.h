@@ -7,8 +7,8 @@
 #include <optional>
 #include <string>
 
-#include "desk/AlertLayout.h"
-#include "desk/WindowFrame.h"
+#include "desk/system/AlertLayout.h"
+#include "desk/windows/WindowFrame.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"
 

@@ -1,15 +1,15 @@
-#include "desk/Input.h"
+#include "desk/input/Input.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "desk/Dock.h"
 #include "desk/Machine.h"
-#include "desk/OtherWindowMouse.h"
-#include "desk/SpaceKeys.h"
 #include "desk/finder/FinderKeys.h"
 #include "desk/finder/FinderMouse.h"
+#include "desk/input/OtherWindowMouse.h"
+#include "desk/input/SpaceKeys.h"
 #include "desk/menus/MenuBar.h"
+#include "desk/system/Dock.h"
 
 namespace desk {
 
@@ -167,7 +167,7 @@ bool Input::isMenuBarOrDock(const CGPoint& point) const {
 // What a press does to the order of windows and processes, apart from what its target makes of it.
 void Input::bringForward(const Target& target) {
     if (target.owner == 0) return;
-    Application* launched = machine.application(target.owner);
+    LaunchedApplication* launched = machine.application(target.owner);
     const platform::NSWindow* window = launched == nullptr ? nullptr : launched->window(target.window);
     if (window != nullptr && isPassive(*window)) return;
     machine.processes.activate(target.owner);
@@ -193,7 +193,7 @@ NSEvent Input::eventHere(NSEventType type, int clickCount) const {
 
 void Input::deliver(NSEvent event, const Target& target) {
     offerToOthers(event, target.owner);
-    Application* owner = machine.application(target.owner);
+    LaunchedApplication* owner = machine.application(target.owner);
     if (owner == nullptr) return;
     event.window = owner->window(target.window);
     owner->loop().postEvent(std::move(event));

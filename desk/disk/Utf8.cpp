@@ -1,4 +1,4 @@
-#include "desk/Utf8.h"
+#include "desk/disk/Utf8.h"
 
 #include <unicode/utf8.h>
 

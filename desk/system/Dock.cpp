@@ -1,11 +1,11 @@
-#include "desk/Dock.h"
+#include "desk/system/Dock.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "desk/KnownApplications.h"
 #include "desk/Machine.h"
-#include "desk/WindowFrame.h"
+#include "desk/processes/KnownApplications.h"
+#include "desk/windows/WindowFrame.h"
 #include "platform/FileURL.h"
 
 namespace desk {

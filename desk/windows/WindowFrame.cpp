@@ -1,4 +1,4 @@
-#include "desk/WindowFrame.h"
+#include "desk/windows/WindowFrame.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "desk/KnownApplications.h"
+#include "desk/processes/KnownApplications.h"
 
 namespace desk {
 

@@ -36,11 +36,11 @@ struct ApplicationImage {
     std::optional<std::string> identifier() const;
 };
 
-class Application {
+class LaunchedApplication {
 public:
-    Application(Machine& theMachine, std::string theBundlePath, const ApplicationImage& image,
-                std::int32_t theProcessIdentifier);
-    ~Application();
+    LaunchedApplication(Machine& theMachine, std::string theBundlePath, const ApplicationImage& image,
+                        std::int32_t theProcessIdentifier);
+    ~LaunchedApplication();
 
     // Makes the program and queues its launch callbacks.
     void start(const ProgramFactory& factory);

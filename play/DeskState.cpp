@@ -1,4 +1,4 @@
-#include "play/State.h"
+#include "play/DeskState.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
-#include "desk/SampleVolume.h"
+#include "desk/disk/SampleVolume.h"
 
 #include <string>
 
-#include "desk/Disk.h"
+#include "desk/disk/Disk.h"
 
 namespace desk {
 

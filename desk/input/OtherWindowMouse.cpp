@@ -1,9 +1,9 @@
-#include "desk/OtherWindowMouse.h"
+#include "desk/input/OtherWindowMouse.h"
 
 #include <utility>
 
 #include "desk/Machine.h"
-#include "desk/WindowFrame.h"
+#include "desk/windows/WindowFrame.h"
 
 namespace desk {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "desk/Permissions.h"
+#include "desk/processes/Permissions.h"
 #include "platform/Geometry.h"
 #include "platform/Screens.h"
 

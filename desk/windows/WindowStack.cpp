@@ -1,4 +1,4 @@
-#include "desk/WindowStack.h"
+#include "desk/windows/WindowStack.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "desk/Processes.h"
+#include "desk/processes/Processes.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "desk/AlertLayout.h"
+#include "desk/system/AlertLayout.h"
 
 #include <algorithm>
 

@@ -8,7 +8,7 @@ namespace desk::applescript {
 
 enum class TokenKind { word, integer, real, string, symbol, endOfLine, endOfScript };
 
-struct Token {
+struct ScriptToken {
     TokenKind kind = TokenKind::endOfScript;
     // A word as written, a string without its quotes and escapes, a symbol.
     std::string text;

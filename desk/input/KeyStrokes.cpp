@@ -2,7 +2,7 @@
 #include <cctype>
 #include <string_view>
 
-#include "desk/Input.h"
+#include "desk/input/Input.h"
 
 namespace desk {
 

@@ -1,4 +1,4 @@
-#include "desk/Faults.h"
+#include "desk/processes/Faults.h"
 
 namespace desk {
 

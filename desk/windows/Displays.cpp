@@ -1,4 +1,4 @@
-#include "desk/Displays.h"
+#include "desk/windows/Displays.h"
 
 #include <algorithm>
 

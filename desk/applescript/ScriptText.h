@@ -10,15 +10,15 @@
 
 namespace desk::applescript {
 
-class Text {
+class ScriptText {
 public:
-    Text() : Text(std::string()) {}
-    explicit Text(std::string bytes)
+    ScriptText() : ScriptText(std::string()) {}
+    explicit ScriptText(std::string bytes)
         : buffer(std::make_shared<Buffer>(Buffer{std::move(bytes), false})), length(buffer->bytes.size()) {}
 
     // A text whose buffer is never appended to: literals, which several runs of one script share.
-    static Text literal(std::string bytes) {
-        Text text(std::move(bytes));
+    static ScriptText literal(std::string bytes) {
+        ScriptText text(std::move(bytes));
         text.buffer->isSealed = true;
         return text;
     }
@@ -28,19 +28,19 @@ public:
     std::string string() const { return std::string(view()); }
 
     // Throws Failure for a text that becomes too long.
-    Text appending(std::string_view more) const {
+    ScriptText appending(std::string_view more) const {
         if (more.empty()) {
             return *this;
         }
         if (length + more.size() > greatestLength) {
             fail(ErrorNumber::outOfMemory, "Out of memory.");
         }
-        Text result = *this;
+        ScriptText result = *this;
         if (!growsInPlace()) {
             std::string copy;
             copy.reserve((length + more.size()) * 2);
             copy.append(view()).append(more);
-            result = Text(std::move(copy));
+            result = ScriptText(std::move(copy));
         } else {
             buffer->bytes.append(more);
             result.length = buffer->bytes.size();
