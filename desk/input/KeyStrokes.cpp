@@ -14,9 +14,10 @@ struct Modifier {
     std::string_view name;
     std::uint64_t flag;
 };
-constexpr Modifier modifiers[] = {{"cmd", Flags::command},  {"command", Flags::command}, {"shift", Flags::shift},
-                                  {"ctrl", Flags::control}, {"control", Flags::control}, {"alt", Flags::option},
-                                  {"opt", Flags::option},   {"option", Flags::option},   {"capslock", Flags::capsLock}};
+constexpr Modifier namedModifiers[] = {
+    {"cmd", Flags::command},  {"command", Flags::command}, {"shift", Flags::shift},
+    {"ctrl", Flags::control}, {"control", Flags::control}, {"alt", Flags::option},
+    {"opt", Flags::option},   {"option", Flags::option},   {"capslock", Flags::capsLock}};
 
 struct NamedKey {
     std::string_view name;
@@ -82,9 +83,9 @@ const LayoutKey* layoutKeyTyping(char character) {
 }
 
 std::uint64_t modifierNamed(std::string_view name) {
-    const auto* found = std::find_if(std::begin(modifiers), std::end(modifiers),
+    const auto* found = std::find_if(std::begin(namedModifiers), std::end(namedModifiers),
                                      [&](const Modifier& entry) { return entry.name == name; });
-    return found == std::end(modifiers) ? 0 : found->flag;
+    return found == std::end(namedModifiers) ? 0 : found->flag;
 }
 
 std::optional<KeyStroke> keyNamed(const std::string& name, std::uint64_t flags) {
