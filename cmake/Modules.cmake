@@ -32,15 +32,31 @@ function(brindle_module NAME)
         add_library(${NAME} STATIC ${sources})
         target_include_directories(${NAME} PUBLIC "${include}")
         target_link_libraries(${NAME} PUBLIC ${linked})
-        # Most of a compilation goes into the standard library's headers: a batch reads them once. What it asks is that names in a
-        # directory's unnamed namespaces differ.
-        set_target_properties(${NAME} PROPERTIES UNITY_BUILD ${BRINDLE_UNITY} UNITY_BUILD_BATCH_SIZE 10)
+        brindle_batches(${NAME} ${sources})
         brindle_tidy(${NAME})
     else()
         add_library(${NAME} INTERFACE)
         target_include_directories(${NAME} INTERFACE "${include}")
         target_link_libraries(${NAME} INTERFACE ${linked})
     endif()
+endfunction()
+
+# Most of a compilation goes into the standard library's headers: a batch reads them once. What it asks is that names in a folder's unnamed namespaces differ. A batch holds sources of one folder
+# alone, so a new file changes the batches of its own folder and no others.
+function(brindle_batches TARGET)
+    set(batch_size 10)
+    set_target_properties(${TARGET} PROPERTIES UNITY_BUILD ${BRINDLE_UNITY} UNITY_BUILD_MODE GROUP)
+    foreach(source IN LISTS ARGN)
+        cmake_path(GET source PARENT_PATH folder)
+        cmake_path(RELATIVE_PATH folder BASE_DIRECTORY "${CMAKE_SOURCE_DIR}")
+        string(MAKE_C_IDENTIFIER "${folder}" folder)
+        if(NOT DEFINED count_${folder})
+            set(count_${folder} 0)
+        endif()
+        math(EXPR batch "${count_${folder}} / ${batch_size}")
+        math(EXPR count_${folder} "${count_${folder}} + 1")
+        set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${folder}_${batch}")
+    endforeach()
 endfunction()
 
 # Has the target's sources looked over by clang-tidy. Only the check-only tree does so (see CheckOnly.cmake).

@@ -3,8 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,7 +14,9 @@
 #include "desk/input/Input.h"
 #include "desk/menus/MenuLayer.h"
 #include "desk/menus/ToolTips.h"
+#include "desk/processes/Activation.h"
 #include "desk/processes/Faults.h"
+#include "desk/processes/LaunchServices.h"
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Permissions.h"
 #include "desk/processes/Processes.h"
@@ -27,12 +27,6 @@
 #include "platform/Text.h"
 
 namespace desk {
-
-// Opened with another application.
-struct OpenedFiles {
-    std::string application;
-    std::vector<std::string> urls;
-};
 
 class Machine {
 public:
@@ -45,8 +39,10 @@ public:
     Scheduler scheduler;
     Disk disk;
     Displays displays;
-    Processes processes;
     WindowStack windows;
+    Processes processes;
+    Activation activation;
+    LaunchServices launchServices;
     Faults faults;
     Permissions permissions;
     Input input;
@@ -56,8 +52,6 @@ public:
     FinderScripting scripting;
     platform::Appearance appearance;
     std::optional<std::string> clipboard;
-    std::vector<OpenedFiles> opened;
-    std::deque<SentScript> sentScripts;  // the last 20
     platform::TextSystem& text;
 
     // Starts a copy; its launch callbacks run when the machine next settles.
@@ -65,24 +59,6 @@ public:
                                 const ProgramFactory& factory);
     const std::vector<std::unique_ptr<LaunchedApplication>>& applications() const { return running; }
     LaunchedApplication* application(std::int32_t processIdentifier) const;
-
-    // Set by who has programs to run: starts the one of the bundle at that path; false leaves it to the desk to play the application.
-    std::function<bool(const std::string& bundlePath)> startProgram;
-
-    // Another process with one ordinary window, behind all others.
-    void startOtherProcess(const std::string& bundleIdentifier);
-    // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front. Nothing happens when one of the
-    // files or the application isn't there.
-    void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
-    // Files with the application that documents belong to; nothing happens without one.
-    void openDocuments(const std::vector<std::string>& paths);
-    // The application at that path, as from the Dock: it is started if it doesn't run, has a window, and comes to the front with all it has.
-    void openApplication(const std::string& applicationPath);
-    // By bundle identifier, all windows forward, as a person switches applications; false when it doesn't run.
-    bool activate(const std::string& bundleIdentifier);
-    // `allWindows` false brings only the main window forward.
-    void activate(std::int32_t processIdentifier, bool allWindows);
-    void switchToSpace(int space);
 
     // From now on its time is the host's; see Scheduler.
     void useRealTime(RealTime& realTime);
@@ -99,14 +75,11 @@ public:
 
 private:
     void notifyApplications(platform::WorkspaceNotification notification);
+    FinderNeighbours neighboursOfFinder();
     void frontmostHasChanged();
-    std::int64_t mainWindow(std::int32_t processIdentifier) const;
-    bool hasWindow(std::int32_t processIdentifier) const;
-    void addForeignWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
-                          platform::NSWindowOrderingMode place);
+    void spaceHasChanged();
 
     platform::Date start;
-    std::int64_t nextOtherNumber;
     std::vector<platform::Token> subscriptions;
     std::vector<std::unique_ptr<LaunchedApplication>> running;
 };

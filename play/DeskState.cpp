@@ -138,14 +138,14 @@ QJsonArray processes(const desk::Machine& machine) {
 }
 
 QJsonArray scripts(const desk::Machine& machine) {
-    return arrayOf(machine.sentScripts, [](const desk::SentScript& script) {
+    return arrayOf(machine.scripting.sentScripts(), [](const desk::SentScript& script) {
         const auto error = script.error.empty() ? std::nullopt : std::optional<std::string>(script.error);
         return QJsonObject{{"source", jsonText(std::string_view(script.source))}, {"error", jsonText(error)}};
     });
 }
 
 QJsonArray opened(const desk::Machine& machine) {
-    return arrayOf(machine.opened, [](const desk::OpenedFiles& files) {
+    return arrayOf(machine.launchServices.opened(), [](const desk::OpenedFiles& files) {
         return QJsonObject{{"application", jsonText(std::string_view(files.application))},
                            {"urls", textsOf(files.urls)}};
     });

@@ -11,14 +11,15 @@ namespace {
 
 void activate(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1);
-    if (!player.machine().activate(arguments.text(0))) missingTarget("it isn't running: " + arguments.text(0));
+    if (!player.machine().activation.activate(arguments.text(0)))
+        missingTarget("it isn't running: " + arguments.text(0));
 }
 
 void switchSpace(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1);
     const std::int64_t space = arguments.integer(0);
     if (space < 1 || space > 100) badCommand("no space " + arguments.text(0));
-    player.machine().switchToSpace(static_cast<int>(space));
+    player.machine().windows.switchToSpace(static_cast<int>(space));
 }
 
 void mouse(ScriptPlayer& player, const Arguments& arguments) {

@@ -137,7 +137,7 @@ void setInfo(ScriptPlayer& player, const Arguments& arguments) {
 
 void startProcess(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1);
-    player.machine().startOtherProcess(arguments.text(0));
+    player.machine().launchServices.startOtherProcess(arguments.text(0));
 }
 
 void launchApplication(ScriptPlayer& player, const Arguments& arguments) {

@@ -16,7 +16,7 @@ public:
 
 Session::Session() {
     image.info = {{"CFBundleIdentifier", image.bundleIdentifier}, {"CFBundleName", image.name}};
-    machine.startProgram = [this](const std::string& bundlePath) {
+    machine.launchServices.startProgram = [this](const std::string& bundlePath) {
         const bool isCopy = machine.disk.exists(bundlePath + "/Contents/MacOS/Orvane");
         if (isCopy) launch(bundlePath);
         return isCopy;

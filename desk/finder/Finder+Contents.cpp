@@ -2,10 +2,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/disk/Disk.h"
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderAccessibility.h"
 #include "desk/finder/FinderBrowser.h"
+#include "desk/windows/WindowStack.h"
 #include "platform/FileURL.h"
 
 namespace desk {
@@ -38,10 +39,10 @@ void Finder::show(FinderWindow& window, const std::optional<std::string>& target
     window.target = target;
     window.selection.clear();
     if (std::exchange(window.name, name) == name) {
-        machine.windows.changed();
+        neighbours.windows.changed();
         return;
     }
-    machine.windows.setTitle(window.number, name);
+    neighbours.windows.setTitle(window.number, name);
     tree->post(window.number, "AXTitleChanged");
 }
 
@@ -50,7 +51,7 @@ bool Finder::select(std::int64_t number, const std::vector<std::string>& paths) 
     std::vector<std::string> selection;
     for (const std::string& path : paths) {
         selection.push_back(platform::standardizedPath(path, "/"));
-        if (!machine.disk.exists(selection.back())) return false;
+        if (!neighbours.disk.exists(selection.back())) return false;
     }
     selectListed(number, std::move(selection));
     return true;
@@ -60,18 +61,22 @@ void Finder::selectListed(std::int64_t number, std::vector<std::string> paths) {
     FinderWindow* window = folderWindow(number);
     if (window == nullptr) return;
     window->selectionSeenAt.reset();
-    if (std::exchange(window->selection, std::move(paths)) != window->selection) machine.windows.changed();
+    if (std::exchange(window->selection, std::move(paths)) != window->selection) neighbours.windows.changed();
 }
 
 void Finder::dropVanishedSelection(FinderWindow& window) const {
     const auto isInFolder = [&](const std::string& path) {
         return window.target && platform::deletingLastPathComponent(path) == *window.target;
     };
-    const auto stamp = window.target ? machine.disk.stamp(*window.target) : std::nullopt;
+    const auto stamp = window.target ? neighbours.disk.stamp(*window.target) : std::nullopt;
     if (stamp && stamp == window.selectionSeenAt) return;
-    std::erase_if(window.selection, [this](const std::string& path) { return !machine.disk.exists(path); });
+    std::erase_if(window.selection, [this](const std::string& path) { return !neighbours.disk.exists(path); });
     const bool isListed = std::all_of(window.selection.begin(), window.selection.end(), isInFolder);
     window.selectionSeenAt = isListed ? stamp : std::nullopt;
+}
+
+std::string Finder::home() const {
+    return neighbours.disk.home();
 }
 
 }  // namespace desk

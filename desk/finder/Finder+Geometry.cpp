@@ -2,9 +2,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desk/Machine.h"
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderAccessibility.h"
+#include "desk/processes/Processes.h"
+#include "desk/windows/Displays.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -31,7 +33,7 @@ std::optional<platform::NSScreen> bestScreen(const std::vector<platform::NSScree
 }  // namespace
 
 bool Finder::isFrontmost() const {
-    const Process* frontmost = machine.processes.frontmost();
+    const Process* frontmost = neighbours.processes.frontmost();
     return frontmost != nullptr && frontmost->processIdentifier == processIdentifier;
 }
 
@@ -44,35 +46,35 @@ bool Finder::raise(std::int64_t number) {
 
 void Finder::bringForward(std::int64_t number) {
     if (isFrontmost()) {
-        machine.windows.raise(number);
+        neighbours.windows.raise(number);
         return;
     }
-    for (const ServerWindow* shown : machine.windows.onScreen()) {
+    for (const ServerWindow* shown : neighbours.windows.onScreen()) {
         if (shown->owner != processIdentifier) continue;
         if (shown->number == number) return;
         break;
     }
-    const int space = machine.windows.find(number)->space;
+    const int space = neighbours.windows.find(number)->space;
     placeAmongOthers(number);
-    machine.windows.setSpace(number, space);
+    neighbours.windows.setSpace(number, space);
 }
 
 // Finder isn't frontmost: in front of its other windows, or behind those of whoever is.
 void Finder::placeAmongOthers(std::int64_t number) {
-    const Process* frontmost = machine.processes.frontmost();
+    const Process* frontmost = neighbours.processes.frontmost();
     const ServerWindow* ownFront = nullptr;
     const ServerWindow* othersBack = nullptr;
-    for (const ServerWindow* shown : machine.windows.onScreen()) {
+    for (const ServerWindow* shown : neighbours.windows.onScreen()) {
         if (shown->number == number || shown->level != 0) continue;
         if (shown->owner == processIdentifier && ownFront == nullptr) ownFront = shown;
         if (frontmost != nullptr && shown->owner == frontmost->processIdentifier) othersBack = shown;
     }
     if (ownFront != nullptr) {
-        machine.windows.order(number, NSWindowOrderingMode::above, ownFront->number);
+        neighbours.windows.order(number, NSWindowOrderingMode::above, ownFront->number);
     } else if (othersBack != nullptr) {
-        machine.windows.order(number, NSWindowOrderingMode::below, othersBack->number);
+        neighbours.windows.order(number, NSWindowOrderingMode::below, othersBack->number);
     } else {
-        machine.windows.order(number, NSWindowOrderingMode::above, 0);
+        neighbours.windows.order(number, NSWindowOrderingMode::above, 0);
     }
 }
 
@@ -86,8 +88,8 @@ bool Finder::setFrame(std::int64_t number, const CGRect& frame) {
 }
 
 void Finder::moveTo(std::int64_t number, const CGRect& frame) {
-    const CGRect before = machine.windows.find(number)->frame;
-    machine.windows.setFrame(number, frame);
+    const CGRect before = neighbours.windows.find(number)->frame;
+    neighbours.windows.setFrame(number, frame);
     // Accessibility places a window by its top left corner.
     if (before.minX() != frame.minX() || before.maxY() != frame.maxY()) tree->post(number, "AXMoved");
     if (before.size != frame.size) tree->post(number, "AXResized");
@@ -104,33 +106,33 @@ bool Finder::setFullScreen(std::int64_t number, bool fullScreen) {
 }
 
 bool Finder::enterFullScreen(FinderWindow& window) {
-    const auto screen = bestScreen(machine.displays.screens(), machine.windows.find(window.number)->frame);
+    const auto screen = bestScreen(neighbours.displays.screens(), neighbours.windows.find(window.number)->frame);
     if (!screen) return false;
     setMinimized(window, false);
-    const ServerWindow* shown = machine.windows.find(window.number);
+    const ServerWindow* shown = neighbours.windows.find(window.number);
     window.frameBeforeFullScreen = shown->frame;
     window.spaceBeforeFullScreen = shown->space;
     window.fullScreen = true;
-    const int ownSpace = machine.windows.makeSpace();
-    machine.windows.setSpace(window.number, ownSpace);
+    const int ownSpace = neighbours.windows.makeSpace();
+    neighbours.windows.setSpace(window.number, ownSpace);
     moveTo(window.number, screen->frame);
-    machine.switchToSpace(ownSpace);
+    neighbours.windows.switchToSpace(ownSpace);
     mainWindowMayHaveChanged();
     return true;
 }
 
 void Finder::leaveFullScreen(FinderWindow& window) {
-    const int ownSpace = machine.windows.find(window.number)->space;
+    const int ownSpace = neighbours.windows.find(window.number)->space;
     window.fullScreen = false;
-    machine.windows.setSpace(window.number, window.spaceBeforeFullScreen);
+    neighbours.windows.setSpace(window.number, window.spaceBeforeFullScreen);
     moveTo(window.number, window.frameBeforeFullScreen);
-    if (machine.windows.currentSpace() == ownSpace) machine.switchToSpace(window.spaceBeforeFullScreen);
+    if (neighbours.windows.currentSpace() == ownSpace) neighbours.windows.switchToSpace(window.spaceBeforeFullScreen);
 }
 
 bool Finder::zoom(std::int64_t number) {
     FinderWindow* window = folderWindow(number);
-    const ServerWindow* shown = machine.windows.find(number);
-    const auto screen = shown == nullptr ? std::nullopt : bestScreen(machine.displays.screens(), shown->frame);
+    const ServerWindow* shown = neighbours.windows.find(number);
+    const auto screen = shown == nullptr ? std::nullopt : bestScreen(neighbours.displays.screens(), shown->frame);
     if (window == nullptr || window->fullScreen || !screen) return false;
     // The height alone can have been changed to make room for what stands above it.
     const bool isZoomed = window->frameBeforeZoom && shown->frame.width() == screen->visibleFrame.width();
@@ -143,9 +145,15 @@ bool Finder::zoom(std::int64_t number) {
 void Finder::refitFullScreenWindows() {
     for (const FinderWindow& window : list) {
         if (!window.fullScreen) continue;
-        if (const auto screen = bestScreen(machine.displays.screens(), machine.windows.find(window.number)->frame))
+        if (const auto screen =
+                bestScreen(neighbours.displays.screens(), neighbours.windows.find(window.number)->frame))
             moveTo(window.number, screen->frame);
     }
+}
+
+bool Finder::isOnScreen(const FinderWindow& window) const {
+    const ServerWindow* shown = neighbours.windows.find(window.number);
+    return shown != nullptr && neighbours.windows.isOnScreen(*shown);
 }
 
 }  // namespace desk

@@ -4,12 +4,16 @@
 #include <cmath>
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/disk/Disk.h"
 #include "desk/finder/FinderAccessibility.h"
 #include "desk/finder/FinderBrowser.h"
 #include "desk/finder/FinderKeys.h"
 #include "desk/finder/FinderMouse.h"
 #include "desk/processes/KnownApplications.h"
+#include "desk/processes/Processes.h"
+#include "desk/time/Scheduler.h"
+#include "desk/windows/Displays.h"
+#include "desk/windows/WindowStack.h"
 #include "platform/FileURL.h"
 
 namespace desk {
@@ -35,15 +39,15 @@ std::string nameOfFolder(const std::string& path) {
     return path == "/" ? "Macintosh HD" : std::string(platform::lastPathComponent(path));
 }
 
-Finder::Finder(Machine& theMachine)
-    : machine(theMachine),
-      tree(std::make_unique<FinderAccessibility>(theMachine)),
-      inside(std::make_unique<FinderBrowser>(theMachine)),
-      hand(std::make_unique<FinderMouse>(theMachine)),
-      keyboard(std::make_unique<FinderKeys>(theMachine)),
+Finder::Finder(const FinderNeighbours& theNeighbours)
+    : neighbours(theNeighbours),
+      tree(std::make_unique<FinderAccessibility>(*this, theNeighbours)),
+      inside(std::make_unique<FinderBrowser>(*this, theNeighbours)),
+      hand(std::make_unique<FinderMouse>(*this, theNeighbours)),
+      keyboard(std::make_unique<FinderKeys>(*this)),
       nextNumber(firstFinderWindowNumber) {
-    subscriptions.push_back(machine.windows.changed.subscribe([this] { stackChanged(); }));
-    subscriptions.push_back(machine.displays.changed.subscribe([this] { refitFullScreenWindows(); }));
+    subscriptions.push_back(neighbours.windows.changed.subscribe([this] { stackChanged(); }));
+    subscriptions.push_back(neighbours.displays.changed.subscribe([this] { refitFullScreenWindows(); }));
 }
 
 Finder::~Finder() = default;
@@ -54,27 +58,28 @@ void Finder::launch() {
     process.bundleIdentifier = "com.apple.finder";
     process.bundlePath = finderPath;
     process.name = "Finder";
-    processIdentifier = machine.processes.add(std::move(process));
+    process.hasOwnProgram = true;
+    processIdentifier = neighbours.processes.add(std::move(process));
 }
 
 void Finder::quit() {
     if (!isRunning()) return;
-    int spaceLeft = machine.windows.currentSpace();
+    int spaceLeft = neighbours.windows.currentSpace();
     for (const FinderWindow& window : list) {
-        const ServerWindow* shown = machine.windows.find(window.number);
+        const ServerWindow* shown = neighbours.windows.find(window.number);
         if (window.fullScreen && shown != nullptr && shown->space == spaceLeft)
             spaceLeft = window.spaceBeforeFullScreen;
     }
     for (const FinderWindow& window : std::exchange(list, {})) {
         inside->forget(window.number);
-        machine.windows.remove(window.number);
+        neighbours.windows.remove(window.number);
     }
     hand->letGo();
     announcedMainWindow = 0;
     knownMainWindow.reset();
     const std::int32_t gone = std::exchange(processIdentifier, 0);
-    if (spaceLeft != machine.windows.currentSpace()) machine.switchToSpace(spaceLeft);
-    machine.processes.remove(gone);
+    if (spaceLeft != neighbours.windows.currentSpace()) neighbours.windows.switchToSpace(spaceLeft);
+    neighbours.processes.remove(gone);
 }
 
 const FinderWindow* Finder::entry(std::int64_t number) const {
@@ -101,8 +106,8 @@ std::optional<std::int64_t> Finder::open(const std::string& path, std::optional<
 }
 
 bool Finder::isFolder(const std::string& path) const {
-    return machine.disk.kind(path) == platform::FileKind::directory &&
-           machine.disk.kind(platform::standardizedPath(path, "/")) == platform::FileKind::directory;
+    return neighbours.disk.kind(path) == platform::FileKind::directory &&
+           neighbours.disk.kind(platform::standardizedPath(path, "/")) == platform::FileKind::directory;
 }
 
 std::optional<std::int64_t> Finder::openVirtual(const std::string& name, std::optional<CGRect> frame) {
@@ -112,7 +117,7 @@ std::optional<std::int64_t> Finder::openVirtual(const std::string& name, std::op
 }
 
 std::optional<std::int64_t> Finder::openInfoPanel(const std::string& path) {
-    if (!machine.disk.kind(path)) return std::nullopt;
+    if (!neighbours.disk.kind(path)) return std::nullopt;
     FinderWindow window;
     window.kind = FinderWindowKind::infoPanel;
     window.subject = platform::standardizedPath(path, "/");
@@ -129,10 +134,11 @@ std::optional<std::int64_t> Finder::add(FinderWindow window, std::optional<CGRec
     shown.owner = processIdentifier;
     shown.frame = withoutNegativeSize(frame ? *frame : defaultFrame(window));
     shown.title = window.name;
+    shown.isAuxiliary = window.kind == FinderWindowKind::infoPanel;
     list.push_back(std::move(window));
-    machine.windows.add(std::move(shown));
+    neighbours.windows.add(std::move(shown));
     if (isFrontmost()) {
-        machine.windows.order(number, NSWindowOrderingMode::above, 0);
+        neighbours.windows.order(number, NSWindowOrderingMode::above, 0);
     } else {
         placeAmongOthers(number);
     }
@@ -142,7 +148,7 @@ std::optional<std::int64_t> Finder::add(FinderWindow window, std::optional<CGRec
 }
 
 CGRect Finder::defaultFrame(const FinderWindow& window) const {
-    const auto screen = machine.displays.mainScreen();
+    const auto screen = neighbours.displays.mainScreen();
     const CGRect visible = screen ? screen->visibleFrame : CGRect{{0, 0}, {1440, 876}};
     const double step = 24 * static_cast<double>((window.number - firstFinderWindowNumber) % 8);
     const platform::CGSize size =
@@ -155,13 +161,13 @@ bool Finder::close(std::int64_t number) {
     const FinderWindow* window = entry(number);
     if (window == nullptr) return false;
     const bool takesItsSpaceAlong =
-        window->fullScreen && machine.windows.find(number)->space == machine.windows.currentSpace();
+        window->fullScreen && neighbours.windows.find(number)->space == neighbours.windows.currentSpace();
     const int spaceBefore = window->spaceBeforeFullScreen;
     std::erase_if(list, [&](const FinderWindow& each) { return each.number == number; });
     inside->forget(number);
-    machine.windows.remove(number);
+    neighbours.windows.remove(number);
     tree->post(number, "AXUIElementDestroyed");
-    if (takesItsSpaceAlong) machine.switchToSpace(spaceBefore);
+    if (takesItsSpaceAlong) neighbours.windows.switchToSpace(spaceBefore);
     mainWindowMayHaveChanged();
     return true;
 }
@@ -184,10 +190,10 @@ bool Finder::restore(std::int64_t number) {
 void Finder::setMinimized(FinderWindow& window, bool minimized) {
     if (std::exchange(window.minimized, minimized) == minimized) return;
     const std::int64_t number = window.number;
-    machine.windows.find(number)->minimized = minimized;
-    machine.windows.changed();
+    neighbours.windows.find(number)->minimized = minimized;
+    neighbours.windows.changed();
     if (!minimized) {
-        machine.windows.setSpace(number, machine.windows.currentSpace());
+        neighbours.windows.setSpace(number, neighbours.windows.currentSpace());
         bringForward(number);
     }
     tree->post(number, minimized ? "AXWindowMiniaturized" : "AXWindowDeminiaturized");
@@ -197,16 +203,16 @@ void Finder::setMinimized(FinderWindow& window, bool minimized) {
 bool Finder::setSpace(std::int64_t number, int space) {
     const FinderWindow* window = entry(number);
     if (window == nullptr || window->fullScreen || space < 1) return false;
-    machine.windows.setSpace(number, space);
+    neighbours.windows.setSpace(number, space);
     mainWindowMayHaveChanged();
     return true;
 }
 
 std::vector<const FinderWindow*> Finder::windows() const {
     std::vector<std::pair<int, const FinderWindow*>> ranked;
-    for (const ServerWindow* shown : machine.windows.all()) {
+    for (const ServerWindow* shown : neighbours.windows.all()) {
         if (shown->owner != processIdentifier || entry(shown->number) == nullptr) continue;
-        const int rank = shown->minimized ? 2 : machine.windows.isOnScreen(*shown) ? 0 : 1;
+        const int rank = shown->minimized ? 2 : neighbours.windows.isOnScreen(*shown) ? 0 : 1;
         ranked.emplace_back(rank, find(shown->number));
     }
     std::stable_sort(ranked.begin(), ranked.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
@@ -232,7 +238,7 @@ std::int64_t Finder::mainWindow() const {
 }
 
 std::int64_t Finder::findMainWindow() const {
-    for (const ServerWindow* shown : machine.windows.onScreen()) {
+    for (const ServerWindow* shown : neighbours.windows.onScreen()) {
         if (shown->owner != processIdentifier) continue;
         const FinderWindow* window = entry(shown->number);
         if (window != nullptr && window->kind == FinderWindowKind::folder) return window->number;
@@ -244,7 +250,7 @@ std::int64_t Finder::findMainWindow() const {
 void Finder::stackChanged() {
     knownMainWindow.reset();
     if (std::exchange(willCheckMainWindow, true)) return;
-    machine.scheduler.after(platform::Duration(0), [this] {
+    neighbours.scheduler.after(platform::Duration(0), [this] {
         willCheckMainWindow = false;
         mainWindowMayHaveChanged();
     });

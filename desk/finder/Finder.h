@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "desk/finder/FinderNeighbours.h"
 #include "desk/finder/FinderWindow.h"
 #include "platform/Geometry.h"
 #include "platform/Token.h"
@@ -19,11 +20,10 @@ class FinderAccessibility;
 class FinderBrowser;
 class FinderKeys;
 class FinderMouse;
-class Machine;
 
 class Finder {
 public:
-    explicit Finder(Machine& theMachine);
+    explicit Finder(const FinderNeighbours& theNeighbours);
     ~Finder();
 
     // The process; its windows go with it. The bundle identifier is com.apple.finder.
@@ -72,6 +72,10 @@ public:
     // What has changed may have another window be the main one; Accessibility hears of it.
     void mainWindowMayHaveChanged();
     bool isFrontmost() const;
+    // On the current space and not minimised.
+    bool isOnScreen(const FinderWindow& window) const;
+    // The user's home folder.
+    std::string home() const;
 
     FinderAccessibility& accessibility() { return *tree; }
     FinderMouse& mouse() { return *hand; }
@@ -101,7 +105,7 @@ private:
     std::int64_t findMainWindow() const;
     void stackChanged();
 
-    Machine& machine;
+    FinderNeighbours neighbours;
     std::unique_ptr<FinderAccessibility> tree;
     std::unique_ptr<FinderBrowser> inside;
     std::unique_ptr<FinderMouse> hand;

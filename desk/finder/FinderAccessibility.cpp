@@ -3,7 +3,12 @@
 #include <algorithm>
 #include <array>
 
-#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
+#include "desk/processes/Activation.h"
+#include "desk/processes/Faults.h"
+#include "desk/time/Scheduler.h"
+#include "desk/windows/Displays.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -57,19 +62,19 @@ std::optional<AXAttributeValue> faulty(const std::optional<AXAttributeValue>& va
 }  // namespace
 
 AXUIElement FinderAccessibility::applicationElement() const {
-    return {machine.finder.pid(), 0};
+    return {finder.pid(), 0};
 }
 
 AXUIElement FinderAccessibility::windowElement(std::int64_t number) const {
-    return {machine.finder.pid(), static_cast<std::uint64_t>(number)};
+    return {finder.pid(), static_cast<std::uint64_t>(number)};
 }
 
 std::optional<AXAttributeValue> FinderAccessibility::copyAttribute(const AXUIElement& element,
                                                                    std::string_view attribute) const {
-    if (!machine.finder.isRunning() || element.processIdentifier != machine.finder.pid()) return std::nullopt;
+    if (!finder.isRunning() || element.processIdentifier != finder.pid()) return std::nullopt;
     const bool isWindow = element.identity > desktopIdentity;
     const auto number = isWindow ? static_cast<std::int64_t>(element.identity) : 0;
-    const ReadFault fault = machine.faults.accessibilityFault(attribute, number);
+    const ReadFault fault = neighbours.faults.accessibilityFault(attribute, number);
     if (isWindow) return faulty(windowAttribute(number, attribute), fault);
     if (element.identity == desktopIdentity) return faulty(desktopAttribute(attribute), fault);
     return faulty(applicationAttribute(attribute), fault);
@@ -77,19 +82,19 @@ std::optional<AXAttributeValue> FinderAccessibility::copyAttribute(const AXUIEle
 
 std::optional<AXAttributeValue> FinderAccessibility::windowAttribute(std::int64_t number,
                                                                      std::string_view attribute) const {
-    const FinderWindow* window = machine.finder.entry(number);
-    const ServerWindow* shown = machine.windows.find(number);
+    const FinderWindow* window = finder.entry(number);
+    const ServerWindow* shown = neighbours.windows.find(number);
     if (window == nullptr || shown == nullptr) return std::nullopt;
     for (const WindowAttribute& each : windowAttributes)
         if (each.name == attribute)
-            return each.read({*window, *shown, machine.displays, machine.finder.mainWindow() == number});
+            return each.read({*window, *shown, neighbours.displays, finder.mainWindow() == number});
     return std::nullopt;
 }
 
 std::optional<AXAttributeValue> FinderAccessibility::desktopAttribute(std::string_view attribute) const {
-    const auto& screens = machine.displays.screens();
+    const auto& screens = neighbours.displays.screens();
     const platform::CGRect frame =
-        screens.empty() ? platform::CGRect{} : machine.displays.topLeftRect(screens.front().frame);
+        screens.empty() ? platform::CGRect{} : neighbours.displays.topLeftRect(screens.front().frame);
     const std::pair<std::string_view, AXAttributeValue> attributes[] = {{"AXRole", std::string("AXScrollArea")},
                                                                         {"AXPosition", AXValue(frame.origin)},
                                                                         {"AXSize", AXValue(frame.size)}};
@@ -121,11 +126,11 @@ std::optional<AXAttributeValue> FinderAccessibility::applicationTitle() const {
 }
 
 std::optional<AXAttributeValue> FinderAccessibility::isFrontmost() const {
-    return machine.finder.isFrontmost();
+    return finder.isFrontmost();
 }
 
 std::optional<AXAttributeValue> FinderAccessibility::mainWindowElement() const {
-    const std::int64_t number = machine.finder.mainWindow();
+    const std::int64_t number = finder.mainWindow();
     if (number == 0) return std::nullopt;
     return windowElement(number);
 }
@@ -134,13 +139,13 @@ std::optional<AXAttributeValue> FinderAccessibility::mainWindowElement() const {
 std::optional<AXAttributeValue> FinderAccessibility::windowElements() const {
     std::vector<AXUIElement> elements;
     std::vector<AXUIElement> minimized;
-    for (const ServerWindow* shown : machine.windows.all()) {
-        if (shown->owner != machine.finder.pid()) continue;
+    for (const ServerWindow* shown : neighbours.windows.all()) {
+        if (shown->owner != finder.pid()) continue;
         if (shown->minimized) minimized.push_back(windowElement(shown->number));
-        if (machine.windows.isOnScreen(*shown)) elements.push_back(windowElement(shown->number));
+        if (neighbours.windows.isOnScreen(*shown)) elements.push_back(windowElement(shown->number));
     }
     elements.insert(elements.end(), minimized.begin(), minimized.end());
-    elements.push_back({machine.finder.pid(), desktopIdentity});
+    elements.push_back({finder.pid(), desktopIdentity});
     return elements;
 }
 
@@ -172,9 +177,8 @@ AXError FinderAccessibility::setAttribute(const AXUIElement& element, std::strin
 }
 
 bool FinderAccessibility::isAlive(const AXUIElement& element) const {
-    if (!machine.finder.isRunning() || element.processIdentifier != machine.finder.pid()) return false;
-    return element.identity <= desktopIdentity ||
-           machine.finder.entry(static_cast<std::int64_t>(element.identity)) != nullptr;
+    if (!finder.isRunning() || element.processIdentifier != finder.pid()) return false;
+    return element.identity <= desktopIdentity || finder.entry(static_cast<std::int64_t>(element.identity)) != nullptr;
 }
 
 namespace {
@@ -188,38 +192,38 @@ AXError result(bool succeeded) {
 AXError FinderAccessibility::setPosition(std::int64_t window, const AXAttributeValue& value) {
     const AXValue* wrapped = std::get_if<AXValue>(&value);
     const auto point = wrapped == nullptr ? std::nullopt : wrapped->pointValue();
-    const ServerWindow* shown = machine.windows.find(window);
+    const ServerWindow* shown = neighbours.windows.find(window);
     if (!point || shown == nullptr) return AXError::failure;
-    return result(machine.finder.setFrame(window, machine.displays.appKitRect({*point, shown->frame.size})));
+    return result(finder.setFrame(window, neighbours.displays.appKitRect({*point, shown->frame.size})));
 }
 
 AXError FinderAccessibility::setSize(std::int64_t window, const AXAttributeValue& value) {
     const AXValue* wrapped = std::get_if<AXValue>(&value);
     const auto size = wrapped == nullptr ? std::nullopt : wrapped->sizeValue();
-    const ServerWindow* shown = machine.windows.find(window);
+    const ServerWindow* shown = neighbours.windows.find(window);
     if (!size || shown == nullptr) return AXError::failure;
     const platform::CGSize kept{std::max(size->width, 0.0), std::max(size->height, 0.0)};
     const platform::CGPoint origin{shown->frame.minX(), shown->frame.maxY() - kept.height};
-    return result(machine.finder.setFrame(window, {origin, kept}));
+    return result(finder.setFrame(window, {origin, kept}));
 }
 
 // A window that is main already isn't moved in front of what covers it.
 AXError FinderAccessibility::setMain(std::int64_t window, const AXAttributeValue& value) {
     const bool* wanted = std::get_if<bool>(&value);
     if (wanted == nullptr) return AXError::failure;
-    if (!*wanted || machine.finder.mainWindow() == window) return AXError::success;
-    return result(machine.finder.raise(window));
+    if (!*wanted || finder.mainWindow() == window) return AXError::success;
+    return result(finder.raise(window));
 }
 
 AXError FinderAccessibility::setMinimized(std::int64_t window, const AXAttributeValue& value) {
     const bool* wanted = std::get_if<bool>(&value);
     if (wanted == nullptr) return AXError::failure;
-    return result(*wanted ? machine.finder.minimize(window) : machine.finder.restore(window));
+    return result(*wanted ? finder.minimize(window) : finder.restore(window));
 }
 
 AXError FinderAccessibility::setFullScreen(std::int64_t window, const AXAttributeValue& value) {
     const bool* wanted = std::get_if<bool>(&value);
-    return result(wanted != nullptr && machine.finder.setFullScreen(window, *wanted));
+    return result(wanted != nullptr && finder.setFullScreen(window, *wanted));
 }
 
 AXError FinderAccessibility::setFocusedWindow(std::int64_t /*application*/, const AXAttributeValue& value) {
@@ -231,14 +235,14 @@ AXError FinderAccessibility::setFocusedWindow(std::int64_t /*application*/, cons
 AXError FinderAccessibility::setFrontmost(std::int64_t /*application*/, const AXAttributeValue& value) {
     const bool* wanted = std::get_if<bool>(&value);
     if (wanted == nullptr) return AXError::failure;
-    if (*wanted) machine.activate(machine.finder.pid(), true);
+    if (*wanted) neighbours.activation.activate(finder.pid(), true);
     return AXError::success;
 }
 
 AXError FinderAccessibility::performAction(const AXUIElement& element, std::string_view action) {
     if (!isAlive(element)) return AXError::invalidUIElement;
     if (action != "AXRaise") return AXError::failure;
-    return result(machine.finder.raise(static_cast<std::int64_t>(element.identity)));
+    return result(finder.raise(static_cast<std::int64_t>(element.identity)));
 }
 
 std::uint64_t FinderAccessibility::subscribe(Listener listener) {
@@ -251,10 +255,10 @@ void FinderAccessibility::unsubscribe(std::uint64_t subscription) {
 }
 
 void FinderAccessibility::post(std::int64_t window, const std::string& notification) {
-    const Faults& faults = machine.faults;
+    const Faults& faults = neighbours.faults;
     if (faults.notifications == NotificationFault::drop || listeners.empty()) return;
     const AXUIElement element = window == 0 ? applicationElement() : windowElement(window);
-    platform::Date due = machine.scheduler.now();
+    platform::Date due = neighbours.scheduler.now();
     if (faults.notifications == NotificationFault::late) {
         // A delay that is made shorter meanwhile lets none overtake those before it.
         due = std::max(due + faults.notificationDelay, lastLateDelivery);
@@ -262,11 +266,11 @@ void FinderAccessibility::post(std::int64_t window, const std::string& notificat
     }
     const int copies = faults.notifications == NotificationFault::doubled ? 2 : 1;
     for (int copy = 0; copy < copies; ++copy)
-        machine.scheduler.at(due, [this, element, notification] { deliver(element, notification); });
+        neighbours.scheduler.at(due, [this, element, notification] { deliver(element, notification); });
 }
 
 void FinderAccessibility::deliver(const AXUIElement& element, const std::string& notification) const {
-    if (element.processIdentifier != machine.finder.pid()) return;
+    if (element.processIdentifier != finder.pid()) return;
     std::vector<std::uint64_t> present;
     for (const auto& [subscription, listener] : listeners) present.push_back(subscription);
     for (const std::uint64_t subscription : present) {

@@ -11,16 +11,18 @@
 #include <string_view>
 #include <vector>
 
+#include "desk/finder/FinderNeighbours.h"
 #include "platform/Accessibility.h"
 #include "platform/Time.h"
 
 namespace desk {
 
-class Machine;
+class Finder;
 
 class FinderAccessibility {
 public:
-    explicit FinderAccessibility(Machine& theMachine) : machine(theMachine) {}
+    FinderAccessibility(Finder& theFinder, const FinderNeighbours& theNeighbours)
+        : finder(theFinder), neighbours(theNeighbours) {}
 
     std::optional<platform::AXAttributeValue> copyAttribute(const platform::AXUIElement& element,
                                                             std::string_view attribute) const;
@@ -60,7 +62,8 @@ private:
 
     void deliver(const platform::AXUIElement& element, const std::string& notification) const;
 
-    Machine& machine;
+    Finder& finder;
+    FinderNeighbours neighbours;
     std::map<std::uint64_t, Listener> listeners;
     std::uint64_t lastSubscription = 0;
     platform::Date lastLateDelivery = platform::Date::distantPast();

@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
 #include "desk/ports/CollationPort.h"
+#include "desk/processes/LaunchServices.h"
+#include "desk/time/Scheduler.h"
+#include "desk/windows/WindowStack.h"
 #include "platform/FileURL.h"
 
 namespace desk {
@@ -16,12 +19,13 @@ constexpr std::size_t mostVisits = 100;
 
 }  // namespace
 
-FinderBrowser::FinderBrowser(Machine& theMachine) : machine(theMachine) {}
+FinderBrowser::FinderBrowser(Finder& theFinder, const FinderNeighbours& theNeighbours)
+    : finder(theFinder), neighbours(theNeighbours) {}
 
 FinderBrowser::~FinderBrowser() = default;
 
 const FinderWindow* FinderBrowser::folderWindow(std::int64_t number) const {
-    const FinderWindow* window = machine.finder.find(number);
+    const FinderWindow* window = finder.find(number);
     return window != nullptr && window->kind == FinderWindowKind::folder ? window : nullptr;
 }
 
@@ -33,21 +37,21 @@ platform::Collation& FinderBrowser::names() {
 
 const FinderListing& FinderBrowser::listing(const FinderWindow& window) {
     FinderListing& list = view(window).listing;
-    list.update(machine.disk, names(), window.target);
+    list.update(neighbours.disk, names(), window.target);
     return list;
 }
 
 const std::vector<FinderPlace>& FinderBrowser::places() {
-    const auto stamp = machine.disk.stamp("/Volumes");
+    const auto stamp = neighbours.disk.stamp("/Volumes");
     if (knownPlaces.empty() || stamp != stampOfVolumes) {
         stampOfVolumes = stamp;
-        knownPlaces = finderPlaces(machine.disk);
+        knownPlaces = finderPlaces(neighbours.disk);
     }
     return knownPlaces;
 }
 
 FinderLayout FinderBrowser::layout(const FinderWindow& window) {
-    const ServerWindow* shown = machine.windows.find(window.number);
+    const ServerWindow* shown = neighbours.windows.find(window.number);
     const auto volumes = static_cast<std::size_t>(
         std::count_if(places().begin(), places().end(), [](const FinderPlace& place) { return place.isVolume; }));
     return {shown == nullptr ? platform::CGSize{} : shown->frame.size,
@@ -78,7 +82,7 @@ void FinderBrowser::selectRange(const FinderWindow& window, std::size_t from, st
     const FinderListing& list = listing(window);
     std::vector<std::string> paths;
     for (std::size_t row = std::min(from, to); row <= std::max(from, to); ++row) paths.push_back(list.pathOf(row));
-    machine.finder.selectListed(window.number, std::move(paths));
+    finder.selectListed(window.number, std::move(paths));
 }
 
 void FinderBrowser::toggleRow(std::int64_t number, std::size_t row) {
@@ -88,7 +92,7 @@ void FinderBrowser::toggleRow(std::int64_t number, std::size_t row) {
     std::vector<std::string> selection = window->selection;
     if (std::erase(selection, path) == 0) selection.push_back(path);
     view(*window).anchor = view(*window).reached = path;
-    machine.finder.selectListed(number, std::move(selection));
+    finder.selectListed(number, std::move(selection));
 }
 
 void FinderBrowser::selectAll(std::int64_t number) {
@@ -97,26 +101,26 @@ void FinderBrowser::selectAll(std::int64_t number) {
 }
 
 void FinderBrowser::selectNothing(std::int64_t number) {
-    machine.finder.selectListed(number, {});
+    finder.selectListed(number, {});
 }
 
 void FinderBrowser::openBand(std::int64_t number, const platform::CGRect& band, const std::vector<std::string>& kept) {
     const FinderWindow* window = folderWindow(number);
     if (window == nullptr) return;
     view(*window).band = band;
-    machine.windows.changed();
+    neighbours.windows.changed();
     std::vector<std::string> selection = kept;
     const auto [first, end] = layout(*window).rowsBetween(band.minY(), band.maxY());
     for (std::size_t row = first; row < end; ++row) {
         const std::string path = listing(*window).pathOf(row);
         if (std::find(kept.begin(), kept.end(), path) == kept.end()) selection.push_back(path);
     }
-    machine.finder.selectListed(number, std::move(selection));
+    finder.selectListed(number, std::move(selection));
 }
 
 void FinderBrowser::closeBand(std::int64_t number) {
     const auto found = views.find(number);
-    if (found != views.end() && std::exchange(found->second.band, std::nullopt)) machine.windows.changed();
+    if (found != views.end() && std::exchange(found->second.band, std::nullopt)) neighbours.windows.changed();
 }
 
 void FinderBrowser::step(std::int64_t number, int direction, Selecting how) {
@@ -138,7 +142,7 @@ void FinderBrowser::step(std::int64_t number, int direction, Selecting how) {
 
 bool FinderBrowser::isTyping(std::int64_t number) const {
     const auto found = views.find(number);
-    return found != views.end() && machine.scheduler.now() - found->second.lastTyped < pauseBetweenWords;
+    return found != views.end() && neighbours.scheduler.now() - found->second.lastTyped < pauseBetweenWords;
 }
 
 void FinderBrowser::type(std::int64_t number, const std::string& text) {
@@ -147,7 +151,7 @@ void FinderBrowser::type(std::int64_t number, const std::string& text) {
     View& typing = view(*window);
     if (!isTyping(number)) typing.typed.clear();
     typing.typed += text;
-    typing.lastTyped = machine.scheduler.now();
+    typing.lastTyped = neighbours.scheduler.now();
     if (const auto row = listing(*window).rowNear(typing.typed, names())) selectRow(number, *row, Selecting::alone);
 }
 
@@ -161,7 +165,7 @@ void FinderBrowser::scrollTo(std::int64_t number, double offset) {
     if (window == nullptr) return;
     const double before = layout(*window).scrolled();
     view(*window).scrolled = std::clamp(offset, 0.0, layout(*window).mostScrolled());
-    if (view(*window).scrolled != before) machine.windows.changed();
+    if (view(*window).scrolled != before) neighbours.windows.changed();
 }
 
 void FinderBrowser::reveal(const FinderWindow& window, std::size_t row) {
@@ -174,31 +178,31 @@ void FinderBrowser::openSelection(std::int64_t number) {
     const std::vector<std::string> selection = window->selection;
     std::vector<std::string> documents;
     for (const std::string& path : selection) {
-        const bool isFolder = machine.disk.kind(path) == platform::FileKind::directory;
+        const bool isFolder = neighbours.disk.kind(path) == platform::FileKind::directory;
         if (isFolder && path.ends_with(".app"))
-            machine.openApplication(path);
+            neighbours.launchServices.openApplication(path);
         else if (!isFolder)
             documents.push_back(path);
         else if (selection.size() == 1)
-            machine.finder.go(number, path);
+            finder.go(number, path);
         else
-            machine.finder.open(path);
+            finder.open(path);
     }
-    if (!documents.empty()) machine.openDocuments(documents);
+    if (!documents.empty()) neighbours.launchServices.openDocuments(documents);
 }
 
 void FinderBrowser::goTo(std::int64_t number, const FinderPlace& place) {
     if (place.path)
-        machine.finder.go(number, *place.path);
+        finder.go(number, *place.path);
     else
-        machine.finder.goVirtual(number, place.name);
+        finder.goVirtual(number, place.name);
 }
 
 void FinderBrowser::goUp(std::int64_t number) {
     const FinderWindow* window = folderWindow(number);
     if (window == nullptr || !window->target || *window->target == "/") return;
     const std::string left = *window->target;
-    if (!machine.finder.go(number, platform::deletingLastPathComponent(left))) return;
+    if (!finder.go(number, platform::deletingLastPathComponent(left))) return;
     if (const auto row = listing(*window).rowOf(left)) selectRow(number, *row, Selecting::alone);
 }
 
@@ -229,9 +233,9 @@ void FinderBrowser::retrace(std::int64_t number, Visits View::*from, Visits View
         const Visit left = visit(*window);
         const Visit wanted = std::move((here.*from).back());
         (here.*from).pop_back();
-        if (!machine.finder.revisit(number, wanted.target, wanted.name)) continue;
+        if (!finder.revisit(number, wanted.target, wanted.name)) continue;
         (here.*to).push_back(left);
-        machine.finder.selectListed(number, wanted.selection);
+        finder.selectListed(number, wanted.selection);
         here.scrolled = wanted.scrolled;
         return;
     }

@@ -12,6 +12,7 @@
 
 #include "desk/finder/FinderLayout.h"
 #include "desk/finder/FinderListing.h"
+#include "desk/finder/FinderNeighbours.h"
 #include "desk/finder/FinderPlaces.h"
 #include "desk/finder/FinderWindow.h"
 #include "platform/Collation.h"
@@ -19,7 +20,7 @@
 
 namespace desk {
 
-class Machine;
+class Finder;
 
 enum class Selecting { alone, extending };
 
@@ -28,7 +29,7 @@ inline constexpr std::size_t mostOpenedAtOnce = 20;
 
 class FinderBrowser {
 public:
-    explicit FinderBrowser(Machine& theMachine);
+    FinderBrowser(Finder& theFinder, const FinderNeighbours& theNeighbours);
     ~FinderBrowser();
 
     // As the disk is now. The window is one of Finder's folder windows.
@@ -99,7 +100,8 @@ private:
     // The row of a path that is still selected.
     std::optional<std::size_t> selectedRow(const FinderWindow& window, const std::string& path);
 
-    Machine& machine;
+    Finder& finder;
+    FinderNeighbours neighbours;
     std::unique_ptr<platform::Collation> collation;
     std::map<std::int64_t, View> views;
     std::vector<FinderPlace> knownPlaces;

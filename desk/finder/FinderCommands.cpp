@@ -2,132 +2,127 @@
 
 #include <string>
 
-#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
 #include "desk/finder/FinderBrowser.h"
 
 namespace desk {
 
 namespace {
 
-const FinderWindow* frontWindow(Machine& machine) {
-    return machine.finder.front();
+const FinderWindow* frontWindow(Finder& finder) {
+    return finder.front();
 }
 
-std::int64_t front(Machine& machine) {
-    return machine.finder.mainWindow();
+std::int64_t front(Finder& finder) {
+    return finder.mainWindow();
 }
 
-bool always(Machine& /*machine*/) {
+bool always(Finder& /*finder*/) {
     return true;
 }
 
-bool hasFront(Machine& machine) {
-    return front(machine) != 0;
+bool hasFront(Finder& finder) {
+    return front(finder) != 0;
 }
 
-bool hasSelection(Machine& machine) {
-    const FinderWindow* window = frontWindow(machine);
+bool hasSelection(Finder& finder) {
+    const FinderWindow* window = frontWindow(finder);
     return window != nullptr && !window->selection.empty();
 }
 
-bool canOpen(Machine& machine) {
-    return hasSelection(machine) && frontWindow(machine)->selection.size() <= mostOpenedAtOnce;
+bool canOpen(Finder& finder) {
+    return hasSelection(finder) && frontWindow(finder)->selection.size() <= mostOpenedAtOnce;
 }
 
-bool canShowInfo(Machine& machine) {
-    const FinderWindow* window = frontWindow(machine);
+bool canShowInfo(Finder& finder) {
+    const FinderWindow* window = frontWindow(finder);
     return window != nullptr && window->target && window->selection.size() <= mostOpenedAtOnce;
 }
 
-bool hasFolder(Machine& machine) {
-    const FinderWindow* window = frontWindow(machine);
+bool hasFolder(Finder& finder) {
+    const FinderWindow* window = frontWindow(finder);
     return window != nullptr && window->target.has_value();
 }
 
-bool hasEnclosingFolder(Machine& machine) {
-    const FinderWindow* window = frontWindow(machine);
+bool hasEnclosingFolder(Finder& finder) {
+    const FinderWindow* window = frontWindow(finder);
     return window != nullptr && window->target && *window->target != "/";
 }
 
-bool canGoBack(Machine& machine) {
-    return machine.finder.browser().canGoBack(front(machine));
+bool canGoBack(Finder& finder) {
+    return finder.browser().canGoBack(front(finder));
 }
 
-bool canGoForward(Machine& machine) {
-    return machine.finder.browser().canGoForward(front(machine));
+bool canGoForward(Finder& finder) {
+    return finder.browser().canGoForward(front(finder));
 }
 
-bool canBeMoved(Machine& machine) {
-    const FinderWindow* window = frontWindow(machine);
+bool canBeMoved(Finder& finder) {
+    const FinderWindow* window = frontWindow(finder);
     return window != nullptr && !window->fullScreen;
 }
 
 // Finder's front window, an info panel too.
-std::int64_t topmost(Machine& machine) {
-    for (const ServerWindow* shown : machine.windows.onScreen())
-        if (shown->owner == machine.finder.pid()) return shown->number;
-    return 0;
+std::int64_t topmost(Finder& finder) {
+    const auto windows = finder.windows();
+    return windows.empty() || !finder.isOnScreen(*windows.front()) ? 0 : windows.front()->number;
 }
 
-bool hasTopmost(Machine& machine) {
-    return topmost(machine) != 0;
+bool hasTopmost(Finder& finder) {
+    return topmost(finder) != 0;
 }
 
-void showInfo(Machine& machine) {
-    const FinderWindow* window = frontWindow(machine);
+void showInfo(Finder& finder) {
+    const FinderWindow* window = frontWindow(finder);
     if (window == nullptr) return;
     std::vector<std::string> subjects = window->selection;
     if (subjects.empty() && window->target) subjects.push_back(*window->target);
-    for (const std::string& subject : subjects) machine.finder.openInfoPanel(subject);
+    for (const std::string& subject : subjects) finder.openInfoPanel(subject);
 }
 
-void toggleFullScreen(Machine& machine) {
-    if (const FinderWindow* window = frontWindow(machine))
-        machine.finder.setFullScreen(window->number, !window->fullScreen);
+void toggleFullScreen(Finder& finder) {
+    if (const FinderWindow* window = frontWindow(finder)) finder.setFullScreen(window->number, !window->fullScreen);
 }
 
 // In the front window, or in a new one when there is none.
-void goTo(Machine& machine, const std::string& path) {
-    if (!machine.finder.go(front(machine), path)) machine.finder.open(path);
+void goTo(Finder& finder, const std::string& path) {
+    if (!finder.go(front(finder), path)) finder.open(path);
 }
 
 // The window furthest back comes forward, so that one after the other has its turn.
-void cycleWindows(Machine& machine) {
+void cycleWindows(Finder& finder) {
     std::int64_t last = 0;
-    for (const FinderWindow* window : machine.finder.windows())
-        if (window->kind == FinderWindowKind::folder &&
-            machine.windows.isOnScreen(*machine.windows.find(window->number)))
-            last = window->number;
-    if (last != 0) machine.finder.raise(last);
+    for (const FinderWindow* window : finder.windows())
+        if (window->kind == FinderWindowKind::folder && finder.isOnScreen(*window)) last = window->number;
+    if (last != 0) finder.raise(last);
 }
 
 }  // namespace
 
 const std::vector<FinderCommand>& finderCommands() {
     static const std::vector<FinderCommand> table{
-        {"File", "New Finder Window", "cmd+n", [](Machine& m) { m.finder.open(m.disk.home()); }, always},
-        {"File", "Open", "cmd+o", [](Machine& m) { m.finder.browser().openSelection(front(m)); }, canOpen},
-        {"File", "Close Window", "cmd+w", [](Machine& m) { m.finder.close(topmost(m)); }, hasTopmost},
+        {"File", "New Finder Window", "cmd+n", [](Finder& f) { f.open(f.home()); }, always},
+        {"File", "Open", "cmd+o", [](Finder& f) { f.browser().openSelection(front(f)); }, canOpen},
+        {"File", "Close Window", "cmd+w", [](Finder& f) { f.close(topmost(f)); }, hasTopmost},
         {"File", "Get Info", "cmd+i", showInfo, canShowInfo, true},
 
-        {"Edit", "Select All", "cmd+a", [](Machine& m) { m.finder.browser().selectAll(front(m)); }, hasFolder},
-        {"Edit", "Deselect All", "option+cmd+a", [](Machine& m) { m.finder.browser().selectNothing(front(m)); },
-         hasSelection},
+        {"Edit", "Select All", "cmd+a", [](Finder& f) { f.browser().selectAll(front(f)); }, hasFolder},
+        {"Edit", "Deselect All", "option+cmd+a", [](Finder& f) { f.browser().selectNothing(front(f)); }, hasSelection},
 
         {"View", "Enter or Exit Full Screen", "ctrl+cmd+f", toggleFullScreen, hasFront},
 
-        {"Go", "Back", "cmd+[", [](Machine& m) { m.finder.browser().goBack(front(m)); }, canGoBack},
-        {"Go", "Forward", "cmd+]", [](Machine& m) { m.finder.browser().goForward(front(m)); }, canGoForward},
-        {"Go", "Enclosing Folder", "cmd+up", [](Machine& m) { m.finder.browser().goUp(front(m)); }, hasEnclosingFolder},
-        {"Go", "Documents", "shift+cmd+o", [](Machine& m) { goTo(m, m.disk.home() + "/Documents"); }, always, true},
-        {"Go", "Desktop", "shift+cmd+d", [](Machine& m) { goTo(m, m.disk.home() + "/Desktop"); }, always},
+        {"Go", "Back", "cmd+[", [](Finder& f) { f.browser().goBack(front(f)); }, canGoBack},
+        {"Go", "Forward", "cmd+]", [](Finder& f) { f.browser().goForward(front(f)); }, canGoForward},
+        {"Go", "Enclosing Folder", "cmd+up", [](Finder& f) { f.browser().goUp(front(f)); }, hasEnclosingFolder},
+        {"Go", "Documents", "shift+cmd+o", [](Finder& f) { goTo(f, f.home() + "/Documents"); }, always, true},
+        {"Go", "Desktop", "shift+cmd+d", [](Finder& f) { goTo(f, f.home() + "/Desktop"); }, always},
         // Its usual key holds Command and L, which belong to the path field of whoever stands above the windows.
-        {"Go", "Downloads", "", [](Machine& m) { goTo(m, m.disk.home() + "/Downloads"); }, always},
-        {"Go", "Home", "shift+cmd+h", [](Machine& m) { goTo(m, m.disk.home()); }, always},
-        {"Go", "Applications", "shift+cmd+a", [](Machine& m) { goTo(m, "/Applications"); }, always},
+        {"Go", "Downloads", "", [](Finder& f) { goTo(f, f.home() + "/Downloads"); }, always},
+        {"Go", "Home", "shift+cmd+h", [](Finder& f) { goTo(f, f.home()); }, always},
+        {"Go", "Applications", "shift+cmd+a", [](Finder& f) { goTo(f, "/Applications"); }, always},
 
-        {"Window", "Minimise", "cmd+m", [](Machine& m) { m.finder.minimize(front(m)); }, hasFront},
-        {"Window", "Zoom", "", [](Machine& m) { m.finder.zoom(front(m)); }, canBeMoved},
+        {"Window", "Minimise", "cmd+m", [](Finder& f) { f.minimize(front(f)); }, hasFront},
+        {"Window", "Zoom", "", [](Finder& f) { f.zoom(front(f)); }, canBeMoved},
         {"Window", "Cycle Through Windows", "cmd+`", cycleWindows, hasFront},
     };
     return table;

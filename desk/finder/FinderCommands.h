@@ -5,14 +5,14 @@
 
 namespace desk {
 
-class Machine;
+class Finder;
 
 struct FinderCommand {
     const char* menu;
     const char* title;
     const char* key;  // as desk::keyStroke reads it; empty for none
-    void (*act)(Machine& machine);
-    bool (*isPossible)(Machine& machine);
+    void (*act)(Finder& finder);
+    bool (*isPossible)(Finder& finder);
     bool beginsGroup = false;
 };
 

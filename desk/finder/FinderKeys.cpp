@@ -3,9 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
 #include "desk/finder/FinderBrowser.h"
 #include "desk/finder/FinderCommands.h"
+#include "desk/input/Input.h"
 #include "views/text/KeyBindings.h"
 
 namespace desk {
@@ -52,18 +53,18 @@ void FinderKeys::keyDown(const NSEvent& event) {
 bool FinderKeys::takeCommand(const NSEvent& event) {
     for (const FinderCommand& command : finderCommands()) {
         if (!isKey(event, command.key)) continue;
-        if (command.isPossible(machine)) command.act(machine);
+        if (command.isPossible(finder)) command.act(finder);
         return true;
     }
     return false;
 }
 
 bool FinderKeys::takeListKey(const NSEvent& event) {
-    const FinderWindow* window = machine.finder.front();
+    const FinderWindow* window = finder.front();
     if (window == nullptr) return false;
     for (const ListKey& each : listKeys) {
         if (!isKey(event, each.key)) continue;
-        each.act(machine.finder.browser(), *window);
+        each.act(finder.browser(), *window);
         return true;
     }
     return false;
@@ -71,10 +72,10 @@ bool FinderKeys::takeListKey(const NSEvent& event) {
 
 void FinderKeys::takeTyping(const NSEvent& event) {
     const std::string typed = views::typedText(event);
-    const std::int64_t window = machine.finder.mainWindow();
+    const std::int64_t window = finder.mainWindow();
     // A blank is part of a name, but begins none.
-    if (typed.empty() || (typed == " " && !machine.finder.browser().isTyping(window))) return;
-    machine.finder.browser().type(window, typed);
+    if (typed.empty() || (typed == " " && !finder.browser().isTyping(window))) return;
+    finder.browser().type(window, typed);
 }
 
 }  // namespace desk

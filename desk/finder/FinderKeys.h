@@ -5,11 +5,11 @@
 
 namespace desk {
 
-class Machine;
+class Finder;
 
 class FinderKeys {
 public:
-    explicit FinderKeys(Machine& theMachine) : machine(theMachine) {}
+    explicit FinderKeys(Finder& theFinder) : finder(theFinder) {}
 
     void keyDown(const platform::NSEvent& event);
 
@@ -18,7 +18,7 @@ private:
     bool takeListKey(const platform::NSEvent& event);
     void takeTyping(const platform::NSEvent& event);
 
-    Machine& machine;
+    Finder& finder;
 };
 
 }  // namespace desk

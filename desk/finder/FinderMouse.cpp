@@ -4,8 +4,10 @@
 #include <cmath>
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
 #include "desk/finder/FinderBrowser.h"
+#include "desk/processes/Activation.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -27,25 +29,24 @@ CGPoint gripOf(const ServerWindow& shown, const CGPoint& mouse) {
 
 void FinderMouse::mouseDown(std::int64_t number, const MousePress& press) {
     held.reset();
-    if (machine.finder.find(number) == nullptr) return;
+    if (finder.find(number) == nullptr) return;
     bringForward(number);
-    if (const ServerWindow* shown = machine.windows.find(number)) graspFrame(*shown, press);
+    if (const ServerWindow* shown = neighbours.windows.find(number)) graspFrame(*shown, press);
 }
 
 void FinderMouse::bringForward(std::int64_t number) {
-    Finder& finder = machine.finder;
     // Raised before the activation too, so that this is the window which the activation finds in front.
-    machine.windows.raise(number);
+    neighbours.windows.raise(number);
     if (!finder.isFrontmost()) {
-        machine.activate(finder.pid(), false);
-        machine.windows.raise(number);
+        neighbours.activation.activate(finder.pid(), false);
+        neighbours.windows.raise(number);
     }
     finder.mainWindowMayHaveChanged();
 }
 
 // Every window's own parts come first: a button, an edge, the title bar.
 void FinderMouse::graspFrame(const ServerWindow& shown, const MousePress& press) {
-    const FinderWindow* window = machine.finder.find(shown.number);
+    const FinderWindow* window = finder.find(shown.number);
     if (window == nullptr) return;
     const CGPoint point = insideWindow(shown.frame, press.point);
     const WindowEdges edges = window->fullScreen ? WindowEdges{} : windowEdgesAt(point, shown.frame.size);
@@ -58,14 +59,14 @@ void FinderMouse::graspFrame(const ServerWindow& shown, const MousePress& press)
 
 void FinderMouse::graspContent(const ServerWindow& shown, const FinderWindow& window, const MousePress& press) {
     const CGPoint point = insideWindow(shown.frame, press.point);
-    const FinderLayout layout = machine.finder.browser().layout(window);
+    const FinderLayout layout = finder.browser().layout(window);
     const FinderHit hit = layout.hit(point);
     const auto hold = [&](auto grasp) { held = Hold{shown.number, press.point, grasp}; };
     switch (hit.part) {
     case FinderPart::titleBar:
         if (window.fullScreen) break;
         if (press.isSecondOfDouble())
-            machine.finder.zoom(shown.number);
+            finder.zoom(shown.number);
         else
             hold(Move{gripOf(shown, press.point)});
         break;
@@ -91,7 +92,7 @@ void FinderMouse::graspContent(const ServerWindow& shown, const FinderWindow& wi
 }
 
 void FinderMouse::pressRow(std::int64_t number, std::size_t row, const MousePress& press) {
-    FinderBrowser& browser = machine.finder.browser();
+    FinderBrowser& browser = finder.browser();
     if ((press.modifiers & Flags::command) != 0)
         browser.toggleRow(number, row);
     else if ((press.modifiers & Flags::shift) != 0)
@@ -105,20 +106,20 @@ void FinderMouse::pressRow(std::int64_t number, std::size_t row, const MousePres
 void FinderMouse::pressBelowRows(const FinderWindow& window, const MousePress& press, const CGPoint& inWholeList) {
     const bool keeps = (press.modifiers & (Flags::command | Flags::shift)) != 0;
     held = Hold{window.number, press.point, Band{inWholeList, keeps ? window.selection : std::vector<std::string>{}}};
-    if (!keeps) machine.finder.browser().selectNothing(window.number);
+    if (!keeps) finder.browser().selectNothing(window.number);
 }
 
 void FinderMouse::openBand(const ServerWindow& shown, const Band& band, const CGPoint& point) {
-    const FinderWindow* window = machine.finder.find(shown.number);
+    const FinderWindow* window = finder.find(shown.number);
     if (window == nullptr) return;
-    FinderBrowser& browser = machine.finder.browser();
+    FinderBrowser& browser = finder.browser();
     const CGPoint to = browser.layout(*window).inWholeList(insideWindow(shown.frame, point));
     const CGPoint origin{std::min(band.from.x, to.x), std::min(band.from.y, to.y)};
     browser.openBand(shown.number, {origin, {std::abs(to.x - band.from.x), std::abs(to.y - band.from.y)}}, band.kept);
 }
 
 void FinderMouse::pressScroller(const FinderWindow& window, const MousePress& press, double y) {
-    FinderBrowser& browser = machine.finder.browser();
+    FinderBrowser& browser = finder.browser();
     const FinderLayout layout = browser.layout(window);
     const CGRect knob = layout.knob().value_or(CGRect{});
     if (y <= knob.minY())
@@ -130,16 +131,16 @@ void FinderMouse::pressScroller(const FinderWindow& window, const MousePress& pr
 }
 
 void FinderMouse::scrollAlong(const Scroll& scroll, const CGPoint& point) {
-    const FinderWindow* window = machine.finder.find(held->window);
+    const FinderWindow* window = finder.find(held->window);
     if (window == nullptr) return;
-    FinderBrowser& browser = machine.finder.browser();
+    FinderBrowser& browser = finder.browser();
     const double moved = browser.layout(*window).scrolledByKnob(held->point.y - point.y);
     browser.scrollTo(held->window, scroll.scrolled + moved);
 }
 
 // All of the title bar moves the window, also where something stands in it that a click would press.
 void FinderMouse::dragTitleBarInstead(const ServerWindow& shown, const CGPoint& point) {
-    const FinderWindow* window = machine.finder.find(shown.number);
+    const FinderWindow* window = finder.find(shown.number);
     const bool isPressed =
         std::holds_alternative<WindowButton>(held->grasp) || std::holds_alternative<FinderHit>(held->grasp);
     const bool isInTitleBar = insideWindow(shown.frame, held->point).y <= windowTitleBarHeight;
@@ -150,7 +151,7 @@ void FinderMouse::dragTitleBarInstead(const ServerWindow& shown, const CGPoint& 
 
 void FinderMouse::mouseDragged(const CGPoint& point) {
     if (!held) return;
-    const ServerWindow* shown = machine.windows.find(held->window);
+    const ServerWindow* shown = neighbours.windows.find(held->window);
     if (shown == nullptr) return held.reset();
     dragTitleBarInstead(*shown, point);
     CGRect frame = shown->frame;
@@ -163,27 +164,26 @@ void FinderMouse::mouseDragged(const CGPoint& point) {
             resizedFrame(resize->frame, resize->edges, {point.x - held->point.x, point.y - held->point.y}, leastSize);
     else
         return;
-    if (!machine.finder.setFrame(held->window, frame)) held.reset();
+    if (!finder.setFrame(held->window, frame)) held.reset();
 }
 
 void FinderMouse::mouseUp(const CGPoint& point) {
     mouseDragged(point);
     const std::optional<Hold> released = std::exchange(held, std::nullopt);
-    const ServerWindow* shown = released ? machine.windows.find(released->window) : nullptr;
+    const ServerWindow* shown = released ? neighbours.windows.find(released->window) : nullptr;
     if (shown == nullptr) return;
     const CGPoint inside = insideWindow(shown->frame, point);
     if (const auto* button = std::get_if<WindowButton>(&released->grasp)) {
         if (windowButtonAt(inside, shown->frame.size) == *button) act(*shown, *button);
     } else if (std::holds_alternative<Band>(released->grasp)) {
-        machine.finder.browser().closeBand(released->window);
+        finder.browser().closeBand(released->window);
     } else if (const auto* hit = std::get_if<FinderHit>(&released->grasp)) {
-        const FinderWindow* window = machine.finder.find(shown->number);
-        if (window != nullptr && machine.finder.browser().layout(*window).hit(inside) == *hit) act(shown->number, *hit);
+        const FinderWindow* window = finder.find(shown->number);
+        if (window != nullptr && finder.browser().layout(*window).hit(inside) == *hit) act(shown->number, *hit);
     }
 }
 
 void FinderMouse::act(const ServerWindow& shown, WindowButton button) {
-    Finder& finder = machine.finder;
     const FinderWindow* window = finder.find(shown.number);
     if (window == nullptr) return;
     switch (button) {
@@ -200,7 +200,7 @@ void FinderMouse::act(const ServerWindow& shown, WindowButton button) {
 }
 
 void FinderMouse::act(std::int64_t number, const FinderHit& hit) {
-    FinderBrowser& browser = machine.finder.browser();
+    FinderBrowser& browser = finder.browser();
     if (hit.part == FinderPart::back)
         browser.goBack(number);
     else if (hit.part == FinderPart::forward)
@@ -210,12 +210,12 @@ void FinderMouse::act(std::int64_t number, const FinderHit& hit) {
 }
 
 void FinderMouse::scrollWheel(std::int64_t number, double deltaY) {
-    machine.finder.browser().scrollBy(number, -deltaY);
+    finder.browser().scrollBy(number, -deltaY);
 }
 
 CursorShape FinderMouse::cursorAt(std::int64_t number, const CGPoint& point) const {
-    const ServerWindow* shown = machine.windows.find(number);
-    const FinderWindow* window = machine.finder.find(number);
+    const ServerWindow* shown = neighbours.windows.find(number);
+    const FinderWindow* window = finder.find(number);
     if (shown == nullptr || window == nullptr) return CursorShape::arrow;
     if (const auto* resize = held ? std::get_if<Resize>(&held->grasp) : nullptr) return cursorFor(resize->edges);
     if (window->fullScreen) return CursorShape::arrow;

@@ -17,13 +17,13 @@
 #include <vector>
 
 #include "desk/finder/FinderLayout.h"
+#include "desk/finder/FinderNeighbours.h"
 #include "desk/windows/WindowFrame.h"
 #include "platform/Geometry.h"
 
 namespace desk {
 
 class Finder;
-class Machine;
 struct FinderWindow;
 struct ServerWindow;
 
@@ -38,7 +38,8 @@ struct MousePress {
 
 class FinderMouse {
 public:
-    explicit FinderMouse(Machine& theMachine) : machine(theMachine) {}
+    FinderMouse(Finder& theFinder, const FinderNeighbours& theNeighbours)
+        : finder(theFinder), neighbours(theNeighbours) {}
 
     void mouseDown(std::int64_t number, const MousePress& press);
     void mouseDragged(const platform::CGPoint& point);
@@ -81,7 +82,8 @@ private:
     void act(const ServerWindow& shown, WindowButton button);
     void act(std::int64_t number, const FinderHit& hit);
 
-    Machine& machine;
+    Finder& finder;
+    FinderNeighbours neighbours;
     std::optional<Hold> held;
 };
 

@@ -1,6 +1,9 @@
 #include "desk/finder/FinderScriptHost.h"
 
-#include "desk/Machine.h"
+#include "desk/disk/Disk.h"
+#include "desk/processes/Activation.h"
+#include "desk/processes/Permissions.h"
+#include "desk/processes/Processes.h"
 #include "desk/shell/Shell.h"
 #include "platform/FileURL.h"
 
@@ -23,51 +26,51 @@ applescript::ScriptError noSuchWindow(std::int64_t identifier) {
 
 std::optional<applescript::ScriptError> FinderScriptHost::refusal() {
     if (sender.isGone()) return ScriptError{-609, "Connection is invalid."};
-    if (!machine.finder.isRunning()) return ScriptError::finderNotRunning();
+    if (!finder.isRunning()) return ScriptError::finderNotRunning();
     const bool answered =
-        machine.permissions.automation != AutomationPermission::ask || sender.waitForAutomationAnswer();
-    if (!answered || machine.permissions.automation != AutomationPermission::allowed)
+        neighbours.permissions.automation != AutomationPermission::ask || sender.waitForAutomationAnswer();
+    if (!answered || neighbours.permissions.automation != AutomationPermission::allowed)
         return ScriptError::finderNotAuthorized();
     // It may have quit while the prompt was up.
-    if (!machine.finder.isRunning()) return ScriptError::finderNotRunning();
+    if (!finder.isRunning()) return ScriptError::finderNotRunning();
     return std::nullopt;
 }
 
 std::vector<std::int64_t> FinderScriptHost::windowIdentifiers() {
     std::vector<std::int64_t> identifiers;
-    for (const FinderWindow* window : machine.finder.windows())
+    for (const FinderWindow* window : finder.windows())
         if (window->kind == FinderWindowKind::folder) identifiers.push_back(window->number);
     return identifiers;
 }
 
 std::optional<ScriptWindow> FinderScriptHost::window(std::int64_t identifier) {
-    const FinderWindow* window = machine.finder.find(identifier);
+    const FinderWindow* window = finder.find(identifier);
     if (window == nullptr || window->kind != FinderWindowKind::folder) return std::nullopt;
     return ScriptWindow{window->name, window->target};
 }
 
 std::vector<std::string> FinderScriptHost::selection() {
     const std::vector<std::int64_t> identifiers = windowIdentifiers();
-    return identifiers.empty() ? std::vector<std::string>() : machine.finder.find(identifiers.front())->selection;
+    return identifiers.empty() ? std::vector<std::string>() : finder.find(identifiers.front())->selection;
 }
 
 // In front already, it is left as it is: what stands between its windows goes on standing there.
 void FinderScriptHost::activate() {
-    const Process* frontmost = machine.processes.frontmost();
-    if (frontmost != nullptr && frontmost->processIdentifier == machine.finder.pid()) return;
-    machine.activate(machine.finder.pid(), true);
+    const Process* frontmost = neighbours.processes.frontmost();
+    if (frontmost != nullptr && frontmost->processIdentifier == finder.pid()) return;
+    neighbours.activation.activate(finder.pid(), true);
 }
 
 std::variant<std::int64_t, applescript::ScriptError> FinderScriptHost::openWindow(
     const std::optional<std::string>& path) {
-    const auto number = machine.finder.open(path.value_or(machine.disk.home()));
+    const auto number = finder.open(path.value_or(neighbours.disk.home()));
     if (!number) return handlerFailed();
     return *number;
 }
 
 std::optional<applescript::ScriptError> FinderScriptHost::setTarget(std::int64_t identifier, const std::string& path) {
-    if (machine.finder.find(identifier) == nullptr) return noSuchWindow(identifier);
-    if (machine.finder.go(identifier, path)) return std::nullopt;
+    if (finder.find(identifier) == nullptr) return noSuchWindow(identifier);
+    if (finder.go(identifier, path)) return std::nullopt;
     return handlerFailed();
 }
 
@@ -75,15 +78,15 @@ std::optional<applescript::ScriptError> FinderScriptHost::setTarget(std::int64_t
 std::optional<applescript::ScriptError> FinderScriptHost::select(const std::string& path) {
     const std::vector<std::int64_t> identifiers = windowIdentifiers();
     const std::string folder = platform::deletingLastPathComponent(path);
-    const auto number = identifiers.empty() ? machine.finder.open(folder) : std::optional(identifiers.front());
-    const FinderWindow* window = number ? machine.finder.find(*number) : nullptr;
-    const bool isThere = window != nullptr && (window->target == folder || machine.finder.go(*number, folder));
-    if (isThere && machine.finder.select(*number, {path})) return std::nullopt;
+    const auto number = identifiers.empty() ? finder.open(folder) : std::optional(identifiers.front());
+    const FinderWindow* window = number ? finder.find(*number) : nullptr;
+    const bool isThere = window != nullptr && (window->target == folder || finder.go(*number, folder));
+    if (isThere && finder.select(*number, {path})) return std::nullopt;
     return handlerFailed();
 }
 
 ScriptPathKind FinderScriptHost::pathKind(const std::string& path) {
-    const auto kind = machine.disk.kind(path);
+    const auto kind = neighbours.disk.kind(path);
     if (!kind) return ScriptPathKind::missing;
     return *kind == platform::FileKind::directory ? ScriptPathKind::folder : ScriptPathKind::file;
 }
@@ -95,7 +98,7 @@ void FinderScriptHost::delay(double seconds) {
 std::variant<std::string, applescript::ScriptError> FinderScriptHost::doShellScript(
     const std::string& command, bool /*withAdministratorPrivileges*/) {
     const auto sleep = [this](platform::Duration duration) { sender.wait(duration); };
-    ShellResult result = Shell(machine.disk, sleep).run(command);
+    ShellResult result = Shell(neighbours.disk, sleep).run(command);
     if (result.status == 0) return std::move(result.output);
     while (!result.errors.empty() && result.errors.back() == '\n') result.errors.pop_back();
     if (result.errors.empty()) result.errors = "The command exited with a non-zero status.";

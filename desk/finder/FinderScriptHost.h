@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "desk/applescript/ScriptHost.h"
+#include "desk/finder/Finder.h"
 #include "desk/finder/ScriptSender.h"
 
 namespace desk {
@@ -17,7 +18,8 @@ class FinderScriptHost final : public applescript::ScriptHost {
 public:
     using ScriptError = applescript::ScriptError;
 
-    FinderScriptHost(Machine& theMachine, ScriptSender& theSender) : machine(theMachine), sender(theSender) {}
+    FinderScriptHost(Finder& theFinder, const FinderNeighbours& theNeighbours, ScriptSender& theSender)
+        : finder(theFinder), neighbours(theNeighbours), sender(theSender) {}
 
     std::optional<ScriptError> refusal() override;
     std::vector<std::int64_t> windowIdentifiers() override;
@@ -35,7 +37,8 @@ public:
                                                          bool withAdministratorPrivileges) override;
 
 private:
-    Machine& machine;
+    Finder& finder;
+    FinderNeighbours neighbours;
     ScriptSender& sender;
 };
 

@@ -2,11 +2,12 @@
 
 #include <utility>
 
-#include "desk/Machine.h"
 #include "desk/applescript/AppleScript.h"
 #include "desk/finder/FinderScriptHost.h"
 #include "desk/finder/ScriptSender.h"
+#include "desk/processes/Faults.h"
 #include "desk/processes/LaunchedApplication.h"
+#include "desk/time/Scheduler.h"
 #include "desk/time/WorkerQueue.h"
 
 namespace desk {
@@ -31,8 +32,8 @@ NSAppleScriptResult failed(const ScriptError& error) {
 // Holds the compiled script from its first run on.
 class FinderScripting::Script final : public platform::NSAppleScript {
 public:
-    Script(Machine& theMachine, LaunchedApplication& theApplication, std::string theSource)
-        : machine(theMachine), application(theApplication), source(std::move(theSource)) {}
+    Script(FinderScripting& theScripting, LaunchedApplication& theApplication, std::string theSource)
+        : scripting(theScripting), application(theApplication), source(std::move(theSource)) {}
 
     NSAppleScriptResult executeAndReturnError() override {
         ScriptError compilation;
@@ -40,28 +41,28 @@ public:
         if (!compiled) return failed(compilation);
 
         const WorkerQueue::Visit visit;
-        ScriptSender sender(machine, application);
+        ScriptSender sender(scripting, application);
         if (sender.isGone()) return failed({-609, "Connection is invalid."});
-        const platform::Duration latency = machine.faults.scriptLatency;
-        const std::uint64_t place = machine.scripting.record(source);
+        const platform::Duration latency = scripting.neighbours.faults.scriptLatency;
+        const std::uint64_t place = scripting.record(source);
         const ScriptResult result = evaluate(sender);
-        machine.scripting.recordError(place, result.error ? result.error->message.value_or("") : "");
+        scripting.recordError(place, result.error ? result.error->message.value_or("") : "");
         if (!sender.wait(latency)) return failed({-609, "Connection is invalid."});
-        machine.scripting.recordAnswer(place);
+        scripting.recordAnswer(place);
         return result.error ? failed(*result.error) : NSAppleScriptResult{result.stringValue, std::nullopt};
     }
 
 private:
     ScriptResult evaluate(ScriptSender& sender) {
-        FinderScriptHost host(machine, sender);
-        const Faults& faults = machine.faults;
+        FinderScriptHost host(scripting.finder, scripting.neighbours, sender);
+        const Faults& faults = scripting.neighbours.faults;
         if (!faults.scriptError && !faults.scriptAnswer) return applescript::run(*compiled, host);
         if (auto refusal = host.refusal()) return {std::nullopt, std::move(refusal)};
         if (faults.scriptError) return {std::nullopt, ScriptError{appleEventHandlerFailed, faults.scriptError}};
         return {faults.scriptAnswer, std::nullopt};
     }
 
-    Machine& machine;
+    FinderScripting& scripting;
     LaunchedApplication& application;
     const std::string source;
     std::unique_ptr<applescript::CompiledScript> compiled;
@@ -69,12 +70,12 @@ private:
 
 std::unique_ptr<platform::NSAppleScript> FinderScripting::makeScript(LaunchedApplication& sender,
                                                                      const std::string& source) {
-    return std::make_unique<Script>(machine, sender, source);
+    return std::make_unique<Script>(*this, sender, source);
 }
 
 std::uint64_t FinderScripting::record(const std::string& source) {
-    machine.sentScripts.push_back({source, "", machine.scheduler.now()});
-    if (machine.sentScripts.size() > scriptsKept) machine.sentScripts.pop_front();
+    scripts.push_back({source, "", neighbours.scheduler.now()});
+    if (scripts.size() > scriptsKept) scripts.pop_front();
     return ++sent;
 }
 
@@ -83,13 +84,13 @@ void FinderScripting::recordError(std::uint64_t place, const std::string& error)
 }
 
 void FinderScripting::recordAnswer(std::uint64_t place) {
-    if (SentScript* script = recorded(place)) script->took = machine.scheduler.now() - script->sent;
+    if (SentScript* script = recorded(place)) script->took = neighbours.scheduler.now() - script->sent;
 }
 
 // Null when it was sent too long ago.
 SentScript* FinderScripting::recorded(std::uint64_t place) {
     const std::uint64_t fromTheEnd = sent - place;
-    std::deque<SentScript>& kept = machine.sentScripts;
+    std::deque<SentScript>& kept = scripts;
     return fromTheEnd < kept.size() ? &kept[kept.size() - 1 - fromTheEnd] : nullptr;
 }
 

@@ -3,17 +3,19 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "desk/finder/FinderNeighbours.h"
 #include "platform/AppleEvents.h"
 #include "platform/Time.h"
 
 namespace desk {
 
+class Finder;
 class LaunchedApplication;
-class Machine;
 
 // One script sent, for whoever looks at the machine.
 struct SentScript {
@@ -27,11 +29,14 @@ struct SentScript {
 // then the latency, during which the caller waits and the machine goes on.
 class FinderScripting {
 public:
-    explicit FinderScripting(Machine& theMachine) : machine(theMachine) {}
+    FinderScripting(Finder& theFinder, const FinderNeighbours& theNeighbours)
+        : finder(theFinder), neighbours(theNeighbours) {}
     std::unique_ptr<platform::NSAppleScript> makeScript(LaunchedApplication& sender, const std::string& source);
 
     // Since the machine was made.
     std::uint64_t scriptsSent() const { return sent; }
+    // The last 20.
+    const std::deque<SentScript>& sentScripts() const { return scripts; }
 
 private:
     friend class ScriptSender;
@@ -43,7 +48,9 @@ private:
     void recordAnswer(std::uint64_t place);
     SentScript* recorded(std::uint64_t place);
 
-    Machine& machine;
+    Finder& finder;
+    FinderNeighbours neighbours;
+    std::deque<SentScript> scripts;  // the last ones
     std::uint64_t sent = 0;
     int promptWaiters = 0;
 };

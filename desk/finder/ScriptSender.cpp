@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <chrono>
 
-#include "desk/Machine.h"
+#include "desk/finder/FinderScripting.h"
 #include "desk/processes/LaunchedApplication.h"
+#include "desk/processes/Permissions.h"
 #include "desk/time/WorkerQueue.h"
 
 namespace desk {
@@ -33,20 +34,20 @@ bool ScriptSender::wait(platform::Duration duration) {
 }
 
 bool ScriptSender::waitForAutomationAnswer() {
-    Permissions& permissions = machine.permissions;
-    ++machine.scripting.promptWaiters;
+    Permissions& permissions = scripting.neighbours.permissions;
+    ++scripting.promptWaiters;
     permissions.automationPromptIsUp = true;
     const bool answered = parkUntilAnswered();
-    if (--machine.scripting.promptWaiters == 0) permissions.automationPromptIsUp = false;
+    if (--scripting.promptWaiters == 0) permissions.automationPromptIsUp = false;
     return answered;
 }
 
 bool ScriptSender::parkUntilAnswered() {
-    const Permissions& permissions = machine.permissions;
+    const Permissions& permissions = scripting.neighbours.permissions;
     const auto isAnswered = [&] { return permissions.automation != AutomationPermission::ask; };
     WorkerQueue* queue = WorkerQueue::current();
     if (queue == nullptr) return application.loop().blockUntil(isAnswered) && !isGone();
-    const platform::Token token = machine.permissions.changed.subscribe([&isAnswered, queue] {
+    const platform::Token token = scripting.neighbours.permissions.changed.subscribe([&isAnswered, queue] {
         if (isAnswered()) queue->resume();
     });
     while (!isGone() && !isAnswered()) gone = !queue->waitForResume();

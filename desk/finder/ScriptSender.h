@@ -7,12 +7,12 @@
 namespace desk {
 
 class LaunchedApplication;
-class Machine;
+class FinderScripting;
 
 class ScriptSender {
 public:
-    ScriptSender(Machine& theMachine, LaunchedApplication& theApplication)
-        : machine(theMachine), application(theApplication) {}
+    ScriptSender(FinderScripting& theScripting, LaunchedApplication& theApplication)
+        : scripting(theScripting), application(theApplication) {}
 
     // False when the application ended meanwhile, and from then on.
     bool wait(platform::Duration duration);
@@ -23,7 +23,7 @@ public:
 private:
     bool parkUntilAnswered();
 
-    Machine& machine;
+    FinderScripting& scripting;
     LaunchedApplication& application;
     bool gone = false;
 };

@@ -61,12 +61,12 @@ bool isSpaceKey(const KeyStroke& stroke) {
 void changeSpaceBy(Machine& machine, const KeyStroke& stroke) {
     const SpaceKey* key = spaceKeyOf(stroke);
     if (key == nullptr) return;
-    if (key->direction == 0) return machine.switchToSpace(key->desktop);
+    if (key->direction == 0) return machine.windows.switchToSpace(key->desktop);
     const std::vector<int> spaces = spacesInOrder(machine);
     const auto here = std::find(spaces.begin(), spaces.end(), machine.windows.currentSpace());
     const auto next = (here - spaces.begin()) + key->direction;
     if (here != spaces.end() && next >= 0 && next < std::ssize(spaces))
-        machine.switchToSpace(spaces[static_cast<std::size_t>(next)]);
+        machine.windows.switchToSpace(spaces[static_cast<std::size_t>(next)]);
 }
 
 }  // namespace desk

@@ -29,7 +29,7 @@ void addFinderWindows(Machine& machine, std::vector<MenuItem>& items) {
         items.push_back({window->name, "", true, false, [&machine, number = window->number] {
                              machine.finder.restore(number);
                              if (const ServerWindow* shown = machine.windows.find(number))
-                                 machine.switchToSpace(shown->space);
+                                 machine.windows.switchToSpace(shown->space);
                              machine.finder.raise(number);
                          }});
     }
@@ -40,8 +40,8 @@ std::vector<MenuItem> finderItems(Machine& machine, const std::string& title) {
     for (const FinderCommand& command : finderCommands()) {
         if (command.menu != title) continue;
         if (command.beginsGroup) items.push_back(separator());
-        items.push_back({command.title, "", command.isPossible(machine), false, [&machine, &command] {
-                             if (command.isPossible(machine)) command.act(machine);
+        items.push_back({command.title, "", command.isPossible(machine.finder), false, [&machine, &command] {
+                             if (command.isPossible(machine.finder)) command.act(machine.finder);
                          }});
     }
     if (title == "Window") addFinderWindows(machine, items);

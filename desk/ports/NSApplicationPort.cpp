@@ -11,7 +11,7 @@ void NSApplicationPort::setActivationPolicy(platform::NSApplicationActivationPol
 void NSApplicationPort::activate(bool ignoringOtherApps) {
     if (application.isDead()) return;
     if (!ignoringOtherApps && machine.processes.frontmost() != nullptr) return;
-    machine.activate(application.processIdentifier(), false);
+    machine.activation.activate(application.processIdentifier(), false);
 }
 
 void NSApplicationPort::terminate() {

@@ -30,7 +30,8 @@ std::int32_t WorkspacePort::currentProcessIdentifier() const {
 
 bool WorkspacePort::activate(std::int32_t processIdentifier, unsigned options) {
     if (application.isDead() || machine.processes.find(processIdentifier) == nullptr) return false;
-    machine.activate(processIdentifier, (options & platform::NSApplicationActivationOptions::activateAllWindows) != 0);
+    machine.activation.activate(processIdentifier,
+                                (options & platform::NSApplicationActivationOptions::activateAllWindows) != 0);
     return true;
 }
 
@@ -39,7 +40,7 @@ platform::Token WorkspacePort::addObserver(platform::WorkspaceNotification notif
 }
 
 void WorkspacePort::openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) {
-    if (!application.isDead()) machine.openFiles(filePaths, applicationPath);
+    if (!application.isDead()) machine.launchServices.openFiles(filePaths, applicationPath);
 }
 
 void WorkspacePort::notify(platform::WorkspaceNotification notification) const {

@@ -18,6 +18,8 @@ struct Process {
     std::string bundlePath;
     std::string name;
     platform::NSApplicationActivationPolicy policy = platform::NSApplicationActivationPolicy::regular;
+    // Else the desk sketches its windows.
+    bool hasOwnProgram = false;
 };
 
 class Processes {

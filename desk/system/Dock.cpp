@@ -54,7 +54,7 @@ std::optional<CGRect> stripAt(const Machine& machine, const CGPoint& point) {
 void openFinder(Machine& machine) {
     Finder& finder = machine.finder;
     finder.launch();
-    machine.activate(finder.pid(), true);
+    machine.activation.activate(finder.pid(), true);
     const auto windows = finder.windows();
     const bool hasFolderWindow = std::any_of(windows.begin(), windows.end(), [](const FinderWindow* window) {
         return window->kind == FinderWindowKind::folder;
@@ -70,7 +70,7 @@ void followToItsSpace(Machine& machine, std::int32_t owner) {
         if (machine.windows.isOnScreen(*window)) return;
         if (!elsewhere) elsewhere = window->space;
     }
-    if (elsewhere) machine.switchToSpace(*elsewhere);
+    if (elsewhere) machine.windows.switchToSpace(*elsewhere);
 }
 
 }  // namespace
@@ -122,12 +122,12 @@ std::optional<std::size_t> dockItemAt(const Machine& machine, const CGPoint& poi
 
 void openDockItem(Machine& machine, const DockItem& item) {
     if (item.window != 0) {
-        machine.activate(machine.finder.pid(), false);
+        machine.activation.activate(machine.finder.pid(), false);
         machine.finder.restore(item.window);
     } else if (item.path == finderPath) {
         openFinder(machine);
     } else {
-        machine.openApplication(item.path);
+        machine.launchServices.openApplication(item.path);
     }
     const Process* frontmost = machine.processes.frontmost();
     if (frontmost != nullptr) followToItsSpace(machine, frontmost->processIdentifier);

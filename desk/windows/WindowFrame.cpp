@@ -11,7 +11,7 @@ using platform::CGSize;
 
 namespace {
 
-constexpr double firstButton = 20;
+constexpr double leftmostButton = 20;
 constexpr double buttonDistance = 20;
 constexpr double narrowestWithButtons = 150;
 
@@ -24,7 +24,7 @@ constexpr double smallestWithEdges = 80;
 }  // namespace
 
 CGPoint centerOf(WindowButton button) {
-    return {firstButton + buttonDistance * static_cast<double>(button), windowTitleBarHeight / 2};
+    return {leftmostButton + buttonDistance * static_cast<double>(button), windowTitleBarHeight / 2};
 }
 
 std::optional<WindowButton> windowButtonAt(const CGPoint& point, CGSize size) {

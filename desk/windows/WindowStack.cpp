@@ -111,8 +111,23 @@ void WindowStack::raiseAll(std::int32_t owner) {
     if (moved) changed();
 }
 
-void WindowStack::setCurrentSpace(int newSpace) {
-    if (std::exchange(space, newSpace) != newSpace) changed();
+void WindowStack::switchToSpace(int newSpace) {
+    if (space == newSpace) return;
+    std::vector<std::int64_t> affected;
+    const auto collect = [&] {
+        for (const ServerWindow* window : onScreen())
+            if (window->window != nullptr) affected.push_back(window->number);
+    };
+    collect();
+    space = newSpace;
+    changed();
+    collect();
+    for (const std::int64_t number : affected) {
+        const ServerWindow* window = find(number);
+        if (window == nullptr) continue;
+        if (auto* content = window->window->contentView()) content->setOnScreen(isOnScreen(*window));
+    }
+    spaceChanged();
 }
 
 void WindowStack::setSpace(std::int64_t number, int newSpace) {

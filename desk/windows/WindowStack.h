@@ -28,6 +28,9 @@ struct ServerWindow {
     int space = 1;
     std::string title;
     platform::NSWindow* window = nullptr;  // of a launched application; none for Finder's and other processes' windows
+    bool isAuxiliary = false;              // never the main one of those without `window`
+
+    bool canBeMain() const { return window == nullptr ? !isAuxiliary : window->canBecomeMain(); }
 };
 
 class WindowStack {
@@ -52,7 +55,8 @@ public:
     void lower(std::int64_t number);
 
     int currentSpace() const { return space; }
-    void setCurrentSpace(int newSpace);
+    // The contents of windows that come on screen or go from it are told.
+    void switchToSpace(int newSpace);
     void setSpace(std::int64_t number, int newSpace);
     // The current space is that of a single full-screen window, which covers menu bar and Dock.
     bool isFullScreenSpace() const { return space > firstOwnSpace; }
@@ -69,6 +73,8 @@ public:
 
     // Anything that a picture of the desktop would show differently.
     platform::Signal<> changed;
+    // Another space is current.
+    platform::Signal<> spaceChanged;
 
     // The number of the next window of a launched application; counts up from firstPanelNumber.
     std::int64_t makePanelNumber() { return nextPanelNumber++; }

@@ -96,7 +96,7 @@ std::vector<std::string> Inspector::lines() {
               static_cast<long long>(lately.pictures)));
     lines.push_back(print("bars off their windows by %.2f points in the last picture", counters.distance()));
     lines.emplace_back("last scripts to Finder:");
-    const auto& scripts = machine.sentScripts;
+    const auto& scripts = machine.scripting.sentScripts();
     for (std::size_t i = 0; i < std::min(scriptsShown, scripts.size()); ++i)
         lines.push_back(scriptLine(scripts[scripts.size() - 1 - i], machine.scheduler.now()));
     return lines;

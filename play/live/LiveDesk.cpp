@@ -52,7 +52,7 @@ void LiveDesk::setScene() {
     const char* home = std::getenv("HOME");
     if (home != nullptr && *home == '/')
         if (const auto problem = machine.disk.mount(hostHome, home)) std::cerr << "desk: " << *problem << '\n';
-    machine.startOtherProcess(otherApplication);
+    machine.launchServices.startOtherProcess(otherApplication);
     machine.finder.open(machine.disk.home() + "/Documents");
     session.launch(installedCopy);
 }

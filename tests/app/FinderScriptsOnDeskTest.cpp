@@ -61,8 +61,8 @@ TEST_F(FinderScriptsOnDesk, OneWindowsTroubleIsItsOwn) {
 
 TEST_F(FinderScriptsOnDesk, NavigationShowsFoldersAndRevealsFiles) {
     desk.tree({"/tmp/a \"b\" \\c/file.txt"});
-    desk.machine.startOtherProcess("org.example.Editor");
-    desk.machine.activate("org.example.Editor");
+    desk.machine.launchServices.startOtherProcess("org.example.Editor");
+    desk.machine.activation.activate("org.example.Editor");
     navigation.navigateFrontWindow("/tmp/a \"b\" \\c/");
     EXPECT_EQ(finder.windows().size(), 1u);
     EXPECT_EQ(finder.front()->target, "/tmp/a \"b\" \\c");

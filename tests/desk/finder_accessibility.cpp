@@ -121,7 +121,7 @@ TEST_F(FinderTree, EveryWayOfFocusingBringsTheWindowForwardOnce) {
         back = 203 - back;
     }
     // A window that is main already stays below what covers it, but for an outright raise.
-    machine.startOtherProcess("org.example.Editor");
+    machine.launchServices.startOtherProcess("org.example.Editor");
     const std::int64_t editor = kit::stacking(machine).back();
     machine.windows.raise(editor);
     for (const auto& focus : ways) {

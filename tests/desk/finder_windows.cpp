@@ -98,7 +98,7 @@ TEST_F(FinderWindows, TellOnlyWhatReallyChanges) {
         {"again", [&] { finder.minimize(101); }, {}},
         {"restored", [&] { finder.restore(101); }, {"AXWindowDeminiaturized 101", "AXFocusedWindowChanged 101"}},
         {"to another space", [&] { finder.setSpace(101, 2); }, {"AXFocusedWindowChanged 102"}},
-        {"the person follows", [&] { machine.switchToSpace(2); }, {"AXFocusedWindowChanged 101"}},
+        {"the person follows", [&] { machine.windows.switchToSpace(2); }, {"AXFocusedWindowChanged 101"}},
         {"info panel", [&] { finder.openInfoPanel("/tmp"); }, {"AXWindowCreated 103"}},
     };
     for (const auto& each : cases) {
@@ -124,9 +124,9 @@ TEST_F(FinderWindows, AreListedOnScreenFirstThenOtherSpacesThenMinimised) {
 }
 
 TEST_F(FinderWindows, StandInFrontOfFindersOthersOnlyWhileAnotherApplicationIsFrontmost) {
-    machine.startOtherProcess("org.example.Editor");
+    machine.launchServices.startOtherProcess("org.example.Editor");
     const std::int64_t editor = stacking(machine).back();
-    machine.activate("org.example.Editor");
+    machine.activation.activate("org.example.Editor");
     EXPECT_EQ(stacking(machine), (Numbers{editor, 102, 101}));
     finder.open("/tmp");
     EXPECT_EQ(stacking(machine), (Numbers{editor, 103, 102, 101}));
@@ -138,7 +138,7 @@ TEST_F(FinderWindows, StandInFrontOfFindersOthersOnlyWhileAnotherApplicationIsFr
     for (const std::int64_t number : {101, 102, 103}) finder.close(number);
     finder.open("/tmp");
     EXPECT_EQ(stacking(machine), (Numbers{editor, 104}));
-    machine.activate("com.apple.finder");
+    machine.activation.activate("com.apple.finder");
     finder.open("/");
     EXPECT_EQ(stacking(machine), (Numbers{105, 104, editor}));
 }
@@ -148,7 +148,7 @@ TEST_F(FinderWindows, FillTheScreenTheyAreMostlyOnAndComeBack) {
     machine.displays.add({.frame = CGRectMake(1440, -100, 1920, 1080), .menuBar = 0});
     finder.setFrame(102, CGRectMake(1300, 100, 700, 400));
     finder.setSpace(102, 3);
-    machine.switchToSpace(3);
+    machine.windows.switchToSpace(3);
     journal.take();
 
     EXPECT_TRUE(finder.setFullScreen(102, true));
@@ -198,9 +198,9 @@ TEST_F(FinderWindows, FollowTheMouseByTheirTitleBarBelowTheMenuBarOrNot) {
 }
 
 TEST_F(FinderWindows, APressActivatesFinderAndBringsThatWindowAloneForward) {
-    machine.startOtherProcess("org.example.Editor");
+    machine.launchServices.startOtherProcess("org.example.Editor");
     const std::int64_t editor = stacking(machine).back();
-    machine.activate("org.example.Editor");
+    machine.activation.activate("org.example.Editor");
     desk.press({105, 690});
     EXPECT_EQ(stacking(machine), (Numbers{101, editor, 102}));
     EXPECT_EQ(machine.processes.frontmost()->processIdentifier, finder.pid());

@@ -24,7 +24,7 @@ protected:
     std::shared_ptr<RecordingPanel> panel;
 
     void SetUp() override {
-        desk.machine.startOtherProcess("org.example.Other");
+        desk.machine.launchServices.startOtherProcess("org.example.Other");
         desk.twoWindows();
         panel = probe.panel(CGRectMake(100, 700, 800, 44));
         probe.log.clear();
@@ -172,7 +172,7 @@ TEST_F(InputTest, KeysGoToTheKeyPanelAndElseToTheFrontmostApplication) {
     EXPECT_EQ(probe.log, (Log{"local a", "local x"}));
     ASSERT_EQ(panel->received.size(), 3U);
     EXPECT_EQ(panel->received[0].keyCode, 0);
-    desk.machine.activate("org.example.Probe");
+    desk.machine.activation.activate("org.example.Probe");
     probe.log.clear();
     panel->orderOut();
     desk.type("b");
@@ -198,13 +198,13 @@ TEST_P(Keyboard, OfAKeyPanel) {
 
 const KeyboardCase keyboardCases[] = {
     {"RaisingAFinderWindow", [](Desk& d, RecordingPanel&) { d.machine.finder.raise(101); }, true},
-    {"ActivatingWhoIsActive", [](Desk& d, RecordingPanel&) { d.machine.activate(finder); }, true},
-    {"ActivatingAnother", [](Desk& d, RecordingPanel&) { d.machine.activate(other); }, false},
-    {"ActivatingItsOwn", [](Desk& d, RecordingPanel&) { d.machine.activate("org.example.Probe"); }, true},
+    {"ActivatingWhoIsActive", [](Desk& d, RecordingPanel&) { d.machine.activation.activate(finder); }, true},
+    {"ActivatingAnother", [](Desk& d, RecordingPanel&) { d.machine.activation.activate(other); }, false},
+    {"ActivatingItsOwn", [](Desk& d, RecordingPanel&) { d.machine.activation.activate("org.example.Probe"); }, true},
     {"OrderingOut", [](Desk&, RecordingPanel& panel) { panel.orderOut(); }, false},
     {"OrderingFront", [](Desk&, RecordingPanel& panel) { panel.orderFrontRegardless(); }, true},
     {"FinderQuits", [](Desk& d, RecordingPanel&) { d.machine.finder.quit(); }, false},
-    {"SwitchingSpaces", [](Desk& d, RecordingPanel&) { d.machine.switchToSpace(2); }, true},
+    {"SwitchingSpaces", [](Desk& d, RecordingPanel&) { d.machine.windows.switchToSpace(2); }, true},
 };
 
 INSTANTIATE_TEST_SUITE_P(All, Keyboard, testing::ValuesIn(keyboardCases),
@@ -212,14 +212,14 @@ INSTANTIATE_TEST_SUITE_P(All, Keyboard, testing::ValuesIn(keyboardCases),
 
 TEST_F(InputTest, AnOrdinaryWindowIsActivatedRaisedAndMadeKeyByAPress) {
     ordinaryWindow(CGRectMake(1200, 300, 200, 200));
-    desk.machine.activate("org.example.Other");
+    desk.machine.activation.activate("org.example.Other");
     desk.click({1300, 400});
     EXPECT_EQ(frontmost(), "org.example.Probe");
     EXPECT_TRUE(window->isKeyWindow());
     EXPECT_EQ(stacking(), (Log{"Orvane", "Other", "Orvane", "102", "101"}));
-    desk.machine.activate(finder);
+    desk.machine.activation.activate(finder);
     EXPECT_FALSE(window->isKeyWindow());
-    desk.machine.activate("org.example.Probe");
+    desk.machine.activation.activate("org.example.Probe");
     EXPECT_TRUE(window->isKeyWindow());
 }
 

@@ -108,12 +108,12 @@ TEST_F(MachineTest, APanelLeftOnAnotherSpaceIsntVisibleUntilItIsOrderedInAnew) {
     panel->setContentView(std::make_unique<RecordingView>(log));
     probe.tokens.push_back(probe.platform.workspace.addObserver(platform::WorkspaceNotification::activeSpaceDidChange,
                                                                 [&] { log.emplace_back("space"); }));
-    desk.machine.switchToSpace(2);
+    desk.machine.windows.switchToSpace(2);
     EXPECT_FALSE(panel->isVisible());
     desk.machine.settle();
     EXPECT_EQ(log, (Log{"on", "off", "space"}));
     panel->orderFrontRegardless();
-    desk.machine.switchToSpace(2);
+    desk.machine.windows.switchToSpace(2);
     desk.machine.settle();
     EXPECT_TRUE(panel->isVisible());
     EXPECT_EQ(log, (Log{"on", "off", "space", "on"}));
@@ -121,15 +121,15 @@ TEST_F(MachineTest, APanelLeftOnAnotherSpaceIsntVisibleUntilItIsOrderedInAnew) {
 
 TEST_F(MachineTest, ActivationNotificationsComeLaterAndOnlyForAChange) {
     Probe& probe = kit::launchProbe(desk);
-    desk.machine.startOtherProcess("org.example.Other");
+    desk.machine.launchServices.startOtherProcess("org.example.Other");
     desk.twoWindows();
     probe.log.clear();
     probe.tokens.push_back(
         probe.platform.workspace.addObserver(platform::WorkspaceNotification::didActivateApplication, [&] {
             probe.log.push_back(probe.platform.workspace.frontmostApplication()->bundleIdentifier.value_or("?"));
         }));
-    desk.machine.activate("com.apple.finder");
-    desk.machine.activate("org.example.Other");
+    desk.machine.activation.activate("com.apple.finder");
+    desk.machine.activation.activate("org.example.Other");
     EXPECT_EQ(probe.log, Log{});
     desk.machine.settle();
     EXPECT_EQ(probe.log, Log{"org.example.Other"});

@@ -216,9 +216,9 @@ TEST_F(MenuTest, ClosesWithItsHandleItsApplicationAndTheSpace) {
     menu.reset();
     EXPECT_EQ(open(), nullptr);
     openMenu();
-    desk.machine.switchToSpace(2);
+    desk.machine.windows.switchToSpace(2);
     EXPECT_EQ(open(), nullptr);
-    desk.machine.switchToSpace(1);
+    desk.machine.windows.switchToSpace(1);
     openMenu();
     const auto first = std::move(menu);
     menu = probe.platform.menus.popUpAt({300, 300}, items);
@@ -258,9 +258,9 @@ TEST_F(PopoverTest, FollowsItsPanelAndGoesWithIt) {
     EXPECT_EQ(bodies(), std::vector{CGRectMake(905, 359, 120, 36)});
     popover->update(CGRectMake(300, 406, 30, 28), {60, 36});
     EXPECT_EQ(bodies(), std::vector{CGRectMake(285, 359, 60, 36)});
-    desk.machine.switchToSpace(2);
+    desk.machine.windows.switchToSpace(2);
     EXPECT_TRUE(bodies().empty());
-    desk.machine.switchToSpace(1);
+    desk.machine.windows.switchToSpace(1);
     EXPECT_EQ(bodies().size(), 1U);
     panel->orderOut();
     EXPECT_TRUE(bodies().empty());

@@ -76,16 +76,16 @@ TEST_F(UsingFinder, OpensByDoubleClickAndFindsItsWayBackAndForward) {
 
 TEST_F(UsingFinder, OpensDocumentsWithTheEditorAndNothingForTooMany) {
     doubleClick(row(3));
-    ASSERT_EQ(machine.opened.size(), 1U);
-    EXPECT_EQ(machine.opened[0].application, "/Applications/TextEdit.app");
-    EXPECT_EQ(machine.opened[0].urls, Lines{work + "/b.txt"});
+    ASSERT_EQ(machine.launchServices.opened().size(), 1U);
+    EXPECT_EQ(machine.launchServices.opened()[0].application, "/Applications/TextEdit.app");
+    EXPECT_EQ(machine.launchServices.opened()[0].urls, Lines{work + "/b.txt"});
     EXPECT_NE(machine.processes.frontmost()->processIdentifier, finder.pid());
 
     manyFiles(30);
-    machine.activate("com.apple.finder");
+    machine.activation.activate("com.apple.finder");
     keys({"cmd+a", "cmd+o", "cmd+i"});
     EXPECT_EQ(selected().size(), 35U);
-    EXPECT_EQ(machine.opened.size(), 1U);
+    EXPECT_EQ(machine.launchServices.opened().size(), 1U);
     EXPECT_EQ(finder.windows().size(), 1U);
 }
 

@@ -150,7 +150,7 @@ TEST_F(UsingMenus, TheDockSwitchesStartsAndRestores) {
     machine.disk.makeFolder("/Applications/Visual Studio Code.app");
     click(dockIcon("Terminal"));
     click(dockIcon("Visual Studio Code"));
-    machine.startOtherProcess("org.example.Other");
+    machine.launchServices.startOtherProcess("org.example.Other");
     EXPECT_EQ(dock(), "Finder* Safari Terminal* Visual Studio Code* Other* ");
     EXPECT_EQ(frontmost(), "Visual Studio Code");
     click(dockIcon("Other"));

@@ -161,7 +161,7 @@ TEST(FollowedDesk, APollAfterAnyStoryThePublishedWindowsAreTheRealOnes) {
     for (unsigned seed = 1; seed <= 6; ++seed) {
         FollowedDesk d;
         d.tree({"/Users/ana/a/Same/", "/Users/ana/b/Same/", "/Users/ana/Other/"});
-        d.machine.startOtherProcess("com.apple.mail");
+        d.machine.launchServices.startOtherProcess("com.apple.mail");
         d.launch();
         std::mt19937 random(seed);
         const auto upTo = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
@@ -187,9 +187,9 @@ TEST(FollowedDesk, APollAfterAnyStoryThePublishedWindowsAreTheRealOnes) {
             {"go", [&] { d.machine.finder.go(window(), folder()); }},
             {"move", [&] { d.machine.finder.setFrame(window(), frame()); }},
             {"full screen", [&] { d.machine.finder.setFullScreen(window(), upTo(2) == 0); }},
-            {"space", [&] { d.machine.switchToSpace(1 + upTo(2)); }},
-            {"mail", [&] { d.machine.activate("com.apple.mail"); }},
-            {"finder", [&] { d.machine.activate("com.apple.finder"); }},
+            {"space", [&] { d.machine.windows.switchToSpace(1 + upTo(2)); }},
+            {"mail", [&] { d.machine.activation.activate("com.apple.mail"); }},
+            {"finder", [&] { d.machine.activation.activate("com.apple.finder"); }},
             {"relaunch", [&] {
                  if (upTo(4) != 0) return;
                  d.machine.finder.quit();

@@ -1,0 +1,28 @@
+// The parts of the machine that Finder uses.
+#pragma once
+
+namespace desk {
+
+class Activation;
+class Disk;
+class Displays;
+class LaunchServices;
+class Processes;
+class Scheduler;
+class WindowStack;
+struct Faults;
+struct Permissions;
+
+struct FinderNeighbours {
+    Scheduler& scheduler;
+    Disk& disk;
+    Displays& displays;
+    WindowStack& windows;
+    Processes& processes;
+    Permissions& permissions;
+    Faults& faults;
+    Activation& activation;
+    LaunchServices& launchServices;
+};
+
+}  // namespace desk

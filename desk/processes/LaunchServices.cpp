@@ -1,0 +1,90 @@
+#include "desk/processes/LaunchServices.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "desk/disk/Disk.h"
+#include "desk/processes/Activation.h"
+#include "desk/processes/KnownApplications.h"
+#include "desk/processes/Processes.h"
+#include "desk/time/Scheduler.h"
+#include "desk/windows/WindowStack.h"
+#include "platform/FileURL.h"
+
+namespace desk {
+
+namespace {
+
+constexpr platform::CGRect frameOfOtherWindow{{220, 140}, {900, 600}};
+constexpr platform::CGRect frameOfOpenedWindow{{300, 260}, {640, 400}};
+
+constexpr double cascadeStep = 24;
+constexpr std::int64_t cascadeLength = 8;
+
+// The last part of a bundle identifier stands in for a name.
+std::string nameOf(const std::string& bundleIdentifier) {
+    return bundleIdentifier.substr(bundleIdentifier.rfind('.') + 1);
+}
+
+}  // namespace
+
+void LaunchServices::startOtherProcess(const std::string& bundleIdentifier) {
+    Process process;
+    process.bundleIdentifier = bundleIdentifier;
+    process.name = nameOf(bundleIdentifier);
+    process.bundlePath = "/Applications/" + process.name + ".app";
+    const std::string name = process.name;
+    addWindow(processes.add(std::move(process)), name, frameOfOtherWindow, platform::NSWindowOrderingMode::below);
+}
+
+void LaunchServices::addWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
+                               platform::NSWindowOrderingMode place) {
+    ServerWindow window;
+    window.number = nextNumber++;
+    window.title = title;
+    window.frame = frame;
+    window.owner = owner;
+    windows.add(window);
+    windows.order(window.number, place, 0);
+}
+
+void LaunchServices::openFiles(const std::vector<std::string>& paths, const std::string& applicationPath) {
+    scheduler.after({}, [this, paths, applicationPath] { openNow(paths, applicationPath); });
+}
+
+void LaunchServices::openNow(const std::vector<std::string>& paths, const std::string& applicationPath) {
+    const bool isThere = std::all_of(paths.begin(), paths.end(), [&](const auto& path) { return disk.exists(path); });
+    if (!isThere || disk.kind(applicationPath) != platform::FileKind::directory) return;
+    openedFiles.push_back({applicationPath, paths});
+    const std::int32_t owner = processes.openApplication(applicationPath);
+    for (const std::string& path : paths) {
+        const double shift = cascadeStep * static_cast<double>(nextNumber % cascadeLength);
+        addWindow(owner, std::string(platform::lastPathComponent(path)),
+                  CGRectOffset(frameOfOpenedWindow, shift, -shift), platform::NSWindowOrderingMode::above);
+    }
+    activation.activate(owner, true);
+}
+
+void LaunchServices::openDocuments(const std::vector<std::string>& paths) {
+    if (const auto editor = knownEditor(disk)) openFiles(paths, *editor);
+}
+
+void LaunchServices::openApplication(const std::string& applicationPath) {
+    const auto& all = processes.running();
+    const bool runs = std::any_of(all.begin(), all.end(),
+                                  [&](const Process& process) { return process.bundlePath == applicationPath; });
+    if (!runs && disk.kind(applicationPath) != platform::FileKind::directory) return;
+    if (!runs && startProgram && startProgram(applicationPath)) return;
+    const std::int32_t owner = processes.openApplication(applicationPath);
+    const Process& process = *processes.find(owner);
+    if (!process.hasOwnProgram && !hasWindow(owner))
+        addWindow(owner, process.name, frameOfOtherWindow, platform::NSWindowOrderingMode::above);
+    activation.activate(owner, true);
+}
+
+bool LaunchServices::hasWindow(std::int32_t processIdentifier) const {
+    const auto all = windows.all();
+    return std::any_of(all.begin(), all.end(), [&](const auto* window) { return window->owner == processIdentifier; });
+}
+
+}  // namespace desk

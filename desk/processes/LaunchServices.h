@@ -1,0 +1,69 @@
+// Starting applications and opening files with them. An application that has no program here is sketched: it gets a plain window for each thing that is opened with it. It keeps a list of what
+// was opened.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/Geometry.h"
+#include "platform/Windows.h"
+
+namespace desk {
+
+class Activation;
+class Disk;
+class Processes;
+class Scheduler;
+class WindowStack;
+
+// Opened with another application.
+struct OpenedFiles {
+    std::string application;
+    std::vector<std::string> urls;
+};
+
+class LaunchServices {
+public:
+    LaunchServices(Scheduler& theScheduler, Disk& theDisk, Processes& theProcesses, WindowStack& theWindows,
+                   Activation& theActivation)
+        : scheduler(theScheduler),
+          disk(theDisk),
+          processes(theProcesses),
+          windows(theWindows),
+          activation(theActivation) {}
+
+    // Another process with one ordinary window, behind all others.
+    void startOtherProcess(const std::string& bundleIdentifier);
+    // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front. Nothing happens when one of the
+    // files or the application isn't there.
+    void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
+    // Files with the application that documents belong to; nothing happens without one.
+    void openDocuments(const std::vector<std::string>& paths);
+    // The application at that path, as from the Dock: it is started if it doesn't run, has a window, and comes to the front with all it has.
+    void openApplication(const std::string& applicationPath);
+
+    // In order, since the start.
+    const std::vector<OpenedFiles>& opened() const { return openedFiles; }
+
+    // Set by who has programs to run: starts the one of the bundle at that path; false leaves it to be sketched.
+    std::function<bool(const std::string& bundlePath)> startProgram;
+
+private:
+    void openNow(const std::vector<std::string>& paths, const std::string& applicationPath);
+    bool hasWindow(std::int32_t processIdentifier) const;
+    void addWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
+                   platform::NSWindowOrderingMode place);
+
+    Scheduler& scheduler;
+    Disk& disk;
+    Processes& processes;
+    WindowStack& windows;
+    Activation& activation;
+    std::vector<OpenedFiles> openedFiles;
+    // Apart from the numbers of Finder's windows and of applications' own.
+    std::int64_t nextNumber = 1'000'001;
+};
+
+}  // namespace desk
