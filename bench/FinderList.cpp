@@ -5,7 +5,7 @@
 
 #include "desk/display/FinderContent.h"
 #include "desk/finder/FinderBrowser.h"
-#include "desk/ports/CollationPort.h"
+#include "desk/text/IcuCollation.h"
 #include "tests/kit/Desk.h"
 
 namespace {
@@ -32,7 +32,7 @@ public:
 };
 
 BENCHMARK_F(ManyFiles, Read)(benchmark::State& state) {
-    desk::CollationPort names;
+    desk::IcuCollation names;
     for (auto _ : state) {
         desk::FinderListing list;
         list.update(desk->machine.disk, names, folder);

@@ -7,8 +7,8 @@
 
 #include "desk/disk/HostFolder.h"
 #include "desk/disk/SampleVolume.h"
-#include "desk/disk/Utf8.h"
 #include "platform/FileURL.h"
+#include "views/text/Utf8.h"
 
 namespace desk {
 
@@ -190,7 +190,8 @@ std::optional<std::vector<DiskEntry>> Disk::list(const std::string& path) const 
     if (!place || !place->isDirectory || unreadable.contains(place->path)) return std::nullopt;
     std::vector<DiskEntry> entries;
     const bool isListed = host::list(place->host, [&](std::string_view name, host::EntryKind kind) {
-        if (isUtf8(name)) entries.push_back(entryNamed(std::string(name), kind == host::EntryKind::directory));
+        if (views::isWellFormed(name))
+            entries.push_back(entryNamed(std::string(name), kind == host::EntryKind::directory));
     });
     if (!isListed && !isMountOrParentOfOne(place->path)) return std::nullopt;
     addMountPoints(place->path, entries);

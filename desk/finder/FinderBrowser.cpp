@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "desk/finder/Finder.h"
-#include "desk/ports/CollationPort.h"
 #include "desk/processes/LaunchServices.h"
+#include "desk/text/IcuCollation.h"
 #include "desk/time/Scheduler.h"
 #include "desk/windows/WindowStack.h"
 #include "platform/FileURL.h"
@@ -31,7 +31,7 @@ const FinderWindow* FinderBrowser::folderWindow(std::int64_t number) const {
 
 // Most machines never show a list.
 platform::Collation& FinderBrowser::names() {
-    if (collation == nullptr) collation = std::make_unique<CollationPort>();
+    if (collation == nullptr) collation = std::make_unique<IcuCollation>();
     return *collation;
 }
 

@@ -6,18 +6,18 @@
 #include "desk/ports/AccessibilityPort.h"
 #include "desk/ports/AppleEventsPort.h"
 #include "desk/ports/BundlePort.h"
-#include "desk/ports/CollationPort.h"
 #include "desk/ports/DefaultsPort.h"
 #include "desk/ports/EventsPort.h"
 #include "desk/ports/FilesPort.h"
 #include "desk/ports/MenusPort.h"
 #include "desk/ports/NSApplicationPort.h"
 #include "desk/ports/PasteboardPort.h"
-#include "desk/ports/TextBoundariesPort.h"
 #include "desk/ports/UuidPort.h"
 #include "desk/ports/WindowPort.h"
 #include "desk/ports/WindowServerPort.h"
 #include "desk/ports/WorkspacePort.h"
+#include "desk/text/IcuCollation.h"
+#include "desk/text/IcuTextBoundaries.h"
 
 namespace desk {
 
@@ -53,8 +53,8 @@ struct LaunchedApplication::Ports {
     NSApplicationPort application;
     WindowPort windows;
     MenusPort menus;
-    TextBoundariesPort textBoundaries;
-    CollationPort collation;
+    IcuTextBoundaries textBoundaries;
+    IcuCollation collation;
     FilesPort files;
     DefaultsPort defaults;
     BundlePort bundle;

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "desk/ports/CollationPort.h"
+#include "desk/text/IcuCollation.h"
 #include "tests/desk/UsingFinder.h"
 
 namespace {
@@ -95,7 +95,7 @@ TEST_F(UsingFinder, ListsAFolderOnceUntilItChangesFromInsideOrOutside) {
     fs::create_directories(outside);
     std::ofstream(outside + "/First");
     machine.disk.mount("/Volumes/Work", outside);
-    desk::CollationPort names;
+    desk::IcuCollation names;
     desk::FinderListing list;
     const auto update = [&] { return list.update(machine.disk, names, "/Volumes/Work"); };
     EXPECT_TRUE(update());

@@ -48,6 +48,16 @@ std::size_t characterLength(std::string_view text, std::size_t offset) {
     return form->length;
 }
 
+bool isWellFormed(std::string_view text) {
+    std::size_t offset = 0;
+    while (offset < text.size()) {
+        const std::size_t length = characterLength(text, offset);
+        if (length == 0) return false;
+        offset += length;
+    }
+    return true;
+}
+
 std::size_t utf16Length(std::string_view text) {
     std::size_t length = 0;
     for (std::size_t offset = 0; offset < text.size();) {

@@ -11,6 +11,9 @@ namespace views {
 // Bytes of the well-formed character at the offset; 0 when there is none.
 std::size_t characterLength(std::string_view text, std::size_t offset);
 
+// Every byte belongs to such a character.
+bool isWellFormed(std::string_view text);
+
 std::size_t utf16Length(std::string_view text);
 // Where the character begins that holds this unit; the text's size past its end.
 std::size_t byteOffset(std::string_view text, std::size_t utf16Offset);

@@ -9,9 +9,9 @@
 
 namespace desk {
 
-class TextBoundariesPort final : public platform::TextBoundaries {
+class IcuTextBoundaries final : public platform::TextBoundaries {
 public:
-    TextBoundariesPort();
+    IcuTextBoundaries();
 
     std::size_t nextCharacter(std::string_view text, std::size_t offset) override;
     std::size_t previousCharacter(std::string_view text, std::size_t offset) override;

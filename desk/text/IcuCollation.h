@@ -9,9 +9,9 @@
 
 namespace desk {
 
-class CollationPort final : public platform::Collation {
+class IcuCollation final : public platform::Collation {
 public:
-    CollationPort();
+    IcuCollation();
 
     int localizedStandardCompare(std::string_view a, std::string_view b) override;
     void appendLocalizedStandardKey(std::string_view name, std::string& keys) override;

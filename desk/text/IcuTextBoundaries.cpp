@@ -1,4 +1,4 @@
-#include "desk/ports/TextBoundariesPort.h"
+#include "desk/text/IcuTextBoundaries.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -40,11 +40,11 @@ bool endsWord(const icu::BreakIterator& words) {
 
 }  // namespace
 
-TextBoundariesPort::TextBoundariesPort()
+IcuTextBoundaries::IcuTextBoundaries()
     : characters(made(icu::BreakIterator::createCharacterInstance)),
       words(made(icu::BreakIterator::createWordInstance)) {}
 
-std::size_t TextBoundariesPort::nextCharacter(std::string_view text, std::size_t offset) {
+std::size_t IcuTextBoundaries::nextCharacter(std::string_view text, std::size_t offset) {
     if (offset >= text.size()) return text.size();
     const Reading reading(characters.get(), text);
     if (!reading.isPossible()) return text.size();
@@ -52,7 +52,7 @@ std::size_t TextBoundariesPort::nextCharacter(std::string_view text, std::size_t
     return found == icu::BreakIterator::DONE ? text.size() : static_cast<std::size_t>(found);
 }
 
-std::size_t TextBoundariesPort::previousCharacter(std::string_view text, std::size_t offset) {
+std::size_t IcuTextBoundaries::previousCharacter(std::string_view text, std::size_t offset) {
     if (offset == 0) return 0;
     const Reading reading(characters.get(), text);
     if (!reading.isPossible()) return 0;
@@ -60,7 +60,7 @@ std::size_t TextBoundariesPort::previousCharacter(std::string_view text, std::si
     return found == icu::BreakIterator::DONE ? 0 : static_cast<std::size_t>(found);
 }
 
-std::size_t TextBoundariesPort::nextWord(std::string_view text, std::size_t offset) {
+std::size_t IcuTextBoundaries::nextWord(std::string_view text, std::size_t offset) {
     if (offset >= text.size()) return text.size();
     const Reading reading(words.get(), text);
     if (!reading.isPossible()) return text.size();
@@ -71,7 +71,7 @@ std::size_t TextBoundariesPort::nextWord(std::string_view text, std::size_t offs
 }
 
 // The status at an edge tells of what ends there, so a word's beginning is the edge before one that ends a word.
-std::size_t TextBoundariesPort::previousWord(std::string_view text, std::size_t offset) {
+std::size_t IcuTextBoundaries::previousWord(std::string_view text, std::size_t offset) {
     if (offset == 0) return 0;
     const Reading reading(words.get(), text);
     if (!reading.isPossible()) return 0;

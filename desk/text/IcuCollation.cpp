@@ -1,4 +1,4 @@
-#include "desk/ports/CollationPort.h"
+#include "desk/text/IcuCollation.h"
 
 #include <cstdint>
 
@@ -21,15 +21,15 @@ std::unique_ptr<icu::Collator> standardCollator() {
 
 }  // namespace
 
-CollationPort::CollationPort() : collator(standardCollator()) {}
+IcuCollation::IcuCollation() : collator(standardCollator()) {}
 
-int CollationPort::localizedStandardCompare(std::string_view a, std::string_view b) {
+int IcuCollation::localizedStandardCompare(std::string_view a, std::string_view b) {
     UErrorCode status = U_ZERO_ERROR;
     if (collator) return collator->compareUTF8(piece(a), piece(b), status);
     return a.compare(b);
 }
 
-void CollationPort::appendLocalizedStandardKey(std::string_view name, std::string& keys) {
+void IcuCollation::appendLocalizedStandardKey(std::string_view name, std::string& keys) {
     if (!collator) {
         keys += name;
         return;
