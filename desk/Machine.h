@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,6 +22,7 @@
 #include "desk/processes/Permissions.h"
 #include "desk/processes/Processes.h"
 #include "desk/time/Scheduler.h"
+#include "desk/time/WallClock.h"
 #include "desk/windows/Displays.h"
 #include "desk/windows/WindowStack.h"
 #include "platform/Screens.h"
@@ -37,6 +39,7 @@ public:
     Machine& operator=(const Machine&) = delete;
 
     Scheduler scheduler;
+    WallClock clock{scheduler};
     Disk disk;
     Displays displays;
     WindowStack windows;
@@ -51,6 +54,8 @@ public:
     Finder finder;
     FinderScripting scripting;
     platform::Appearance appearance;
+    // Stored user defaults by domain: a bundle identifier, or the path of a bundle without one. They outlive processes.
+    std::map<std::string, platform::Dictionary> defaults;
     std::optional<std::string> clipboard;
     platform::TextSystem& text;
 

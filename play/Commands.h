@@ -16,6 +16,7 @@ struct Command {
 };
 
 const std::vector<Command>& machineCommands();
+const std::vector<Command>& applicationCommands();
 const std::vector<Command>& finderCommands();
 const std::vector<Command>& inputCommands();
 const std::vector<Command>& checkCommands();

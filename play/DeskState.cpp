@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include <QDateTime>
 #include <QJsonArray>
 #include <QJsonValue>
 
@@ -122,9 +123,9 @@ QJsonValue plainValue(const platform::Value& value) {
     return {};
 }
 
-QJsonValue defaults(const Session& session) {
-    const auto* application = session.application();
-    return plainValue(application == nullptr ? session.image.storedDefaults : application->storedDefaults());
+QString dateOf(const desk::Machine& machine) {
+    const auto instant = std::chrono::floor<std::chrono::seconds>(machine.clock.now().sinceEpoch);
+    return QDateTime::fromSecsSinceEpoch(instant.count(), Qt::UTC).toString(Qt::ISODate);
 }
 
 QJsonArray processes(const desk::Machine& machine) {
@@ -196,11 +197,12 @@ QJsonObject stateOf(Session& session) {
             {"alert", alert(machine)},
             {"clipboard", jsonText(machine.clipboard)},
             {"opened", opened(machine)},
-            {"defaults", defaults(session)},
+            {"defaults", plainValue(session.defaults())},
             {"processes", processes(machine)},
             {"scripts", scripts(machine)},
             {"counts", counts(session)},
-            {"log", log(machine)}};
+            {"log", log(machine)},
+            {"date", dateOf(machine)}};
 }
 
 }  // namespace play

@@ -1,4 +1,7 @@
+#include <cmath>
 #include <string>
+
+#include <QDateTime>
 
 #include "play/Commands.h"
 #include "play/ScriptPlayer.h"
@@ -7,17 +10,13 @@ namespace play {
 
 namespace {
 
-void requireBeforeLaunch(ScriptPlayer& player) {
-    if (player.session().hasLaunched()) badCommand("this comes before launch");
-}
-
 void requireSuccess(const std::optional<std::string>& problem) {
     if (problem) badCommand(*problem);
 }
 
 void useDisk(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1);
-    requireBeforeLaunch(player);
+    player.requireBeforeLaunch();
     requireSuccess(player.machine().disk.useAsStartupVolume(arguments.text(0)));
 }
 
@@ -39,19 +38,15 @@ void makeFile(ScriptPlayer& player, const Arguments& arguments) {
         badCommand("the file can't be made: " + arguments.path(0));
 }
 
-void requirePath(ScriptPlayer& player, const std::string& path) {
-    if (!player.machine().disk.exists(path)) badCommand("nothing stands at " + path);
-}
-
 void removeEntry(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1);
-    requirePath(player, arguments.path(0));
+    player.requirePath(arguments.path(0));
     if (!player.machine().disk.remove(arguments.path(0))) badCommand("it can't be removed: " + arguments.path(0));
 }
 
 void makeUnreadable(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1);
-    requirePath(player, arguments.path(0));
+    player.requirePath(arguments.path(0));
     player.machine().disk.setUnreadable(arguments.path(0));
 }
 
@@ -108,43 +103,22 @@ void setPermission(ScriptPlayer& player, const Arguments& arguments) {
     }
 }
 
-void setDefault(ScriptPlayer& player, const Arguments& arguments) {
-    static constexpr Choice<bool> booleans[] = {{"true", true}, {"false", false}, {"1", true},
-                                                {"0", false},   {"yes", true},    {"no", false}};
-    arguments.requireCount(3, 100);
-    requireBeforeLaunch(player);
-    auto& stored = player.session().image.storedDefaults;
-    if (arguments.is(1, "bool")) {
-        arguments.requireCount(3, 3);
-        stored[arguments.text(0)] = platform::Value(choose(booleans, arguments, 2));
-    } else if (arguments.is(1, "string")) {
-        stored[arguments.text(0)] = platform::Value(arguments.rest(2));
-    } else {
-        badCommand("unknown type of default: " + arguments.text(1));
-    }
+platform::Date dateOf(const Arguments& arguments) {
+    QDateTime read = QDateTime::fromString(QString::fromStdString(arguments.rest(0)), "yyyy-MM-dd HH:mm:ss");
+    read.setTimeSpec(Qt::UTC);
+    constexpr qint64 startOf2100 = 4'102'444'800;
+    const qint64 seconds = read.isValid() ? read.toSecsSinceEpoch() : -1;
+    if (seconds < 0 || seconds >= startOf2100) badCommand("no date and time from 1970 to 2099: " + arguments.rest(0));
+    return {std::chrono::seconds(seconds)};
 }
 
-void setInfo(ScriptPlayer& player, const Arguments& arguments) {
-    arguments.requireCount(1, 100);
-    requireBeforeLaunch(player);
-    auto& info = player.session().image.info;
-    if (arguments.count() == 1) {
-        info.erase(arguments.text(0));
-    } else {
-        info[arguments.text(0)] = platform::Value(arguments.rest(1));
-    }
-}
-
-void startProcess(ScriptPlayer& player, const Arguments& arguments) {
-    arguments.requireCount(1, 1);
-    player.machine().launchServices.startOtherProcess(arguments.text(0));
-}
-
-void launchApplication(ScriptPlayer& player, const Arguments& arguments) {
-    arguments.requireCount(0, 1);
-    const std::string path = arguments.count() == 1 ? arguments.path(0) : std::string(installedCopy);
-    requirePath(player, path);
-    player.session().launch(path);
+void setClock(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(2, 2);
+    auto& clock = player.machine().clock;
+    if (!arguments.is(0, "by")) return clock.set(dateOf(arguments));
+    constexpr double mostSeconds = 1e9;
+    if (std::fabs(arguments.number(1)) > mostSeconds) badCommand("that is too far: " + arguments.text(1));
+    clock.set(clock.now() + platform::seconds(arguments.number(1)));
 }
 
 }  // namespace
@@ -160,10 +134,7 @@ const std::vector<Command>& machineCommands() {
                                             {"screens", removeScreens},
                                             {"appearance", setAppearance},
                                             {"permission", setPermission},
-                                            {"set-default", setDefault},
-                                            {"info", setInfo},
-                                            {"process", startProcess},
-                                            {"launch", launchApplication}};
+                                            {"clock", setClock}};
     return table;
 }
 

@@ -83,7 +83,8 @@ void ScriptPlayer::run(const ScriptLine& line) {
     if (line.words.empty()) badCommand(line.source);
     const Arguments arguments(line, 1);
     const std::string& name = line.words.front().text;
-    for (const auto* table : {&machineCommands(), &finderCommands(), &inputCommands(), &checkCommands()})
+    for (const auto* table :
+         {&machineCommands(), &applicationCommands(), &finderCommands(), &inputCommands(), &checkCommands()})
         if (runCommand(*table, name, *this, arguments)) return;
     badCommand("unknown command: " + name);
 }
@@ -104,6 +105,14 @@ std::int64_t ScriptPlayer::finderWindow(const Arguments& arguments, std::size_t 
     const std::int64_t number = arguments.integer(index);
     if (machine().finder.find(number) == nullptr) missingTarget("no Finder window " + arguments.text(index));
     return number;
+}
+
+void ScriptPlayer::requireBeforeLaunch() const {
+    if (stage.hasLaunched()) badCommand("this comes before launch");
+}
+
+void ScriptPlayer::requirePath(const std::string& path) const {
+    if (!stage.machine.disk.exists(path)) badCommand("nothing stands at " + path);
 }
 
 }  // namespace play

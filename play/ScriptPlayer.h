@@ -41,6 +41,9 @@ public:
     void then(std::function<void()> part) { parts.push_back(std::move(part)); }
     // The window that a word names; ends the script when there is none.
     std::int64_t finderWindow(const Arguments& arguments, std::size_t index);
+    // These end the script too.
+    void requireBeforeLaunch() const;
+    void requirePath(const std::string& path) const;
 
 private:
     // False at the end.

@@ -16,6 +16,7 @@ public:
 
 Session::Session() {
     image.info = {{"CFBundleIdentifier", image.bundleIdentifier}, {"CFBundleName", image.name}};
+    setDefault("hasCompletedOnboardingV1", true);
     machine.launchServices.startProgram = [this](const std::string& bundlePath) {
         const bool isCopy = machine.disk.exists(bundlePath + "/Contents/MacOS/Orvane");
         if (isCopy) launch(bundlePath);
@@ -29,6 +30,18 @@ void Session::launch(const std::string& bundlePath) {
     launched = true;
     machine.launch(bundlePath, image,
                    [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
+}
+
+const platform::Dictionary& Session::defaults() {
+    const auto* living = application();
+    return machine.defaults[image.domain(living == nullptr ? installedCopy : living->bundlePath())];
+}
+
+void Session::setDefault(const std::string& key, const std::optional<platform::Value>& value) {
+    for (const std::string& domain : {image.bundleIdentifier, std::string(installedCopy)}) {
+        machine.defaults[domain].erase(key);
+        if (value) machine.defaults[domain].emplace(key, *value);
+    }
 }
 
 desk::LaunchedApplication* Session::application() const {

@@ -26,6 +26,11 @@ public:
     // What a launch starts.
     desk::ApplicationImage image;
 
+    // The application's stored user defaults: of its living copy, or else of what a launch would start.
+    const platform::Dictionary& defaults();
+    // A stored default, or its removal. It holds for an installed copy without an identifier too.
+    void setDefault(const std::string& key, const std::optional<platform::Value>& value);
+
     void launch(const std::string& bundlePath);
     bool hasLaunched() const { return launched; }
 

@@ -68,7 +68,7 @@ void DesktopLayers::addScreenFurniture(Machine& machine, std::size_t screen, std
     if (options.menuBar > 0) {
         DrawingBuilder builder(machine.text, scheme);
         const CGRect strip = CGRectMake(frame.minX(), frame.maxY() - options.menuBar, frame.width(), options.menuBar);
-        drawMenuBar(builder, strip.size, {machine.input.menuBar().titles(strip), clockText(machine.scheduler.now())});
+        drawMenuBar(builder, strip.size, {machine.input.menuBar().titles(strip), clockText(machine.clock.now())});
         layers.push_back(drawn(firstMenuBarId - place, strip, builder));
     }
 }

@@ -51,7 +51,7 @@ platform::Drawing foreignDrawing(Machine& machine, const ServerWindow& window, b
     DrawingBuilder builder(machine.text, machine.appearance.colorScheme.get());
     const FinderWindow* panel = machine.finder.find(window.number);
     if (panel != nullptr && !panel->subject.empty()) {
-        const FinderItem item = finderItem(machine.disk, panel->subject, machine.scheduler.now());
+        const FinderItem item = finderItem(machine.disk, panel->subject, machine.clock.now());
         drawInfoPanel(builder, window.frame.size, panel->name, item,
                       platform::deletingLastPathComponent(panel->subject), lookOf(isActive));
         return std::move(builder.drawing);
@@ -132,7 +132,7 @@ Layer DesktopLayers::foreignWindow(Machine& machine, const ServerWindow& window,
 
 SharedDrawing DesktopLayers::finderDrawing(Machine& machine, const FinderWindow& window, bool isActive) {
     FinderContent content =
-        finderContent(machine.finder.browser(), machine.disk, window, lookOf(isActive), machine.scheduler.now());
+        finderContent(machine.finder.browser(), machine.disk, window, lookOf(isActive), machine.clock.now());
     const platform::ColorScheme scheme = machine.appearance.colorScheme.get();
     const auto kept = finderDrawings.find(window.number);
     if (kept != finderDrawings.end() && kept->second.scheme == scheme && kept->second.content == content)

@@ -1,24 +1,25 @@
-// The user defaults of one application, as they were stored before its launch and as it has stored them since.
+// The user defaults of one application: those of its domain, which lie with the machine.
 #pragma once
 
 #include <string>
-#include <utility>
 
 #include "platform/Defaults.h"
 
 namespace desk {
 
+class LaunchedApplication;
+
 class DefaultsPort final : public platform::NSUserDefaults {
 public:
-    explicit DefaultsPort(platform::Dictionary storedBefore) : stored(std::move(storedBefore)) {}
+    DefaultsPort(platform::Dictionary& theDomain, const LaunchedApplication& theApplication)
+        : domain(theDomain), application(theApplication) {}
 
     std::optional<std::string> stringForKey(const std::string& key) override;
     void setObject(const std::string& key, platform::Value value) override;
 
-    const platform::Dictionary& storedValues() const { return stored; }
-
 private:
-    platform::Dictionary stored;
+    platform::Dictionary& domain;
+    const LaunchedApplication& application;
 };
 
 }  // namespace desk

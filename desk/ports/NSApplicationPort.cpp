@@ -22,7 +22,7 @@ std::optional<platform::NSEvent> NSApplicationPort::nextEventMatchingMask(platfo
                                                                           platform::Date untilDate,
                                                                           platform::NSRunLoopMode /*mode*/,
                                                                           bool dequeue) {
-    auto event = application.loop().nextEvent(mask, untilDate, dequeue);
+    auto event = application.loop().nextEvent(mask, machine.clock.due(untilDate), dequeue);
     if (event) event = LaunchedApplication::inItsWindow(*event);
     return event;
 }

@@ -29,6 +29,10 @@ std::optional<std::string> ApplicationImage::identifier() const {
     return *text;
 }
 
+std::string ApplicationImage::domain(const std::string& bundlePath) const {
+    return identifier().value_or(bundlePath);
+}
+
 struct LaunchedApplication::Ports {
     Ports(Machine& machine, LaunchedApplication& self, const ApplicationImage& image)
         : workspace(machine, self),
@@ -40,7 +44,7 @@ struct LaunchedApplication::Ports {
           windows(machine, self),
           menus(machine, self),
           files(machine.disk),
-          defaults(image.storedDefaults),
+          defaults(machine.defaults[image.domain(self.bundlePath())], self),
           bundle(image.identifier(), self.bundlePath()),
           pasteboard(machine.clipboard),
           uuids(self.processIdentifier()) {}
@@ -71,7 +75,7 @@ LaunchedApplication::LaunchedApplication(Machine& theMachine, std::string theBun
           theMachine.scheduler, [this](const platform::NSEvent& event) { sendEvent(inItsWindow(event)); })),
       ports(std::make_unique<Ports>(theMachine, *this, image)),
       slots(std::make_unique<platform::SharedSlots>()),
-      platformOfIt(new platform::Platform{machine.scheduler,
+      platformOfIt(new platform::Platform{machine.clock,
                                           *runLoop,
                                           *runLoop,
                                           ports->workspace,
@@ -125,10 +129,6 @@ void LaunchedApplication::terminate() {
     }
     machine.menus.applicationEnded(pid);
     machine.processes.remove(pid);
-}
-
-const platform::Dictionary& LaunchedApplication::storedDefaults() const {
-    return ports->defaults.storedValues();
 }
 
 platform::NSEvent LaunchedApplication::inItsWindow(platform::NSEvent event) {

@@ -1,4 +1,4 @@
-// One launched copy of an application: its loop, its side of every platform interface, its user defaults and shared objects, and the program itself. It dies by terminate: nothing more is
+// One launched copy of an application: its loop, its side of every platform interface, its shared objects, and the program itself. It dies by terminate: nothing more is
 // delivered to it, and the Machine destroys it once none of its calls is on the stack.
 #pragma once
 
@@ -25,15 +25,16 @@ public:
 };
 using ProgramFactory = std::function<std::unique_ptr<Program>(platform::Platform&)>;
 
-// What `launch` starts: identity, stored defaults and Info dictionary.
+// What `launch` starts: identity and Info dictionary.
 struct ApplicationImage {
     std::string bundleIdentifier = "com.velmora.Brindle";
     std::string name = "Orvane";
     platform::Dictionary info;
-    platform::Dictionary storedDefaults;
 
     // The Info dictionary's own word, where there is a dictionary; a bundle can be without an identifier.
     std::optional<std::string> identifier() const;
+    // Where the user defaults of a copy at that path lie.
+    std::string domain(const std::string& bundlePath) const;
 };
 
 class LaunchedApplication {
@@ -51,7 +52,6 @@ public:
     platform::Platform& platform() { return *platformOfIt; }
     ApplicationLoop& loop() { return *runLoop; }
     Program* program() { return runningProgram.get(); }
-    const platform::Dictionary& storedDefaults() const;
 
     // A call of the application that its loop doesn't know of is on the stack while this is above 0.
     int callDepth = 0;

@@ -1,4 +1,4 @@
-// The machine's clock and what comes due on it. In virtual time only the driver moves the clock, and everything runs on one thread at a time; in real time
+// The time that passes on the machine and what comes due in it; what the clock on the wall shows is another thing. In virtual time only the driver moves the clock, and everything runs on one thread at a time; in real time
 // the clock is the host's, and a wait lets the display's events in. It holds the machine's own items (Finder's late notifications, answers of scripts)
 // and drives the loop of each launched application. It decides when things run, never what.
 #pragma once
@@ -37,17 +37,17 @@ public:
     virtual void wake() = 0;
 };
 
-class Scheduler final : public platform::Clock {
+class Scheduler final {
 public:
     explicit Scheduler(platform::Date start);
-    ~Scheduler() override;
+    ~Scheduler();
 
     // From now on the clock is the host's, and queues run beside the calling thread, which is the main one. Before anything is launched.
     void useRealTime(RealTime& theRealTime);
     bool isRealTime() const { return realTime != nullptr; }
 
     // Any thread.
-    platform::Date now() const override;
+    platform::Date now() const;
 
     // Any thread: in real time, and not the main one.
     bool isOffMainThread() const { return isRealTime() && std::this_thread::get_id() != mainThread; }

@@ -231,6 +231,20 @@ TEST_F(MachineTest, AMonitorMayRemoveItselfAndWhatIsBehindIt) {
     EXPECT_EQ(desk.machine.applications().front()->registrations().globalMonitors, 0U);
 }
 
+TEST_F(MachineTest, DefaultsOutliveTheirProcessAndTimersDontMindTheClock) {
+    Probe& first = kit::launchProbe(desk);
+    first.platform.defaults.setObject("key", "stored");
+    int fired = 0;
+    const auto timer = first.platform.runLoop.addTimer(platform::seconds(1), true, {}, [&] { ++fired; });
+    desk.machine.clock.set(platform::Date{});
+    desk.run(3);
+    EXPECT_EQ(fired, 3);
+    EXPECT_EQ(first.platform.clock.now(), platform::Date{platform::seconds(3)});
+    first.platform.application.terminate();
+    EXPECT_EQ(kit::launchProbe(desk).platform.defaults.stringForKey("key"), "stored");
+    EXPECT_EQ(kit::launchProbe(desk, "org.example.Other").platform.defaults.stringForKey("key"), std::nullopt);
+}
+
 TEST_F(MachineTest, FilesAreReachedThroughTheMacsPaths) {
     Probe& probe = kit::launchProbe(desk);
     auto& files = probe.platform.files;

@@ -1,0 +1,68 @@
+#include <string>
+
+#include "play/Commands.h"
+#include "play/ScriptPlayer.h"
+
+namespace play {
+
+namespace {
+
+platform::Value booleanDefault(const Arguments& arguments) {
+    static constexpr Choice<bool> booleans[] = {{"true", true}, {"false", false}, {"1", true},
+                                                {"0", false},   {"yes", true},    {"no", false}};
+    arguments.requireCount(3, 3);
+    return choose(booleans, arguments, 2);
+}
+
+platform::Value wholeDefault(const Arguments& arguments) {
+    arguments.requireCount(3, 3);
+    return arguments.integer(2);
+}
+
+platform::Value textDefault(const Arguments& arguments) {
+    return arguments.rest(2);
+}
+
+void setDefault(ScriptPlayer& player, const Arguments& arguments) {
+    static constexpr Choice<platform::Value (*)(const Arguments&)> types[] = {
+        {"bool", booleanDefault}, {"string", textDefault}, {"integer", wholeDefault}};
+    arguments.requireCount(2, 100);
+    Session& session = player.session();
+    if (session.application() != nullptr) badCommand("this comes while no copy of the application runs");
+    const bool isRemoval = arguments.count() == 2 && arguments.is(1, "none");
+    session.setDefault(arguments.text(0),
+                       isRemoval ? std::nullopt : std::optional(choose(types, arguments, 1)(arguments)));
+}
+
+void setInfo(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 100);
+    player.requireBeforeLaunch();
+    auto& info = player.session().image.info;
+    if (arguments.count() == 1) {
+        info.erase(arguments.text(0));
+    } else {
+        info[arguments.text(0)] = platform::Value(arguments.rest(1));
+    }
+}
+
+void startProcess(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    player.machine().launchServices.startOtherProcess(arguments.text(0));
+}
+
+void launchApplication(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(0, 1);
+    const std::string path = arguments.count() == 1 ? arguments.path(0) : std::string(installedCopy);
+    player.requirePath(path);
+    player.session().launch(path);
+}
+
+}  // namespace
+
+const std::vector<Command>& applicationCommands() {
+    static const std::vector<Command> table{
+        {"set-default", setDefault}, {"info", setInfo}, {"process", startProcess}, {"launch", launchApplication}};
+    return table;
+}
+
+}  // namespace play
