@@ -8,7 +8,6 @@
 
 #include "desk/display/LaidOutLine.h"
 #include "desk/display/ShapedText.h"
-#include "desk/display/Symbols.h"
 
 namespace desk {
 
@@ -105,7 +104,7 @@ std::string QtTextSystem::truncate(std::string_view text, platform::Font font, d
 }
 
 std::optional<platform::CGSize> QtTextSystem::symbolSize(std::string_view name, platform::Font font) {
-    return desk::symbolSize(name, font);
+    return symbols.size(name, font);
 }
 
 }  // namespace desk

@@ -10,6 +10,7 @@
 
 #include "desk/display/BoundedCache.h"
 #include "desk/display/LaidOutLine.h"
+#include "desk/display/SymbolSet.h"
 #include "desk/display/SystemFonts.h"
 #include "desk/display/TextKey.h"
 #include "platform/Text.h"
@@ -40,6 +41,7 @@ private:
     const LaidOutLine& laidOut(std::string_view text, platform::Font font);
 
     SystemFonts fonts;
+    SymbolSet symbols;
     std::unique_ptr<LaidOutLine> latest;  // at each key of a field its width, caret and selection are asked for
     std::unique_ptr<Clusters> clusters;
     BoundedCache<TextKey, double, TextHash, TextEqual> widths;

@@ -1,6 +1,5 @@
-// The outline of a rounded shape's corners. A continuous corner eases into its sides: a superellipse that reaches further along them than the
-// radius and meets the circle of that radius on the diagonal. Where the sides are too short for that it comes nearer to the circle, which a
-// capsule's ends are. Units are the caller's.
+// The corners of a rounded shape, in the caller's units. A continuous corner eases into its sides: it begins half as far again from the corner as a circular one, where the sides are
+// long enough, and meets it on the diagonal.
 #pragma once
 
 #include <QPainterPath>
@@ -11,8 +10,8 @@
 namespace desk {
 
 struct RoundedCorner {
-    double extent = 0;    // along each side; 0: a square corner
-    double exponent = 2;  // 2 is a circle
+    double radius = 0;  // 0: a square corner
+    double extent = 0;  // along each side
 
     static RoundedCorner of(QSizeF size, double radius, platform::CornerStyle style);
     QPainterPath path(const QRectF& rect) const;

@@ -41,7 +41,7 @@ QPen linePen(const QColor& color, double width) {
 
 std::size_t ShapePainter::TileHash::operator()(const Tile& tile) const {
     const std::hash<double> number;
-    return number(tile.corner.extent) * 31 + number(tile.corner.exponent) * 17 + number(tile.lineWidth) * 7 +
+    return number(tile.corner.radius) * 31 + number(tile.corner.extent) * 17 + number(tile.lineWidth) * 7 +
            tile.color * std::size_t{0x9e3779b9};
 }
 
@@ -62,7 +62,7 @@ void ShapePainter::fill(QPainter& painter, const QRectF& rect, double radius, pl
         painter.fillRect(*whole, color);
         return;
     }
-    drawCorners(painter, corners({corner, 0, color.rgba()}), *whole);
+    drawCorners(painter, {corner, 0, color.rgba()}, *whole);
     painter.fillRect(whole->adjusted(size, 0, -size, 0), color);
     painter.fillRect(QRect(whole->left(), whole->top() + size, size, whole->height() - 2 * size), color);
     painter.fillRect(QRect(whole->right() + 1 - size, whole->top() + size, size, whole->height() - 2 * size), color);
@@ -81,7 +81,7 @@ void ShapePainter::stroke(QPainter& painter, const QRectF& rect, double radius, 
         return;
     }
     const int width = static_cast<int>(std::lround(lineWidth));
-    drawCorners(painter, corners({corner, lineWidth, color.rgba()}), *outer);
+    drawCorners(painter, {corner, lineWidth, color.rgba()}, *outer);
     const QRect sides = outer->adjusted(0, size, 0, -size);
     const QRect lines = outer->adjusted(size, 0, -size, 0);
     painter.fillRect(QRect(sides.left(), sides.top(), width, sides.height()), color);
@@ -90,34 +90,31 @@ void ShapePainter::stroke(QPainter& painter, const QRectF& rect, double radius, 
     painter.fillRect(QRect(lines.left(), lines.bottom() + 1 - width, lines.width(), width), color);
 }
 
-const ShapePainter::Corners& ShapePainter::corners(const Tile& tile) {
-    if (const Corners* known = tiles.find(tile)) return *known;
-    const int size = tileSize(tile.corner, tile.lineWidth);
-    QImage topLeft(size, size, QImage::Format_ARGB32_Premultiplied);
-    topLeft.fill(Qt::transparent);
-    {
-        QPainter painter(&topLeft);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const double half = tile.lineWidth / 2;
-        const QPainterPath path = tile.corner.path(QRectF(half, half, 4.0 * size, 4.0 * size));
-        const QColor color = QColor::fromRgba(tile.color);
-        if (tile.lineWidth > 0)
-            painter.strokePath(path, linePen(color, tile.lineWidth));
-        else
-            painter.fillPath(path, color);
-    }
-    return tiles.insert(
-        tile, {topLeft, topLeft.mirrored(true, false), topLeft.mirrored(true, true), topLeft.mirrored(false, true)});
+QImage ShapePainter::drawn(const Tile& tile, int size) {
+    QImage image(2 * size, 2 * size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double half = tile.lineWidth / 2;
+    const QPainterPath path = tile.corner.path(QRectF(image.rect()).adjusted(half, half, -half, -half));
+    const QColor color = QColor::fromRgba(tile.color);
+    if (tile.lineWidth > 0)
+        painter.strokePath(path, linePen(color, tile.lineWidth));
+    else
+        painter.fillPath(path, color);
+    return image;
 }
 
-void ShapePainter::drawCorners(QPainter& painter, const Corners& images, const QRect& outer) {
-    const int size = images[0].width();
+void ShapePainter::drawCorners(QPainter& painter, const Tile& tile, const QRect& outer) {
+    const int size = tileSize(tile.corner, tile.lineWidth);
+    const QImage* corners = tiles.find(tile);
+    if (corners == nullptr) corners = &tiles.insert(tile, drawn(tile, size));
     const int right = outer.right() + 1 - size;
     const int bottom = outer.bottom() + 1 - size;
-    painter.drawImage(QPoint(outer.left(), outer.top()), images[0]);
-    painter.drawImage(QPoint(right, outer.top()), images[1]);
-    painter.drawImage(QPoint(right, bottom), images[2]);
-    painter.drawImage(QPoint(outer.left(), bottom), images[3]);
+    painter.drawImage(outer.left(), outer.top(), *corners, 0, 0, size, size);
+    painter.drawImage(right, outer.top(), *corners, size, 0, size, size);
+    painter.drawImage(right, bottom, *corners, size, size, size, size);
+    painter.drawImage(outer.left(), bottom, *corners, 0, size, size, size);
 }
 
 }  // namespace desk

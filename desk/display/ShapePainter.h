@@ -5,7 +5,6 @@
 #include <QColor>
 #include <QImage>
 #include <QRectF>
-#include <array>
 #include <cstddef>
 
 #include "desk/display/BoundedCache.h"
@@ -26,8 +25,6 @@ public:
                 const QColor& color);
 
 private:
-    // Clockwise from the top left.
-    using Corners = std::array<QImage, 4>;
     struct Tile {
         RoundedCorner corner;
         double lineWidth;  // 0: filled
@@ -39,10 +36,11 @@ private:
         std::size_t operator()(const Tile& tile) const;
     };
 
-    const Corners& corners(const Tile& tile);
-    static void drawCorners(QPainter& painter, const Corners& images, const QRect& outer);
+    static QImage drawn(const Tile& tile, int size);
+    // Copies the four corners of the tile's picture into those of the rectangle.
+    void drawCorners(QPainter& painter, const Tile& tile, const QRect& outer);
 
-    BoundedCache<Tile, Corners, TileHash, std::equal_to<>> tiles;
+    BoundedCache<Tile, QImage, TileHash, std::equal_to<>> tiles;
 };
 
 }  // namespace desk

@@ -6,8 +6,6 @@
 #include <string>
 #include <utility>
 
-#include "desk/display/Symbols.h"
-
 namespace desk {
 
 namespace {
@@ -51,13 +49,8 @@ TextPicture TextPictures::text(std::string_view text, platform::Font font, const
 
 QImage TextPictures::symbol(std::string_view name, platform::Font font, const QColor& color, double scale) {
     if (const QImage* known = symbols.find(TintedLookup{{name, font}, color.rgba(), scale})) return *known;
-    QImage image = symbolMask(name, font, scale);
-    if (!image.isNull()) {
-        QPainter tint(&image);
-        tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        tint.fillRect(image.rect(), color);
-    }
-    return symbols.insert({{std::string(name), font}, color.rgba(), scale}, std::move(image));
+    return symbols.insert({{std::string(name), font}, color.rgba(), scale},
+                          symbolSet.picture(name, font, color, scale));
 }
 
 const ShapedText& TextPictures::shaped(std::string_view text, platform::Font font) {

@@ -11,6 +11,7 @@
 
 #include "desk/display/BoundedCache.h"
 #include "desk/display/ShapedText.h"
+#include "desk/display/SymbolSet.h"
 #include "desk/display/SystemFonts.h"
 #include "desk/display/TextKey.h"
 #include "desk/display/TintedKey.h"
@@ -40,6 +41,7 @@ private:
     const ShapedText& shaped(std::string_view text, platform::Font font);
 
     SystemFonts fonts;
+    SymbolSet symbolSet;
     BoundedCache<TextKey, ShapedText, TextHash, TextEqual> lines;
     std::optional<std::pair<TextKey, ShapedText>> latestLong;
     BoundedCache<TintedKey, TextPicture, TintedHash, TintedEqual> texts;

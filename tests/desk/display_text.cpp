@@ -5,7 +5,7 @@
 
 #include "desk/display/BoundedCache.h"
 #include "desk/display/QtTextSystem.h"
-#include "desk/display/Symbols.h"
+#include "desk/display/SymbolSet.h"
 #include "tests/desk/display_Picture.h"
 
 namespace {
@@ -137,14 +137,15 @@ TEST(Truncation, CutsBetweenWholeCharacters) {
 }
 
 TEST(Symbol, IsAsLargeAsItSaysInEveryWeight) {
-    for (const std::string_view name : desk::symbolNames())
+    desk::SymbolSet symbols;
+    for (const std::string& name : desk::SymbolSet::names())
         for (const FontWeight weight : {FontWeight::regular, FontWeight::bold}) {
             const Font font{13, weight};
-            const auto size = desk::symbolSize(name, font);
+            const auto size = symbols.size(name, font);
             ASSERT_TRUE(size) << name;
             platform::Drawing drawing;
             drawing.operations.emplace_back(
-                platform::DrawSymbol{std::string(name), font, Color::of(ColorRole::black), CGRectMake(0, 0, 40, 40)});
+                platform::DrawSymbol{name, font, Color::of(ColorRole::black), CGRectMake(0, 0, 40, 40)});
             const QRect ink = picture::inked(picture::paint(drawing, {40, 40}));
             ASSERT_FALSE(ink.isEmpty()) << name;
             EXPECT_LE(ink.width(), 2 * size->width + 2) << name;
