@@ -109,7 +109,7 @@ View BreadcrumbView::ellipsisMenu(std::size_t hiddenCount) const {
                              .frame({.maxHeight = infinity})
                              .contentShape())
         .accessibilityIdentifier("ellipsis")
-        .fixedSize();
+        .fixedSize(true, false);
 }
 
 }  // namespace brindle

@@ -116,7 +116,11 @@ TEST_F(PathBarViewTest, FoldsWhatDoesNotFitBehindTheEllipsis) {
     // The row is 520 - 12 - 111 - 1 - 3 - 30 - 2 - 1 = 360 wide; Documents and Projects need 109 + 78 + 40.
     EXPECT_EQ(crumbs(), (std::vector<std::string>{"ana", "Documents", "Projects"}));
     ASSERT_TRUE(parts().ellipsis);
-    EXPECT_EQ(parts().ellipsis->minX(), 128);
+    // As high as the row: above and below its text it isn't the row's empty space.
+    const CGRect ellipsis = *parts().ellipsis;
+    EXPECT_EQ(ellipsis, CGRect({128, 6}, {ellipsis.width(), 32}));
+    click(CGPoint{ellipsis.midX(), 7});
+    EXPECT_EQ(log, std::vector<std::string>{});
     show("/Users/ana/Documents/Projects", 100);
     EXPECT_EQ(crumbs(), std::vector<std::string>{"Projects"});
     show("/Users/ana/Documents/Projects", 1200);
