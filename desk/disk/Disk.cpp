@@ -64,11 +64,8 @@ Disk::Disk() {
     const std::optional<std::string> folder = host::makeTemporaryFolder();
     if (!folder) throw std::runtime_error("no temporary folder can be made");
     temporaryFolder = *folder;
-    const std::pair<const char*, std::string> scratch[] = {{"/", "volume"},
-                                                           {"/tmp", "tmp"},
-                                                           {"/System", "system"},
-                                                           {"/Applications/Orvane.app", "application"},
-                                                           {"/Users/ana/Library/Preferences", "preferences"}};
+    const std::pair<const char*, std::string> scratch[] = {
+        {"/", "volume"}, {"/tmp", "tmp"}, {"/System", "system"}, {"/Applications/Orvane.app", "application"}};
     for (const auto& [path, name] : scratch) {
         host::makeFolders(temporaryFolder + "/" + name);
         setMount(path, temporaryFolder + "/" + name, true);

@@ -62,6 +62,7 @@ TEST_F(HostTree, NothingOutsideAMountIsReachedOrWritten) {
     link("outside", fresh);
     link("Users", base);
     ASSERT_EQ(disk.useAsStartupVolume(base + "/volume"), std::nullopt);
+    ASSERT_EQ(disk.mount("/Users/ana/Mounted", base + "/volume"), std::nullopt);
 
     for (const char* path : {"/absolute", "/climbing", "/climbing-deep", "/../secret", "/Work/../../secret",
                              "/Users/secret", "/Users/volume/Work", "/Users/ana/../secret"}) {
@@ -99,18 +100,15 @@ TEST_F(HostTree, ScratchFoldersAndMountsLieOverWhateverTheVolumeHas) {
     ASSERT_EQ(disk.useAsStartupVolume(base + "/volume"), std::nullopt);
     ASSERT_EQ(disk.mount("/Volumes/Data/", base + "/other"), std::nullopt);
 
-    EXPECT_EQ(names(disk, "/"),
-              (std::vector<std::string>{"Applications", "System", "Users", "Volumes", "Work", "tmp"}));
+    EXPECT_EQ(names(disk, "/"), (std::vector<std::string>{"Applications", "System", "Volumes", "Work", "tmp"}));
     EXPECT_EQ(names(disk, "/tmp"), std::vector<std::string>{});
     EXPECT_EQ(names(disk, "/Volumes"), std::vector<std::string>{"Data"});
     EXPECT_EQ(names(disk, "/Volumes/Data"), std::vector<std::string>{"Annual"});
-    EXPECT_EQ(names(disk, "/Users/ana"), std::vector<std::string>{"Library"});
     EXPECT_EQ(disk.hostPath("/Volumes"), std::nullopt);
     EXPECT_EQ(disk.hostPath("/Work"), base + "/volume/Work");
     EXPECT_EQ(disk.kind("/Applications/Orvane.app/Contents/Info.plist"), FileKind::file);
-    EXPECT_TRUE(disk.makeFile("/Users/ana/Library/Preferences/x.plist", "x"));
     EXPECT_FALSE(disk.remove("/tmp"));
-    EXPECT_FALSE(disk.remove("/Users"));
+    EXPECT_FALSE(disk.remove("/Volumes"));
     EXPECT_TRUE(disk.mount("/Volumes/None", base + "/missing").has_value());
     EXPECT_TRUE(disk.mount("relative", base).has_value());
     EXPECT_TRUE(disk.mount("/", base).has_value());
