@@ -62,6 +62,7 @@ double Displays::anchorMaxY() const {
 }
 
 CGRect Displays::topLeftRect(const CGRect& appKitRect) const {
+    if (list.empty()) return appKitRect;
     return CGRectMake(appKitRect.minX(), anchorMaxY() - appKitRect.maxY(), appKitRect.width(), appKitRect.height());
 }
 

@@ -32,7 +32,7 @@ public:
     // What the display was made with, in the order of screens().
     const std::vector<DisplayOptions>& options() const { return made; }
 
-    // The top-left space's anchor: maximum y of the screen at the origin, else of the first; 0 without any.
+    // The top-left space's anchor: maximum y of the screen at the origin, else of the first; 0 without any, when both spaces are one.
     double anchorMaxY() const;
     platform::CGRect topLeftRect(const platform::CGRect& appKitRect) const;
     platform::CGRect appKitRect(const platform::CGRect& topLeftRect) const;

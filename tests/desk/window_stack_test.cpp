@@ -119,7 +119,7 @@ TEST(DisplaysTest, TheScreenAtTheOriginAnchorsTopLeftSpaceAndElseTheFirst) {
     } cases[] = {{{CGRectMake(0, 0, 1440, 900)}, CGRectMake(100, 830, 30, 20)},
                  {{CGRectMake(-1920, 0, 1920, 1080), CGRectMake(0, 0, 1440, 900)}, CGRectMake(100, 830, 30, 20)},
                  {{CGRectMake(100, -200, 800, 600.25), CGRectMake(900, 0, 800, 800)}, CGRectMake(100, 330.25, 30, 20)},
-                 {{}, CGRectMake(100, -70, 30, 20)}};
+                 {{}, CGRectMake(100, 50, 30, 20)}};
     for (const auto& each : cases) {
         desk::Displays displays;
         displays.removeAll();
