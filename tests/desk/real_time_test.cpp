@@ -5,9 +5,11 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
+#include <thread>
 
 #include "desk/time/ApplicationLoop.h"
 #include "desk/time/WorkerQueue.h"
+#include "tests/desk/Probe.h"
 
 namespace {
 
@@ -139,6 +141,24 @@ TEST_F(InRealTime, EndTurnsAwayWhoWaitsAndWhoComesLater) {
     EXPECT_LT(atTheEnd, rounds);
     scheduler.settle();
     EXPECT_EQ(begun, atTheEnd);
+}
+
+// The thread sanitizer would see the main thread and the queue meet.
+TEST_F(InRealTime, ScriptsMayBeMadeWhileTheirApplicationEnds) {
+    kit::Desk whole;
+    kit::Probe& probe = kit::launchProbe(whole);
+    whole.machine.useRealTime(display);
+    const auto queue = probe.platform.dispatch.makeSerialQueue("scripts", platform::QualityOfService::standard);
+    std::atomic<bool> begun = false;
+    queue->async([&] {
+        for (int i = 0; i < 100 * rounds; ++i) {
+            const auto script = probe.platform.appleEvents.makeAppleScript("1");
+            begun = true;
+        }
+    });
+    while (!begun) std::this_thread::yield();
+    probe.platform.application.terminate();
+    EXPECT_TRUE(whole.machine.applications().front()->isDead());
 }
 
 TEST_F(InRealTime, DeskThatEndsLeavesEveryLoop) {
