@@ -31,6 +31,7 @@ Machine::Machine(platform::TextSystem& theText)
       text(theText),
       start(startOfStories) {
     subscriptions.push_back(processes.frontmostChanged.subscribe([this] { frontmostHasChanged(); }));
+    subscriptions.push_back(activation.keyboardTaken.subscribe([this] { input.makeKey(0); }));
     subscriptions.push_back(windows.spaceChanged.subscribe([this] { spaceHasChanged(); }));
     finder.launch();
     processes.activate(finder.pid());

@@ -54,11 +54,8 @@ std::vector<std::string> FinderScriptHost::selection() {
     return identifiers.empty() ? std::vector<std::string>() : finder.find(identifiers.front())->selection;
 }
 
-// In front already, it is left as it is: what stands between its windows goes on standing there.
 void FinderScriptHost::activate() {
-    const Process* frontmost = neighbours.processes.frontmost();
-    if (frontmost != nullptr && frontmost->processIdentifier == finder.pid()) return;
-    neighbours.activation.activate(finder.pid(), true);
+    neighbours.activation.activateItself(finder.pid());
 }
 
 std::variant<std::int64_t, applescript::ScriptError> FinderScriptHost::openWindow(

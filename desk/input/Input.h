@@ -57,7 +57,7 @@ public:
     void keyUp(const KeyStroke& stroke);
 
     // The window that has the keyboard, of a launched application; 0 when keys go to the frontmost application. A panel that has become key keeps the keyboard until a mouse down in
-    // another process's window, another key window of its own process, a change of the frontmost application, or being ordered out.
+    // another process's window, another key window of its own process, a change of the frontmost application, being ordered out, or Finder's own `activate`, which a script sends.
     std::int64_t keyWindow() const { return key; }
     void makeKey(std::int64_t window);
     void windowOrderedOut(std::int64_t window);

@@ -26,6 +26,12 @@ void Activation::activate(std::int32_t processIdentifier, bool allWindows) {
     if (!wasFrontmost && shown != nullptr && shown->window != nullptr) shown->window->makeKeyWindow();
 }
 
+void Activation::activateItself(std::int32_t processIdentifier) {
+    const Process* frontmost = processes.frontmost();
+    if (frontmost == nullptr || frontmost->processIdentifier != processIdentifier) activate(processIdentifier, true);
+    keyboardTaken();
+}
+
 std::int64_t Activation::mainWindow(std::int32_t processIdentifier) const {
     for (const ServerWindow* window : windows.onScreen())
         if (window->owner == processIdentifier && window->canBeMain()) return window->number;

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/Signal.h"
+
 namespace desk {
 
 class Processes;
@@ -17,6 +19,12 @@ public:
     bool activate(const std::string& bundleIdentifier);
     // `allWindows` false brings only the main window forward. A process that doesn't run is ignored.
     void activate(std::int32_t processIdentifier, bool allWindows);
+    // At the process's own request, as a script's `activate` has it: the keyboard becomes its front window's in any case. In front already, its windows are left as they are:
+    // what stands between them goes on standing there.
+    void activateItself(std::int32_t processIdentifier);
+
+    // A window of another process no longer has the keyboard, though the frontmost process may be the same as before.
+    platform::Signal<> keyboardTaken;
 
 private:
     // 0 when the process has no window on screen that can be main.
