@@ -1,8 +1,10 @@
 #include "desk/ports/AccessibilityPort.h"
 
-#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
 #include "desk/finder/FinderAccessibility.h"
 #include "desk/ports/ObserverPort.h"
+#include "desk/processes/LaunchedApplication.h"
+#include "desk/processes/Permissions.h"
 
 namespace desk {
 
@@ -10,7 +12,7 @@ using platform::AXError;
 using platform::AXUIElement;
 
 bool AccessibilityPort::AXIsProcessTrusted() {
-    return machine.permissions.accessibility;
+    return permissions.accessibility;
 }
 
 AXUIElement AccessibilityPort::AXUIElementCreateApplication(std::int32_t processIdentifier) {
@@ -20,34 +22,34 @@ AXUIElement AccessibilityPort::AXUIElementCreateApplication(std::int32_t process
 std::optional<platform::AXAttributeValue> AccessibilityPort::AXUIElementCopyAttributeValue(const AXUIElement& element,
                                                                                            std::string_view attribute) {
     if (refusal(element) != AXError::success) return std::nullopt;
-    return machine.finder.accessibility().copyAttribute(element, attribute);
+    return finder.accessibility().copyAttribute(element, attribute);
 }
 
 AXError AccessibilityPort::AXUIElementSetAttributeValue(const AXUIElement& element, std::string_view attribute,
                                                         const platform::AXAttributeValue& value) {
     const AXError refused = refusal(element);
-    return refused != AXError::success ? refused
-                                       : machine.finder.accessibility().setAttribute(element, attribute, value);
+    return refused != AXError::success ? refused : finder.accessibility().setAttribute(element, attribute, value);
 }
 
 AXError AccessibilityPort::AXUIElementPerformAction(const AXUIElement& element, std::string_view action) {
     const AXError refused = refusal(element);
-    return refused != AXError::success ? refused : machine.finder.accessibility().performAction(element, action);
+    return refused != AXError::success ? refused : finder.accessibility().performAction(element, action);
 }
 
 std::unique_ptr<platform::AXObserver> AccessibilityPort::AXObserverCreate(std::int32_t processIdentifier,
                                                                           platform::AXObserverCallback callback) {
     if (application.isDead() || !isFinder(processIdentifier) || callback == nullptr) return nullptr;
-    return std::make_unique<ObserverPort>(machine, application.loop(), processIdentifier, callback, subscriptions);
+    return std::make_unique<ObserverPort>(finder, permissions, application.loop(), processIdentifier, callback,
+                                          subscriptions);
 }
 
 AXError AccessibilityPort::refusal(const AXUIElement& element) const {
-    if (!machine.permissions.accessibility || application.isDead()) return AXError::apiDisabled;
+    if (!permissions.accessibility || application.isDead()) return AXError::apiDisabled;
     return isFinder(element.processIdentifier) ? AXError::success : AXError::cannotComplete;
 }
 
 bool AccessibilityPort::isFinder(std::int32_t processIdentifier) const {
-    return machine.finder.isRunning() && machine.finder.pid() == processIdentifier;
+    return finder.isRunning() && finder.pid() == processIdentifier;
 }
 
 }  // namespace desk

@@ -9,13 +9,14 @@
 
 namespace desk {
 
+class Finder;
 class LaunchedApplication;
-class Machine;
+struct Permissions;
 
 class AccessibilityPort final : public platform::Accessibility {
 public:
-    AccessibilityPort(Machine& theMachine, LaunchedApplication& theApplication)
-        : machine(theMachine), application(theApplication) {}
+    AccessibilityPort(Finder& theFinder, Permissions& thePermissions, LaunchedApplication& theApplication)
+        : finder(theFinder), permissions(thePermissions), application(theApplication) {}
 
     bool AXIsProcessTrusted() override;
     platform::AXUIElement AXUIElementCreateApplication(std::int32_t processIdentifier) override;
@@ -34,7 +35,8 @@ private:
     platform::AXError refusal(const platform::AXUIElement& element) const;
     bool isFinder(std::int32_t processIdentifier) const;
 
-    Machine& machine;
+    Finder& finder;
+    Permissions& permissions;
     LaunchedApplication& application;
     std::shared_ptr<std::size_t> subscriptions = std::make_shared<std::size_t>(0);  // of all observers
 };

@@ -1,11 +1,11 @@
 #include "desk/ports/AppleEventsPort.h"
 
-#include "desk/Machine.h"
+#include "desk/finder/FinderScripting.h"
 
 namespace desk {
 
 std::unique_ptr<platform::NSAppleScript> AppleEventsPort::makeAppleScript(const std::string& source) {
-    return machine.scripting.makeScript(application, source);
+    return scripting.makeScript(application, source);
 }
 
 }  // namespace desk

@@ -5,17 +5,17 @@
 
 namespace desk {
 
+class FinderScripting;
 class LaunchedApplication;
-class Machine;
 
 class AppleEventsPort final : public platform::AppleEvents {
 public:
-    AppleEventsPort(Machine& theMachine, LaunchedApplication& theApplication)
-        : machine(theMachine), application(theApplication) {}
+    AppleEventsPort(FinderScripting& theScripting, LaunchedApplication& theApplication)
+        : scripting(theScripting), application(theApplication) {}
     std::unique_ptr<platform::NSAppleScript> makeAppleScript(const std::string& source) override;
 
 private:
-    Machine& machine;
+    FinderScripting& scripting;
     LaunchedApplication& application;
 };
 

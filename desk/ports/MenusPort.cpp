@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/menus/MenuLayer.h"
+#include "desk/processes/LaunchedApplication.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -28,30 +30,31 @@ private:
 
 class PopoverHandlePort final : public platform::PopoverHandle {
 public:
-    PopoverHandlePort(Machine& theMachine, platform::NSWindow& window, OpenPopover thePopover)
-        : machine(theMachine), popover(std::make_shared<OpenPopover>(std::move(thePopover))) {
+    PopoverHandlePort(MenuLayer& theMenus, WindowStack& theWindows, platform::NSWindow& window, OpenPopover thePopover)
+        : menus(theMenus), windows(theWindows), popover(std::make_shared<OpenPopover>(std::move(thePopover))) {
         popover->window = window.windowNumber();
     }
-    ~PopoverHandlePort() override { machine.menus.hide(*popover); }
+    ~PopoverHandlePort() override { menus.hide(*popover); }
     PopoverHandlePort(const PopoverHandlePort&) = delete;
     PopoverHandlePort& operator=(const PopoverHandlePort&) = delete;
 
     void show() {
         popover->content->setOnScreen(true);
-        machine.menus.show(popover);
+        menus.show(popover);
     }
     void update(const CGRect& anchor, CGSize contentSize) override {
-        const ServerWindow* window = machine.windows.find(popover->window);
+        const ServerWindow* window = windows.find(popover->window);
         if (window == nullptr) return;
-        const CGSize most = machine.menus.mostContent(anchor);
+        const CGSize most = menus.mostContent(anchor);
         popover->anchor = CGRectOffset(anchor, -window->frame.minX(), -window->frame.minY());
         popover->contentSize = {std::min(contentSize.width, most.width), std::min(contentSize.height, most.height)};
         popover->content->setSize(popover->contentSize);
-        machine.windows.changed();
+        windows.changed();
     }
 
 private:
-    Machine& machine;
+    MenuLayer& menus;
+    WindowStack& windows;
     const std::shared_ptr<OpenPopover> popover;
 };
 
@@ -60,15 +63,15 @@ private:
 std::unique_ptr<platform::MenuHandle> MenusPort::popUpBelow(const CGRect& anchor,
                                                             std::vector<platform::MenuItem> items) {
     if (application.isDead()) items.clear();
-    const std::uint64_t number = machine.menus.openBelow(application.processIdentifier(), anchor, std::move(items));
-    return std::make_unique<MenuHandlePort>(machine.menus, number);
+    const std::uint64_t number = menus.openBelow(application.processIdentifier(), anchor, std::move(items));
+    return std::make_unique<MenuHandlePort>(menus, number);
 }
 
 std::unique_ptr<platform::MenuHandle> MenusPort::popUpAt(const platform::CGPoint& point,
                                                          std::vector<platform::MenuItem> items) {
     if (application.isDead()) items.clear();
-    const std::uint64_t number = machine.menus.openAt(application.processIdentifier(), point, std::move(items));
-    return std::make_unique<MenuHandlePort>(machine.menus, number);
+    const std::uint64_t number = menus.openAt(application.processIdentifier(), point, std::move(items));
+    return std::make_unique<MenuHandlePort>(menus, number);
 }
 
 std::unique_ptr<platform::PopoverHandle> MenusPort::showPopover(platform::NSWindow& window, const CGRect& anchor,
@@ -80,7 +83,7 @@ std::unique_ptr<platform::PopoverHandle> MenusPort::showPopover(platform::NSWind
     popover.arrowEdge = arrowEdge;
     popover.content = std::move(content);
     popover.onDismiss = std::move(onDismiss);
-    auto handle = std::make_unique<PopoverHandlePort>(machine, window, std::move(popover));
+    auto handle = std::make_unique<PopoverHandlePort>(menus, windows, window, std::move(popover));
     handle->update(anchor, contentSize);
     if (!application.isDead()) handle->show();
     return handle;

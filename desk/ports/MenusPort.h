@@ -8,12 +8,13 @@
 namespace desk {
 
 class LaunchedApplication;
-class Machine;
+class MenuLayer;
+class WindowStack;
 
 class MenusPort final : public platform::Menus {
 public:
-    MenusPort(Machine& theMachine, LaunchedApplication& theApplication)
-        : machine(theMachine), application(theApplication) {}
+    MenusPort(MenuLayer& theMenus, WindowStack& theWindows, LaunchedApplication& theApplication)
+        : menus(theMenus), windows(theWindows), application(theApplication) {}
 
     std::unique_ptr<platform::MenuHandle> popUpBelow(const platform::CGRect& anchor,
                                                      std::vector<platform::MenuItem> items) override;
@@ -26,7 +27,8 @@ public:
                                                          std::function<void()> onDismiss) override;
 
 private:
-    Machine& machine;
+    MenuLayer& menus;
+    WindowStack& windows;
     LaunchedApplication& application;
 };
 

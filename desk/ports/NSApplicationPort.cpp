@@ -1,17 +1,19 @@
 #include "desk/ports/NSApplicationPort.h"
 
-#include "desk/Machine.h"
+#include "desk/processes/Activation.h"
+#include "desk/processes/LaunchedApplication.h"
+#include "desk/processes/Processes.h"
 
 namespace desk {
 
 void NSApplicationPort::setActivationPolicy(platform::NSApplicationActivationPolicy policy) {
-    machine.processes.setPolicy(application.processIdentifier(), policy);
+    processes.setPolicy(application.processIdentifier(), policy);
 }
 
 void NSApplicationPort::activate(bool ignoringOtherApps) {
     if (application.isDead()) return;
-    if (!ignoringOtherApps && machine.processes.frontmost() != nullptr) return;
-    machine.activation.activate(application.processIdentifier(), false);
+    if (!ignoringOtherApps && processes.frontmost() != nullptr) return;
+    activation.activate(application.processIdentifier(), false);
 }
 
 void NSApplicationPort::terminate() {

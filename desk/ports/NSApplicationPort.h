@@ -5,13 +5,14 @@
 
 namespace desk {
 
+class Activation;
 class LaunchedApplication;
-class Machine;
+class Processes;
 
 class NSApplicationPort final : public platform::NSApplication {
 public:
-    NSApplicationPort(Machine& theMachine, LaunchedApplication& theApplication)
-        : machine(theMachine), application(theApplication) {}
+    NSApplicationPort(Processes& theProcesses, Activation& theActivation, LaunchedApplication& theApplication)
+        : processes(theProcesses), activation(theActivation), application(theApplication) {}
 
     void setActivationPolicy(platform::NSApplicationActivationPolicy policy) override;
     void activate(bool ignoringOtherApps) override;
@@ -20,7 +21,8 @@ public:
                                                            platform::NSRunLoopMode mode, bool dequeue) override;
 
 private:
-    Machine& machine;
+    Processes& processes;
+    Activation& activation;
     LaunchedApplication& application;
 };
 

@@ -3,35 +3,38 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
 #include "desk/finder/FinderAccessibility.h"
+#include "desk/processes/Permissions.h"
+#include "desk/time/ApplicationLoop.h"
 
 namespace desk {
 
 using platform::AXError;
 using platform::AXUIElement;
 
-ObserverPort::ObserverPort(Machine& theMachine, ApplicationLoop& theLoop, std::int32_t theProcessIdentifier,
-                           platform::AXObserverCallback theCallback, std::shared_ptr<std::size_t> theCount)
-    : machine(theMachine),
+ObserverPort::ObserverPort(Finder& theFinder, Permissions& thePermissions, ApplicationLoop& theLoop,
+                           std::int32_t theProcessIdentifier, platform::AXObserverCallback theCallback,
+                           std::shared_ptr<std::size_t> theCount)
+    : finder(theFinder),
+      permissions(thePermissions),
       loop(theLoop),
       processIdentifier(theProcessIdentifier),
       callback(theCallback),
       count(std::move(theCount)),
-      listener(theMachine.finder.accessibility().subscribe(
-          [this](const AXUIElement& element, const std::string& notification) {
-              if (match(element, notification) == nullptr) return;
-              loop.mainAsync(lifetime.guard([this, element, notification] { deliver(element, notification); }));
-          })) {}
+      listener(theFinder.accessibility().subscribe([this](const AXUIElement& element, const std::string& notification) {
+          if (match(element, notification) == nullptr) return;
+          loop.mainAsync(lifetime.guard([this, element, notification] { deliver(element, notification); }));
+      })) {}
 
 ObserverPort::~ObserverPort() {
-    machine.finder.accessibility().unsubscribe(listener);
+    finder.accessibility().unsubscribe(listener);
     *count -= subscriptions.size();
 }
 
 AXError ObserverPort::AXObserverAddNotification(const AXUIElement& element, std::string_view notification,
                                                 void* context) {
-    if (!machine.permissions.accessibility) return AXError::apiDisabled;
+    if (!permissions.accessibility) return AXError::apiDisabled;
     if (element.processIdentifier != processIdentifier) return AXError::invalidUIElement;
     const bool isRegistered =
         std::any_of(subscriptions.begin(), subscriptions.end(), [&](const Subscription& subscription) {
@@ -63,7 +66,7 @@ const ObserverPort::Subscription* ObserverPort::match(const AXUIElement& element
 
 void ObserverPort::deliver(const AXUIElement& element, const std::string& notification) {
     const Subscription* subscription = match(element, notification);
-    if (subscription == nullptr || !machine.permissions.accessibility) return;
+    if (subscription == nullptr || !permissions.accessibility) return;
     callback(*this, element, notification, subscription->context);
 }
 

@@ -13,12 +13,14 @@
 namespace desk {
 
 class ApplicationLoop;
-class Machine;
+class Finder;
+struct Permissions;
 
 class ObserverPort final : public platform::AXObserver {
 public:
-    ObserverPort(Machine& theMachine, ApplicationLoop& theLoop, std::int32_t theProcessIdentifier,
-                 platform::AXObserverCallback theCallback, std::shared_ptr<std::size_t> theCount);
+    ObserverPort(Finder& theFinder, Permissions& thePermissions, ApplicationLoop& theLoop,
+                 std::int32_t theProcessIdentifier, platform::AXObserverCallback theCallback,
+                 std::shared_ptr<std::size_t> theCount);
     ~ObserverPort() override;
 
     platform::AXError AXObserverAddNotification(const platform::AXUIElement& element, std::string_view notification,
@@ -38,7 +40,8 @@ private:
     const Subscription* match(const platform::AXUIElement& element, const std::string& notification) const;
     void deliver(const platform::AXUIElement& element, const std::string& notification);
 
-    Machine& machine;
+    Finder& finder;
+    Permissions& permissions;
     ApplicationLoop& loop;
     std::int32_t processIdentifier;
     platform::AXObserverCallback callback;

@@ -2,7 +2,10 @@
 
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/finder/Finder.h"
+#include "desk/processes/Faults.h"
+#include "desk/windows/Displays.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -15,12 +18,12 @@ using platform::Value;
 constexpr int desktopIconLevel = -2147483603;
 constexpr std::int64_t desktopWindowNumber = 2;
 
-ServerWindow desktopOf(const Machine& machine) {
+ServerWindow desktopOf(const Finder& finder, const Displays& displays) {
     ServerWindow desktop;
     desktop.number = desktopWindowNumber;
-    desktop.owner = machine.finder.pid();
+    desktop.owner = finder.pid();
     desktop.level = desktopIconLevel;
-    for (const auto& options : machine.displays.options()) {
+    for (const auto& options : displays.options()) {
         desktop.frame = options.frame;
         break;
     }
@@ -44,11 +47,11 @@ void applyFaults(Dictionary& entry, const Faults& faults, std::int64_t window) {
 Value WindowServerPort::CGWindowListCopyWindowInfo(std::uint32_t option, std::int64_t /*relativeToWindow*/) {
     const bool onScreenOnly = (option & platform::kCGWindowListOptionOnScreenOnly) != 0;
     const bool withDesktop = (option & platform::kCGWindowListExcludeDesktopElements) == 0;
-    const auto windows = onScreenOnly ? machine.windows.onScreen() : machine.windows.all();
+    const auto listed = onScreenOnly ? windows.onScreen() : windows.all();
     platform::Array entries;
-    entries.reserve(windows.size() + 1);
-    for (const ServerWindow* window : windows) entries.emplace_back(describe(*window));
-    if (withDesktop && machine.finder.isRunning()) entries.emplace_back(describe(desktopOf(machine)));
+    entries.reserve(listed.size() + 1);
+    for (const ServerWindow* window : listed) entries.emplace_back(describe(*window));
+    if (withDesktop && finder.isRunning()) entries.emplace_back(describe(desktopOf(finder, displays)));
     return entries;
 }
 
@@ -57,9 +60,9 @@ Dictionary WindowServerPort::describe(const ServerWindow& window) const {
                      {platform::kCGWindowOwnerPID, std::int64_t{window.owner}},
                      {platform::kCGWindowLayer, std::int64_t{window.level}},
                      {platform::kCGWindowBounds,
-                      platform::CGRectCreateDictionaryRepresentation(machine.displays.topLeftRect(window.frame))}};
+                      platform::CGRectCreateDictionaryRepresentation(displays.topLeftRect(window.frame))}};
     if (!window.title.empty()) entry.emplace(platform::kCGWindowName, window.title);
-    if (machine.faults.hasWindowListFaults()) applyFaults(entry, machine.faults, window.number);
+    if (faults.hasWindowListFaults()) applyFaults(entry, faults, window.number);
     return entry;
 }
 

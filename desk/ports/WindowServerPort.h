@@ -5,18 +5,25 @@
 
 namespace desk {
 
-class Machine;
+class Displays;
+class Finder;
+class WindowStack;
+struct Faults;
 struct ServerWindow;
 
 class WindowServerPort final : public platform::WindowServer {
 public:
-    explicit WindowServerPort(Machine& theMachine) : machine(theMachine) {}
+    explicit WindowServerPort(WindowStack& theWindows, Displays& theDisplays, Finder& theFinder, Faults& theFaults)
+        : windows(theWindows), displays(theDisplays), finder(theFinder), faults(theFaults) {}
     platform::Value CGWindowListCopyWindowInfo(std::uint32_t option, std::int64_t relativeToWindow) override;
 
 private:
     platform::Dictionary describe(const ServerWindow& window) const;
 
-    Machine& machine;
+    WindowStack& windows;
+    Displays& displays;
+    Finder& finder;
+    Faults& faults;
 };
 
 }  // namespace desk

@@ -2,7 +2,10 @@
 
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/processes/Activation.h"
+#include "desk/processes/LaunchServices.h"
+#include "desk/processes/LaunchedApplication.h"
+#include "desk/processes/Processes.h"
 
 namespace desk {
 
@@ -14,12 +17,12 @@ NSRunningApplication WorkspacePort::describe(const Process& process) {
 
 std::vector<NSRunningApplication> WorkspacePort::runningApplications() {
     std::vector<NSRunningApplication> all;
-    for (const Process& process : machine.processes.running()) all.push_back(describe(process));
+    for (const Process& process : processes.running()) all.push_back(describe(process));
     return all;
 }
 
 std::optional<NSRunningApplication> WorkspacePort::frontmostApplication() {
-    const Process* process = machine.processes.frontmost();
+    const Process* process = processes.frontmost();
     if (process == nullptr) return std::nullopt;
     return describe(*process);
 }
@@ -29,9 +32,9 @@ std::int32_t WorkspacePort::currentProcessIdentifier() const {
 }
 
 bool WorkspacePort::activate(std::int32_t processIdentifier, unsigned options) {
-    if (application.isDead() || machine.processes.find(processIdentifier) == nullptr) return false;
-    machine.activation.activate(processIdentifier,
-                                (options & platform::NSApplicationActivationOptions::activateAllWindows) != 0);
+    if (application.isDead() || processes.find(processIdentifier) == nullptr) return false;
+    activation.activate(processIdentifier,
+                        (options & platform::NSApplicationActivationOptions::activateAllWindows) != 0);
     return true;
 }
 
@@ -40,7 +43,7 @@ platform::Token WorkspacePort::addObserver(platform::WorkspaceNotification notif
 }
 
 void WorkspacePort::openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) {
-    if (!application.isDead()) machine.launchServices.openFiles(filePaths, applicationPath);
+    if (!application.isDead()) launchServices.openFiles(filePaths, applicationPath);
 }
 
 void WorkspacePort::notify(platform::WorkspaceNotification notification) const {

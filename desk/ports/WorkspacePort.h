@@ -11,14 +11,20 @@
 
 namespace desk {
 
+class Activation;
+class LaunchServices;
 class LaunchedApplication;
-class Machine;
+class Processes;
 struct Process;
 
 class WorkspacePort final : public platform::Workspace {
 public:
-    WorkspacePort(Machine& theMachine, LaunchedApplication& theApplication)
-        : machine(theMachine), application(theApplication) {}
+    WorkspacePort(Processes& theProcesses, Activation& theActivation, LaunchServices& theLaunchServices,
+                  LaunchedApplication& theApplication)
+        : processes(theProcesses),
+          activation(theActivation),
+          launchServices(theLaunchServices),
+          application(theApplication) {}
 
     std::vector<platform::NSRunningApplication> runningApplications() override;
     std::optional<platform::NSRunningApplication> frontmostApplication() override;
@@ -39,7 +45,9 @@ private:
 
     platform::NSRunningApplication describe(const Process& process);
 
-    Machine& machine;
+    Processes& processes;
+    Activation& activation;
+    LaunchServices& launchServices;
     LaunchedApplication& application;
     Registry<Observer> observers;
 };

@@ -35,14 +35,14 @@ std::string ApplicationImage::domain(const std::string& bundlePath) const {
 
 struct LaunchedApplication::Ports {
     Ports(Machine& machine, LaunchedApplication& self, const ApplicationImage& image)
-        : workspace(machine, self),
-          windowServer(machine),
-          accessibility(machine, self),
-          appleEvents(machine, self),
+        : workspace(machine.processes, machine.activation, machine.launchServices, self),
+          windowServer(machine.windows, machine.displays, machine.finder, machine.faults),
+          accessibility(machine.finder, machine.permissions, self),
+          appleEvents(machine.scripting, self),
           events(machine.input),
-          application(machine, self),
+          application(machine.processes, machine.activation, self),
           windows(machine, self),
-          menus(machine, self),
+          menus(machine.menus, machine.windows, self),
           files(machine.disk),
           defaults(machine.defaults[image.domain(self.bundlePath())], self),
           bundle(image.identifier(), self.bundlePath()),
