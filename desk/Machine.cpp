@@ -1,11 +1,8 @@
 #include "desk/Machine.h"
 
 #include <algorithm>
-#include <iterator>
-#include <utility>
 
-#include "desk/processes/KnownApplications.h"
-#include "platform/FileURL.h"
+#include "desk/ports/ApplicationPorts.h"
 
 namespace desk {
 
@@ -29,6 +26,10 @@ Machine::Machine(platform::TextSystem& theText)
       finder(neighboursOfFinder()),
       scripting(finder, neighboursOfFinder()),
       text(theText),
+      applications(scheduler, processes,
+                   [this](LaunchedApplication& application, const ApplicationImage& image) {
+                       return makePorts(application, image);
+                   }),
       start(startOfStories) {
     subscriptions.push_back(processes.frontmostChanged.subscribe([this] { frontmostHasChanged(); }));
     subscriptions.push_back(activation.keyboardTaken.subscribe([this] { input.makeKey(0); }));
@@ -41,43 +42,24 @@ FinderNeighbours Machine::neighboursOfFinder() {
     return {scheduler, disk, displays, windows, processes, permissions, faults, activation, launchServices};
 }
 
-Machine::~Machine() {
-    while (!running.empty()) running.pop_back();
+std::unique_ptr<ApplicationBackend> Machine::makePorts(LaunchedApplication& application,
+                                                       const ApplicationImage& image) {
+    const PortNeighbours neighbours{clock,          disk,       displays,    windows,   processes, activation,
+                                    launchServices, faults,     permissions, input,     menus,     finder,
+                                    scripting,      appearance, defaults,    clipboard, text};
+    return std::make_unique<ApplicationPorts>(neighbours, application, image);
 }
 
-LaunchedApplication& Machine::launch(const std::string& bundlePath, const ApplicationImage& image,
-                                     const ProgramFactory& factory) {
-    Process process;
-    process.bundleIdentifier = image.identifier();
-    process.bundlePath = bundlePath;
-    process.name = image.name;
-    process.hasOwnProgram = true;
-    const std::int32_t pid = processes.add(std::move(process));
-    running.push_back(std::make_unique<LaunchedApplication>(*this, bundlePath, image, pid));
-    LaunchedApplication& launched = *running.back();
-    launched.start(factory);
-    return launched;
-}
-
-LaunchedApplication* Machine::application(std::int32_t processIdentifier) const {
-    const auto found = std::find_if(running.begin(), running.end(), [&](const auto& candidate) {
-        return candidate->processIdentifier() == processIdentifier && !candidate->isDead();
-    });
-    return found == running.end() ? nullptr : found->get();
-}
+Machine::~Machine() = default;
 
 void Machine::frontmostHasChanged() {
     input.frontmostChanged();
-    if (processes.frontmost() != nullptr) notifyApplications(platform::WorkspaceNotification::didActivateApplication);
+    if (processes.frontmost() != nullptr) applications.notify(platform::WorkspaceNotification::didActivateApplication);
 }
 
 void Machine::spaceHasChanged() {
     menus.closeMenu();
-    notifyApplications(platform::WorkspaceNotification::activeSpaceDidChange);
-}
-
-void Machine::notifyApplications(platform::WorkspaceNotification notification) {
-    for (const auto& launched : running) launched->postWorkspaceNotification(notification);
+    applications.notify(platform::WorkspaceNotification::activeSpaceDidChange);
 }
 
 void Machine::useRealTime(RealTime& realTime) {
@@ -87,12 +69,12 @@ void Machine::useRealTime(RealTime& realTime) {
 
 void Machine::settle() {
     scheduler.settle();
-    reap();
+    applications.reap();
 }
 
 void Machine::advance(platform::Duration duration) {
     scheduler.advance(duration);
-    reap();
+    applications.reap();
 }
 
 double Machine::secondsSinceStart() const {
@@ -101,9 +83,10 @@ double Machine::secondsSinceStart() const {
 
 std::optional<SystemAlert> Machine::alert() const {
     if (!permissions.automationPromptIsUp) return std::nullopt;
-    const auto sender =
-        std::find_if(running.begin(), running.end(), [](const auto& candidate) { return !candidate->isDead(); });
-    const Process* process = sender == running.end() ? nullptr : processes.find((*sender)->processIdentifier());
+    const auto sender = std::find_if(applications.all().begin(), applications.all().end(),
+                                     [](const auto& candidate) { return !candidate->isDead(); });
+    const Process* process =
+        sender == applications.all().end() ? nullptr : processes.find((*sender)->processIdentifier());
     const std::string name = process == nullptr ? "An application" : "“" + process->name + "”";
     return SystemAlert{name +
                            " wants access to control “Finder”. Allowing control will provide access to documents and "
@@ -117,15 +100,6 @@ bool Machine::pressAlertButton(const std::string& label) {
     permissions.automationPromptIsUp = false;
     permissions.setAutomation(label == allow ? AutomationPermission::allowed : AutomationPermission::denied);
     return true;
-}
-
-void Machine::reap() {
-    // Out of the list first: what an application does while it goes may look at the others.
-    const auto isAlive = [](const auto& launched) { return !launched->isDead() || launched->isOnStack(); };
-    const auto firstGone = std::stable_partition(running.begin(), running.end(), isAlive);
-    std::vector<std::unique_ptr<LaunchedApplication>> gone(std::make_move_iterator(firstGone),
-                                                           std::make_move_iterator(running.end()));
-    running.erase(firstGone, running.end());
 }
 
 }  // namespace desk

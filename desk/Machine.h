@@ -16,9 +16,9 @@
 #include "desk/menus/MenuLayer.h"
 #include "desk/menus/ToolTips.h"
 #include "desk/processes/Activation.h"
+#include "desk/processes/Applications.h"
 #include "desk/processes/Faults.h"
 #include "desk/processes/LaunchServices.h"
-#include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Permissions.h"
 #include "desk/processes/Processes.h"
 #include "desk/time/Scheduler.h"
@@ -58,12 +58,7 @@ public:
     std::map<std::string, platform::Dictionary> defaults;
     std::optional<std::string> clipboard;
     platform::TextSystem& text;
-
-    // Starts a copy; its launch callbacks run when the machine next settles.
-    LaunchedApplication& launch(const std::string& bundlePath, const ApplicationImage& image,
-                                const ProgramFactory& factory);
-    const std::vector<std::unique_ptr<LaunchedApplication>>& applications() const { return running; }
-    LaunchedApplication* application(std::int32_t processIdentifier) const;
+    Applications applications;
 
     // From now on its time is the host's; see Scheduler.
     void useRealTime(RealTime& realTime);
@@ -75,18 +70,14 @@ public:
     std::optional<SystemAlert> alert() const;
     bool pressAlertButton(const std::string& label);
 
-    // Destroys applications that have terminated and have no call on the stack.
-    void reap();
-
 private:
-    void notifyApplications(platform::WorkspaceNotification notification);
     FinderNeighbours neighboursOfFinder();
+    std::unique_ptr<ApplicationBackend> makePorts(LaunchedApplication& application, const ApplicationImage& image);
     void frontmostHasChanged();
     void spaceHasChanged();
 
     platform::Date start;
     std::vector<platform::Token> subscriptions;
-    std::vector<std::unique_ptr<LaunchedApplication>> running;
 };
 
 }  // namespace desk

@@ -28,8 +28,8 @@ Session::~Session() = default;
 
 void Session::launch(const std::string& bundlePath) {
     launched = true;
-    machine.launch(bundlePath, image,
-                   [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
+    machine.applications.launch(bundlePath, image,
+                                [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
 }
 
 const platform::Dictionary& Session::defaults() {
@@ -45,7 +45,7 @@ void Session::setDefault(const std::string& key, const std::optional<platform::V
 }
 
 desk::LaunchedApplication* Session::application() const {
-    const auto& all = machine.applications();
+    const auto& all = machine.applications.all();
     for (auto entry = all.rbegin(); entry != all.rend(); ++entry)
         if (!(*entry)->isDead() && (*entry)->program() != nullptr) return entry->get();
     return nullptr;

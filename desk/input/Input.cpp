@@ -167,7 +167,7 @@ bool Input::isMenuBarOrDock(const CGPoint& point) const {
 // What a press does to the order of windows and processes, apart from what its target makes of it.
 void Input::bringForward(const Target& target) {
     if (target.owner == 0) return;
-    LaunchedApplication* launched = machine.application(target.owner);
+    LaunchedApplication* launched = machine.applications.find(target.owner);
     const platform::NSWindow* window = launched == nullptr ? nullptr : launched->window(target.window);
     if (window != nullptr && isPassive(*window)) return;
     machine.processes.activate(target.owner);
@@ -193,14 +193,14 @@ NSEvent Input::eventHere(NSEventType type, int clickCount) const {
 
 void Input::deliver(NSEvent event, const Target& target) {
     offerToOthers(event, target.owner);
-    LaunchedApplication* owner = machine.application(target.owner);
+    LaunchedApplication* owner = machine.applications.find(target.owner);
     if (owner == nullptr) return;
     event.window = owner->window(target.window);
     owner->loop().postEvent(std::move(event));
 }
 
 void Input::offerToOthers(const NSEvent& event, std::int32_t owner) {
-    for (const auto& launched : machine.applications())
+    for (const auto& launched : machine.applications.all())
         if (launched->processIdentifier() != owner) launched->offerToGlobalMonitors(event);
 }
 

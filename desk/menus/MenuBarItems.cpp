@@ -83,13 +83,13 @@ std::vector<MenuItem> otherItems(Machine& machine, const Process& process, const
 
 std::vector<std::string> menuBarMenus(Machine& machine, const Process& frontmost) {
     if (isFindersProcess(machine, frontmost)) return {frontmost.name, "File", "Edit", "View", "Go", "Window"};
-    if (machine.application(frontmost.processIdentifier) != nullptr) return {frontmost.name};
+    if (machine.applications.find(frontmost.processIdentifier) != nullptr) return {frontmost.name};
     return {frontmost.name, "File", "Window"};
 }
 
 std::vector<platform::MenuItem> menuBarItems(Machine& machine, const Process& frontmost, const std::string& title) {
     if (isFindersProcess(machine, frontmost)) return finderItems(machine, title);
-    if (machine.application(frontmost.processIdentifier) != nullptr) return {};
+    if (machine.applications.find(frontmost.processIdentifier) != nullptr) return {};
     return otherItems(machine, frontmost, title);
 }
 

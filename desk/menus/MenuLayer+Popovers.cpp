@@ -89,7 +89,7 @@ void MenuLayer::dismiss(const OpenPopover& popover) {
                                     [&](const auto& each) { return each.get() == &popover; });
     if (found == shownPopovers.end()) return;
     const std::weak_ptr<OpenPopover> dismissed = *found;
-    LaunchedApplication* owner = machine.application(popover.owner);
+    LaunchedApplication* owner = machine.applications.find(popover.owner);
     shownPopovers.erase(found);
     machine.windows.changed();
     if (owner == nullptr) return;
@@ -99,7 +99,7 @@ void MenuLayer::dismiss(const OpenPopover& popover) {
 }
 
 void MenuLayer::sendToContent(const NSEvent& event) const {
-    LaunchedApplication* owner = machine.application(held->owner);
+    LaunchedApplication* owner = machine.applications.find(held->owner);
     if (owner == nullptr || held->content.expired()) return;
     NSEvent inContent = event;
     inContent.locationInWindow = {event.locationInWindow.x - held->origin.x, event.locationInWindow.y - held->origin.y};

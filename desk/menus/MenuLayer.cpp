@@ -257,7 +257,7 @@ void MenuLayer::typeToSelect(const NSEvent& event) {
 
 void MenuLayer::choose(std::size_t row) {
     const auto action = tracked->menu.items()[row].action;
-    LaunchedApplication* owner = machine.application(tracked->owner);
+    LaunchedApplication* owner = machine.applications.find(tracked->owner);
     closeMenu();
     if (!action) return;
     if (owner != nullptr)

@@ -3,6 +3,7 @@
 #include "desk/processes/Activation.h"
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Processes.h"
+#include "desk/time/WallClock.h"
 
 namespace desk {
 
@@ -24,7 +25,7 @@ std::optional<platform::NSEvent> NSApplicationPort::nextEventMatchingMask(platfo
                                                                           platform::Date untilDate,
                                                                           platform::NSRunLoopMode /*mode*/,
                                                                           bool dequeue) {
-    auto event = application.loop().nextEvent(mask, machine.clock.due(untilDate), dequeue);
+    auto event = application.loop().nextEvent(mask, clock.due(untilDate), dequeue);
     if (event) event = LaunchedApplication::inItsWindow(*event);
     return event;
 }

@@ -8,11 +8,13 @@ namespace desk {
 class Activation;
 class LaunchedApplication;
 class Processes;
+class WallClock;
 
 class NSApplicationPort final : public platform::NSApplication {
 public:
-    NSApplicationPort(Processes& theProcesses, Activation& theActivation, LaunchedApplication& theApplication)
-        : processes(theProcesses), activation(theActivation), application(theApplication) {}
+    NSApplicationPort(const WallClock& theClock, Processes& theProcesses, Activation& theActivation,
+                      LaunchedApplication& theApplication)
+        : clock(theClock), processes(theProcesses), activation(theActivation), application(theApplication) {}
 
     void setActivationPolicy(platform::NSApplicationActivationPolicy policy) override;
     void activate(bool ignoringOtherApps) override;
@@ -21,6 +23,7 @@ public:
                                                            platform::NSRunLoopMode mode, bool dequeue) override;
 
 private:
+    const WallClock& clock;
     Processes& processes;
     Activation& activation;
     LaunchedApplication& application;

@@ -1,17 +1,19 @@
 #include "desk/ports/PanelHandle.h"
 
-#include "desk/Machine.h"
+#include "desk/input/Input.h"
+#include "desk/processes/LaunchedApplication.h"
 
 namespace desk {
 
 using platform::NSWindowOrderingMode;
 
-PanelHandle::PanelHandle(Machine& theMachine, LaunchedApplication& theApplication, platform::NSWindow& theWindow,
-                         const platform::CGRect& frame)
-    : machine(theMachine),
+PanelHandle::PanelHandle(WindowStack& theWindows, Input& theInput, LaunchedApplication& theApplication,
+                         platform::NSWindow& theWindow, const platform::CGRect& frame)
+    : windows(theWindows),
+      input(theInput),
       application(theApplication),
       window(theWindow),
-      number(theMachine.windows.makePanelNumber()),
+      number(theWindows.makePanelNumber()),
       lastFrame(frame) {
     application.ownWindows.emplace(number, &window);
     if (application.isDead()) return;
@@ -21,18 +23,18 @@ PanelHandle::PanelHandle(Machine& theMachine, LaunchedApplication& theApplicatio
     created.frame = frame;
     created.title = window.settings().title;
     created.window = &window;
-    machine.windows.add(created);
+    windows.add(created);
 }
 
 PanelHandle::~PanelHandle() {
     application.ownWindows.erase(number);
     application.loop().forgetWindow(&window);
-    machine.windows.remove(number);
-    machine.input.windowOrderedOut(number);
+    windows.remove(number);
+    input.windowOrderedOut(number);
 }
 
 const ServerWindow* PanelHandle::entry() const {
-    return machine.windows.find(number);
+    return windows.find(number);
 }
 
 platform::CGRect PanelHandle::frame() const {
@@ -41,7 +43,7 @@ platform::CGRect PanelHandle::frame() const {
 
 void PanelHandle::setFrame(const platform::CGRect& frame) {
     lastFrame = frame;
-    machine.windows.setFrame(number, frame);
+    windows.setFrame(number, frame);
 }
 
 int PanelHandle::level() const {
@@ -50,33 +52,33 @@ int PanelHandle::level() const {
 
 void PanelHandle::setLevel(int level) {
     lastLevel = level;
-    machine.windows.setLevel(number, level);
+    windows.setLevel(number, level);
 }
 
 bool PanelHandle::isVisible() const {
     const ServerWindow* shown = entry();
-    return shown != nullptr && machine.windows.isOnScreen(*shown);
+    return shown != nullptr && windows.isOnScreen(*shown);
 }
 
 void PanelHandle::orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo) {
-    machine.windows.order(number, mode, relativeTo);
-    if (mode == NSWindowOrderingMode::out) machine.input.windowOrderedOut(number);
+    windows.order(number, mode, relativeTo);
+    if (mode == NSWindowOrderingMode::out) input.windowOrderedOut(number);
 }
 
 void PanelHandle::makeKey() {
-    if (!application.isDead()) machine.input.makeKey(number);
+    if (!application.isDead()) input.makeKey(number);
 }
 
 bool PanelHandle::isKey() const {
-    return machine.input.keyWindow() == number;
+    return input.keyWindow() == number;
 }
 
 void PanelHandle::settingsChanged() {
-    machine.windows.setTitle(number, window.settings().title);
+    windows.setTitle(number, window.settings().title);
 }
 
 void PanelHandle::setNeedsDisplay() {
-    if (isVisible()) machine.windows.changed();
+    if (isVisible()) windows.changed();
 }
 
 }  // namespace desk

@@ -9,13 +9,13 @@
 
 namespace desk {
 
+class Input;
 class LaunchedApplication;
-class Machine;
 
 class PanelHandle final : public platform::WindowHandle {
 public:
-    PanelHandle(Machine& theMachine, LaunchedApplication& theApplication, platform::NSWindow& theWindow,
-                const platform::CGRect& frame);
+    PanelHandle(WindowStack& theWindows, Input& theInput, LaunchedApplication& theApplication,
+                platform::NSWindow& theWindow, const platform::CGRect& frame);
     ~PanelHandle() override;
 
     std::int64_t windowNumber() const override { return number; }
@@ -33,7 +33,8 @@ public:
 private:
     const ServerWindow* entry() const;
 
-    Machine& machine;
+    WindowStack& windows;
+    Input& input;
     LaunchedApplication& application;
     platform::NSWindow& window;
     const std::int64_t number;

@@ -6,7 +6,7 @@ namespace desk {
 
 std::unique_ptr<platform::WindowHandle> WindowPort::makeWindow(platform::NSWindow& window,
                                                                const platform::CGRect& frame) {
-    return std::make_unique<PanelHandle>(machine, application, window, frame);
+    return std::make_unique<PanelHandle>(windows, input, application, window, frame);
 }
 
 }  // namespace desk

@@ -5,18 +5,20 @@
 
 namespace desk {
 
+class Input;
 class LaunchedApplication;
-class Machine;
+class WindowStack;
 
 class WindowPort final : public platform::WindowSystem {
 public:
-    WindowPort(Machine& theMachine, LaunchedApplication& theApplication)
-        : machine(theMachine), application(theApplication) {}
+    WindowPort(WindowStack& theWindows, Input& theInput, LaunchedApplication& theApplication)
+        : windows(theWindows), input(theInput), application(theApplication) {}
     std::unique_ptr<platform::WindowHandle> makeWindow(platform::NSWindow& window,
                                                        const platform::CGRect& frame) override;
 
 private:
-    Machine& machine;
+    WindowStack& windows;
+    Input& input;
     LaunchedApplication& application;
 };
 

@@ -1,5 +1,5 @@
 // One launched copy of an application: its loop, its side of every platform interface, its shared objects, and the program itself. It dies by terminate: nothing more is
-// delivered to it, and the Machine destroys it once none of its calls is on the stack.
+// delivered to it, and Applications destroys it once none of its calls is on the stack.
 #pragma once
 
 #include <cstdint>
@@ -9,13 +9,14 @@
 #include <optional>
 #include <string>
 
+#include "desk/processes/ApplicationBackend.h"
 #include "desk/time/ApplicationLoop.h"
 #include "platform/Application.h"
 #include "platform/Platform.h"
 
 namespace desk {
 
-class Machine;
+class Scheduler;
 
 // What runs in it; made from the Platform when the process starts.
 class Program {
@@ -39,8 +40,8 @@ struct ApplicationImage {
 
 class LaunchedApplication {
 public:
-    LaunchedApplication(Machine& theMachine, std::string theBundlePath, const ApplicationImage& image,
-                        std::int32_t theProcessIdentifier);
+    LaunchedApplication(Scheduler& scheduler, std::string theBundlePath, const ApplicationImage& image,
+                        std::int32_t theProcessIdentifier, const BackendFactory& makeBackend);
     ~LaunchedApplication();
 
     // Makes the program and queues its launch callbacks.
@@ -49,7 +50,7 @@ public:
     std::int32_t processIdentifier() const { return pid; }
     const std::string& bundlePath() const { return path; }
     bool isDead() const { return dead; }
-    platform::Platform& platform() { return *platformOfIt; }
+    platform::Platform& platform() { return backend->platform(); }
     ApplicationLoop& loop() { return *runLoop; }
     Program* program() { return runningProgram.get(); }
 
@@ -68,31 +69,23 @@ public:
     platform::NSWindow* window(std::int64_t number);
     const std::map<std::int64_t, platform::NSWindow*>& windows() const { return ownWindows; }
 
-    // What is registered now, for tests of leaks.
-    struct Registrations {
-        std::size_t globalMonitors, localMonitors, workspaceObservers, accessibilitySubscriptions, timers, windows;
-    };
-    Registrations registrations() const;
+    Registrations registrations() const { return backend->registrations(); }
 
     // From queued events, which lie where they were on the screen, to what the application gets: relative to the window as it stands now.
     static platform::NSEvent inItsWindow(platform::NSEvent event);
 
 private:
     friend class PanelHandle;
-    struct Ports;  // the adapters behind Platform's references
 
     // Local monitors first, then the window.
     void sendEvent(const platform::NSEvent& event);
 
-    Machine& machine;
     std::string path;
     std::int32_t pid;
     bool dead = false;
     std::unique_ptr<ApplicationLoop> runLoop;
     std::map<std::int64_t, platform::NSWindow*> ownWindows;
-    std::unique_ptr<Ports> ports;
-    std::unique_ptr<platform::SharedSlots> slots;
-    std::unique_ptr<platform::Platform> platformOfIt;
+    std::unique_ptr<ApplicationBackend> backend;
     std::unique_ptr<Program> runningProgram;
 };
 

@@ -44,7 +44,7 @@ std::vector<brindle::FinderWindowState> publishedByFreshStart(Session& session) 
     image.bundleIdentifier = freshIdentifier;
     image.name = "Fresh Start";
     desk::Machine& machine = session.machine;
-    desk::LaunchedApplication& copy = machine.launch(
+    desk::LaunchedApplication& copy = machine.applications.launch(
         installedCopy, image, [](platform::Platform& platform) { return std::make_unique<FreshObserver>(platform); });
     machine.settle();
     auto published = static_cast<FreshObserver*>(copy.program())->published();

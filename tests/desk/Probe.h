@@ -64,8 +64,9 @@ inline Probe& launchProbe(Desk& desk, const std::string& bundleIdentifier = "org
     desk::ApplicationImage image;
     image.bundleIdentifier = bundleIdentifier;
     desk::LaunchedApplication& launched =
-        desk.machine.launch("/Applications/Probe.app", image,
-                            [](platform::Platform& platform) { return std::make_unique<Probe>(platform); });
+        desk.machine.applications.launch("/Applications/Probe.app", image, [](platform::Platform& platform) {
+            return std::make_unique<Probe>(platform);
+        });
     desk.machine.settle();
     return *static_cast<Probe*>(launched.program());
 }

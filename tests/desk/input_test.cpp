@@ -154,7 +154,7 @@ TEST_F(InputTest, APanelClosedInItsOwnEventIsLetGoAfterIt) {
     desk.click({500, 720});
     EXPECT_TRUE(watch.expired());
     EXPECT_EQ(desk.machine.input.keyWindow(), 0);
-    EXPECT_EQ(desk.machine.applications().front()->registrations().windows, 0U);
+    EXPECT_EQ(desk.machine.applications.all().front()->registrations().windows, 0U);
 }
 
 TEST_F(InputTest, KeysGoToTheKeyPanelAndElseToTheFrontmostApplication) {

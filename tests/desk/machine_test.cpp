@@ -28,9 +28,10 @@ TEST_F(MachineTest, StartsWithFinderInFrontAndNoWindow) {
 TEST_F(MachineTest, LaunchCallbacksRunWhenTheMachineSettles) {
     desk::ApplicationImage image;
     image.info = {{"CFBundleName", "Nameless"}};
-    auto& launched = desk.machine.launch("/Applications/Copy.app", image, [](platform::Platform& platform) {
-        return std::make_unique<Probe>(platform);
-    });
+    auto& launched =
+        desk.machine.applications.launch("/Applications/Copy.app", image, [](platform::Platform& platform) {
+            return std::make_unique<Probe>(platform);
+        });
     auto& probe = *static_cast<Probe*>(launched.program());
     EXPECT_EQ(probe.log, Log{});
     desk.machine.settle();
@@ -60,7 +61,7 @@ TEST_F(MachineTest, AnApplicationEndsOnlyIfItsDelegateAgreesAndThenGetsNothingMo
         probe.platform.dispatch.mainAsync([] { ADD_FAILURE(); });
     });
     desk.machine.scheduler.settle();
-    EXPECT_TRUE(desk.machine.applications().front()->isDead());
+    EXPECT_TRUE(desk.machine.applications.all().front()->isDead());
     EXPECT_TRUE(desk.machine.windows.all().empty());
     EXPECT_EQ(desk.machine.processes.running().size(), 1U);
 }
@@ -78,11 +79,11 @@ TEST_F(MachineTest, AnApplicationThatEndedInsideItsLoopIsDestroyedOnceItHasRetur
     });
     desk.play([&] {
         probe.platform.application.terminate();
-        desk.machine.reap();
+        desk.machine.applications.reap();
         EXPECT_FALSE(watch.expired());
     });
     EXPECT_TRUE(watch.expired());
-    EXPECT_TRUE(desk.machine.applications().empty());
+    EXPECT_TRUE(desk.machine.applications.all().empty());
 }
 
 class RecordingView final : public platform::ContentView {
@@ -211,7 +212,7 @@ TEST_F(MachineTest, WithoutTrustReadsFailAndNotificationsAreWithheldButRegistrat
     EXPECT_EQ(ax.AXUIElementPerformAction(finder, "AXRaise"), AXError::apiDisabled);
     desk.machine.permissions.setAccessibility(true);
     EXPECT_EQ(openAnother(), Log{"AXWindowCreated"});
-    EXPECT_EQ(desk.machine.applications().front()->registrations().accessibilitySubscriptions, 1U);
+    EXPECT_EQ(desk.machine.applications.all().front()->registrations().accessibilitySubscriptions, 1U);
     EXPECT_EQ(observer->AXObserverRemoveNotification(finder, "AXWindowCreated"), AXError::success);
     EXPECT_EQ(openAnother(), Log{});
 }
@@ -228,7 +229,7 @@ TEST_F(MachineTest, AMonitorMayRemoveItselfAndWhatIsBehindIt) {
     desk.click({10, 10});
     desk.click({10, 10});
     EXPECT_EQ(probe.log, (Log{"0", "1"}));
-    EXPECT_EQ(desk.machine.applications().front()->registrations().globalMonitors, 0U);
+    EXPECT_EQ(desk.machine.applications.all().front()->registrations().globalMonitors, 0U);
 }
 
 TEST_F(MachineTest, DefaultsOutliveTheirProcessAndTimersDontMindTheClock) {

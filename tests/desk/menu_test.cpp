@@ -312,7 +312,7 @@ TEST_F(PopoverTest, LettingTheHandleGoClosesItWithoutAWord) {
 
 TEST_F(PopoverTest, NothingOfAnEndedApplicationStays) {
     menu = probe.platform.menus.popUpAt({300, 300}, items);
-    desk.machine.applications().front()->terminate();
+    desk.machine.applications.all().front()->terminate();
     EXPECT_EQ(open(), nullptr);
     EXPECT_TRUE(bodies().empty());
     menu.reset();

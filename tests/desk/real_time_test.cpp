@@ -158,7 +158,7 @@ TEST_F(InRealTime, ScriptsMayBeMadeWhileTheirApplicationEnds) {
     });
     while (!begun) std::this_thread::yield();
     probe.platform.application.terminate();
-    EXPECT_TRUE(whole.machine.applications().front()->isDead());
+    EXPECT_TRUE(whole.machine.applications.all().front()->isDead());
 }
 
 TEST_F(InRealTime, DeskThatEndsLeavesEveryLoop) {

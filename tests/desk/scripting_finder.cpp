@@ -171,7 +171,7 @@ TEST_F(FinderScripts, ReachNobodyWhenFinderOrTheSenderIsGone) {
     machine.finder.open("/tmp");
     probe.platform.dispatch.mainAsync([&] { probe.platform.application.terminate(); });
     desk.run(100);
-    EXPECT_EQ(machine.applications().size(), 0u);
+    EXPECT_EQ(machine.applications.all().size(), 0u);
     EXPECT_EQ(answers, Lines{});
     EXPECT_EQ(machine.finder.front()->target, "/tmp");
 }

@@ -26,14 +26,14 @@ std::unique_ptr<platform::TextSystem> systemText() {
 OrvaneDesk::OrvaneDesk() : Desk(systemText()) {}
 
 desk::LaunchedApplication& OrvaneDesk::launch(const std::string& bundlePath) {
-    desk::LaunchedApplication& launched = machine.launch(
+    desk::LaunchedApplication& launched = machine.applications.launch(
         bundlePath, image, [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
     machine.settle();
     return launched;
 }
 
 desk::LaunchedApplication& OrvaneDesk::application() {
-    return *machine.applications().back();
+    return *machine.applications.all().back();
 }
 
 brindle::OrvaneApp& OrvaneDesk::orvane() {

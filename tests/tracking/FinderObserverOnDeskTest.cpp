@@ -39,7 +39,7 @@ struct FollowedDesk : kit::Desk {
     FinderObserver* observer = nullptr;
 
     void launch() {
-        auto& copy = machine.launch("/Applications/Orvane.app", {}, [this](platform::Platform& platform) {
+        auto& copy = machine.applications.launch("/Applications/Orvane.app", {}, [this](platform::Platform& platform) {
             auto program = std::make_unique<Follower>(platform);
             observer = &program->observer;
             return program;

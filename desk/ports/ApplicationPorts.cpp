@@ -1,0 +1,67 @@
+#include "desk/ports/ApplicationPorts.h"
+
+#include "desk/input/Input.h"
+#include "desk/menus/MenuLayer.h"
+#include "desk/processes/LaunchedApplication.h"
+#include "desk/processes/Processes.h"
+#include "desk/time/WallClock.h"
+#include "desk/windows/Displays.h"
+#include "desk/windows/WindowStack.h"
+
+namespace desk {
+
+ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, LaunchedApplication& theApplication,
+                                   const ApplicationImage& image)
+    : neighbours(theNeighbours),
+      application(theApplication),
+      workspace(neighbours.processes, neighbours.activation, neighbours.launchServices, application),
+      windowServer(neighbours.windows, neighbours.displays, neighbours.finder, neighbours.faults),
+      accessibility(neighbours.finder, neighbours.permissions, application),
+      appleEvents(neighbours.scripting, application),
+      events(neighbours.input),
+      applicationPort(neighbours.clock, neighbours.processes, neighbours.activation, application),
+      windows(neighbours.windows, neighbours.input, application),
+      menus(neighbours.menus, neighbours.windows, application),
+      files(neighbours.disk),
+      defaults(neighbours.defaults[image.domain(application.bundlePath())], application),
+      bundle(image.identifier(), application.bundlePath()),
+      pasteboard(neighbours.clipboard),
+      uuids(application.processIdentifier()),
+      platformOfIt{neighbours.clock,
+                   application.loop(),
+                   application.loop(),
+                   workspace,
+                   neighbours.displays,
+                   neighbours.appearance,
+                   windowServer,
+                   accessibility,
+                   appleEvents,
+                   events,
+                   applicationPort,
+                   windows,
+                   menus,
+                   neighbours.text,
+                   textBoundaries,
+                   collation,
+                   files,
+                   defaults,
+                   bundle,
+                   pasteboard,
+                   uuids,
+                   *slots} {}
+
+void ApplicationPorts::processEnded() {
+    for (const auto& [number, window] : application.windows()) {
+        neighbours.windows.remove(number);
+        neighbours.input.windowOrderedOut(number);
+    }
+    neighbours.menus.applicationEnded(application.processIdentifier());
+    neighbours.processes.remove(application.processIdentifier());
+}
+
+Registrations ApplicationPorts::registrations() const {
+    return {events.globalMonitorCount(),       events.localMonitorCount(),      workspace.observerCount(),
+            accessibility.subscriptionCount(), application.loop().timerCount(), application.windows().size()};
+}
+
+}  // namespace desk
