@@ -43,10 +43,7 @@ void FinderListing::read(const Disk& disk, platform::Collation& collation) {
         keyed.push_back({{}, std::move(entry)});
         collation.appendLocalizedStandardKey(keyed.back().entry.name, keyed.back().key);
     }
-    std::sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) {
-        const int order = a.key.compare(b.key);
-        return order != 0 ? order < 0 : a.entry.name < b.entry.name;
-    });
+    std::sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) { return a.key < b.key; });
     sorted.reserve(keyed.size());
     for (Keyed& each : keyed) sorted.push_back(std::move(each.entry));
 }

@@ -25,8 +25,8 @@ IcuCollation::IcuCollation() : collator(standardCollator()) {}
 
 int IcuCollation::localizedStandardCompare(std::string_view a, std::string_view b) {
     UErrorCode status = U_ZERO_ERROR;
-    if (collator) return collator->compareUTF8(piece(a), piece(b), status);
-    return a.compare(b);
+    const int order = collator ? collator->compareUTF8(piece(a), piece(b), status) : 0;
+    return order != 0 ? order : a.compare(b);
 }
 
 void IcuCollation::appendLocalizedStandardKey(std::string_view name, std::string& keys) {
@@ -44,8 +44,9 @@ void IcuCollation::appendLocalizedStandardKey(std::string_view name, std::string
     const std::size_t guessed = name.size() * 2 + 16;
     std::size_t length = fill(guessed);
     if (length > guessed) length = fill(length);
-    // The last byte is the key's terminating zero.
-    keys.resize(begin + (length > 0 ? length - 1 : 0));
+    // Its last byte is a zero, and the only one, so that the name's own bytes decide between equal keys.
+    keys.resize(begin + length);
+    keys += name;
 }
 
 }  // namespace desk

@@ -1,6 +1,7 @@
 // What the menu behind a crumb lists, from a real disk and in the locale's order.
 #include <gtest/gtest.h>
 
+#include "desk/finder/FinderBrowser.h"
 #include "pathbar/ChildFolders.h"
 #include "tests/desk/Probe.h"
 
@@ -58,6 +59,27 @@ TEST_F(ChildFoldersTest, ManyFoldersAreInTheSameOrderAndThereOnce) {
     expected.insert(expected.begin(), {"a", "Éclair", "folder"});
     expected.emplace_back("Zoo");
     EXPECT_EQ(titles("/Users/ana/Many"), expected);
+}
+
+// Few are compared directly, many by keys, and Finder lists the same folders.
+TEST_F(ChildFoldersTest, NamesThatTheLocaleHoldsEqualGoByTheirBytes) {
+    const Names equal{"a0002", "a002", "a02", "a2", "e\u0301", "\u00e9"};
+    for (const char* name : {"a2", "a0002", "\u00e9", "a02", "e\u0301", "a002"})
+        desk.machine.disk.makeFolder("/Users/ana/Equal/" + std::string(name));
+    desk.machine.finder.open("/Users/ana/Equal");
+    const auto listed = [&] {
+        Names names;
+        const auto& window = *desk.machine.finder.find(101);
+        for (const auto& entry : desk.machine.finder.browser().listing(window).entries()) names.push_back(entry.name);
+        return names;
+    };
+    EXPECT_EQ(titles("/Users/ana/Equal"), equal);
+    EXPECT_EQ(listed(), equal);
+    for (int number = 0; number < 300; ++number)
+        desk.machine.disk.makeFolder("/Users/ana/Equal/z" + std::to_string(number));
+    const Names many = titles("/Users/ana/Equal");
+    EXPECT_EQ(Names(many.begin(), many.begin() + 6), equal);
+    EXPECT_EQ(listed(), many);
 }
 
 }  // namespace
