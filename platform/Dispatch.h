@@ -31,6 +31,12 @@ private:
 
 enum class QualityOfService { userInteractive, userInitiated, standard, utility, background };
 
+// While one lives on a thread, what calls of the platform leave behind there is kept; it is released when the innermost one goes.
+class AutoreleasePool {
+public:
+    virtual ~AutoreleasePool() = default;
+};
+
 class SerialQueue {
 public:
     // Waits for nothing: blocks not yet begun are dropped.
@@ -51,6 +57,9 @@ public:
 
     virtual std::unique_ptr<SerialQueue> makeSerialQueue(std::string label, QualityOfService qualityOfService) = 0;
     virtual bool isMainThread() const = 0;
+
+    // For the calling thread, any. Null where calls leave nothing behind.
+    virtual std::unique_ptr<AutoreleasePool> makeAutoreleasePool() { return nullptr; }
 };
 
 }  // namespace platform

@@ -13,6 +13,7 @@ void FinderObserver::requestPathSnapshots() {
     auto receive =
         lifetime.guard([this](const std::vector<FinderPathSnapshot>& answer) { receivePathSnapshots(answer); });
     pathQueue->async([provider = pathProvider, &dispatch = platform.dispatch, receive = std::move(receive)] {
+        const auto pool = dispatch.makeAutoreleasePool();
         dispatch.mainTask([receive, answer = provider->fetchWindowPaths()]() mutable { receive(answer); });
     });
 }
@@ -47,6 +48,7 @@ void FinderObserver::requestSelectionSnapshot() {
         receiveSelectionSnapshot(answer, generation);
     });
     selectionQueue->async([provider = pathProvider, &dispatch = platform.dispatch, receive = std::move(receive)] {
+        const auto pool = dispatch.makeAutoreleasePool();
         dispatch.mainTask([receive, answer = provider->fetchFrontWindowSelection()]() mutable { receive(answer); });
     });
 }
