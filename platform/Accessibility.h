@@ -16,11 +16,16 @@ namespace platform {
 
 enum class AXError { success, failure, invalidUIElement, cannotComplete, apiDisabled };
 
-// A reference to an element of another process; copying it copies the reference. It may outlive what it refers to: reads then fail.
+// A reference to an element of another process; copying it copies the reference. It may outlive what it refers to: reads then fail. Two references to the same element are equal.
 struct AXUIElement {
     std::int32_t processIdentifier = 0;
     std::uint64_t identity = 0;  // 0 is the application itself
-    friend bool operator==(const AXUIElement&, const AXUIElement&) = default;
+    // The backend's own: its deleter runs when the last copy of this reference goes. Empty where there is nothing to release.
+    std::shared_ptr<const void> held = nullptr;
+
+    friend bool operator==(const AXUIElement& a, const AXUIElement& b) {
+        return a.processIdentifier == b.processIdentifier && a.identity == b.identity;
+    }
 };
 
 enum class AXValueType { illegal = 0, cgPoint = 1, cgSize = 2 };

@@ -180,4 +180,17 @@ TEST_F(FinderTree, NotificationsAreLostDoubledOrLateAsAsked) {
     EXPECT_EQ(journal.take(), Lines{});
 }
 
+// A backend that has to release what it hands out does so then, and neither earlier nor never.
+TEST(AccessibilityElement, IsReleasedWhenItsLastCopyGoes) {
+    int released = 0;
+    const auto release = [&](const void* /*element*/) { ++released; };
+    AXAttributeValue read = Elements{{7, 101, std::shared_ptr<const void>(&released, release)}};
+    std::optional<AXUIElement> kept = std::get<Elements>(read).front();
+    EXPECT_EQ(*kept, (AXUIElement{7, 101}));
+    read = true;
+    EXPECT_EQ(released, 0);
+    kept.reset();
+    EXPECT_EQ(released, 1);
+}
+
 }  // namespace
