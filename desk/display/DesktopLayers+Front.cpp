@@ -4,9 +4,11 @@
 #include "desk/Machine.h"
 #include "desk/display/DeskDrawings.h"
 #include "desk/display/DesktopLayers.h"
-#include "desk/display/FinderWords.h"
-#include "desk/display/MenuDrawing.h"
+#include "desk/menus/MenuBar.h"
+#include "desk/menus/MenuView.h"
+#include "desk/menus/ToolTipView.h"
 #include "desk/system/AlertLayout.h"
+#include "desk/system/Dock.h"
 
 namespace desk {
 
@@ -23,8 +25,6 @@ constexpr std::int64_t firstDockId = -1000;
 constexpr std::int64_t firstMenuBarId = -2000;
 constexpr std::int64_t firstPopoverId = -3000;
 
-constexpr double toolTipCornerRadius = 3;
-
 // A full-screen window's space shows neither menu bar nor Dock.
 bool isFullScreen(const Machine& machine, const CGRect& screen) {
     const std::vector<const ServerWindow*> shown = machine.windows.onScreen();
@@ -34,17 +34,17 @@ bool isFullScreen(const Machine& machine, const CGRect& screen) {
     });
 }
 
-Layer drawn(std::int64_t id, const CGRect& frame, DrawingBuilder& builder) {
+Layer drawn(std::int64_t id, const CGRect& frame, platform::Drawing drawing) {
     Layer layer;
     layer.id = id;
     layer.frame = frame;
-    layer.background = std::make_shared<platform::Drawing>(std::move(builder.drawing));
+    layer.background = std::make_shared<platform::Drawing>(std::move(drawing));
     return layer;
 }
 
-Layer floating(std::int64_t id, const CGRect& frame, DrawingBuilder& builder, double cornerRadius,
+Layer floating(std::int64_t id, const CGRect& frame, platform::Drawing drawing, double cornerRadius,
                WindowShadow::Depth shadow) {
-    Layer layer = drawn(id, frame, builder);
+    Layer layer = drawn(id, frame, std::move(drawing));
     layer.cornerRadius = cornerRadius;
     layer.shadow = shadow;
     layer.isOpaque = true;
@@ -58,23 +58,18 @@ void DesktopLayers::addScreenFurniture(Machine& machine, std::size_t screen, std
     const CGRect& frame = options.frame;
     if (isFullScreen(machine, frame)) return;
     const auto place = static_cast<std::int64_t>(screen);
-    const platform::ColorScheme scheme = machine.appearance.colorScheme.get();
     if (options.dock > 0) {
-        DrawingBuilder builder(machine.text, scheme);
         const CGRect strip = CGRectMake(frame.minX(), frame.minY(), frame.width(), options.dock);
-        drawDock(builder, strip.size, dockItems(machine));
-        layers.push_back(drawn(firstDockId - place, strip, builder));
+        layers.push_back(drawn(firstDockId - place, strip, shownDock(machine, strip.size).drawing()));
     }
     if (options.menuBar > 0) {
-        DrawingBuilder builder(machine.text, scheme);
         const CGRect strip = CGRectMake(frame.minX(), frame.maxY() - options.menuBar, frame.width(), options.menuBar);
-        drawMenuBar(builder, strip.size, {machine.input.menuBar().titles(strip), clockText(machine.clock.now())});
-        layers.push_back(drawn(firstMenuBarId - place, strip, builder));
+        layers.push_back(drawn(firstMenuBarId - place, strip, machine.input.menuBar().shown(strip).drawing()));
     }
 }
 
 void DesktopLayers::addMenus(Machine& machine, std::vector<Layer>& layers) {
-    const platform::ColorScheme scheme = machine.appearance.colorScheme.get();
+    const Shades shades{machine.appearance.colorScheme.get()};
     std::int64_t popoverId = firstPopoverId;
     for (const ShownPopover& shown : machine.menus.popovers()) {
         Layer layer;
@@ -86,18 +81,12 @@ void DesktopLayers::addMenus(Machine& machine, std::vector<Layer>& layers) {
         layers.push_back(std::move(layer));
     }
     if (const auto shown = machine.toolTips.shown()) {
-        const CGRect whole{{0, 0}, shown->frame.size};
-        DrawingBuilder builder(machine.text, scheme);
-        builder.fill(whole, builder.shade(0xF6F5F6, 0x3A393C), toolTipCornerRadius);
-        builder.border(whole, builder.shade(0x000000, 0xFFFFFF, 0.18), 0.5, toolTipCornerRadius);
-        builder.text(shown->text, toolTipFont, platform::Color::of(platform::ColorRole::primary),
-                     CGRectInset(whole, toolTipInset, 0));
-        layers.push_back(drawn(toolTipId, shown->frame, builder));
+        const views::LaidOutView tip(toolTipView(shown->text, shades), shown->frame.size, machine.text);
+        layers.push_back(drawn(toolTipId, shown->frame, tip.drawing()));
     }
     if (const OpenMenu* menu = machine.menus.menu()) {
-        DrawingBuilder builder(machine.text, scheme);
-        drawMenu(builder, *menu);
-        layers.push_back(floating(menuId, menu->frame(), builder, menuCornerRadius, WindowShadow::Depth::back));
+        layers.push_back(floating(menuId, menu->frame(), drawingOf(*menu, shades, machine.text), menuCornerRadius,
+                                  WindowShadow::Depth::back));
     }
 }
 
@@ -108,7 +97,8 @@ void DesktopLayers::addAlert(Machine& machine, std::vector<Layer>& layers) {
     const AlertLayout layout = layoutOf(*alert, *screen);
     DrawingBuilder builder(machine.text, machine.appearance.colorScheme.get());
     drawAlert(builder, *alert, layout);
-    layers.push_back(floating(alertId, layout.frame, builder, windowCornerRadius, WindowShadow::Depth::front));
+    layers.push_back(
+        floating(alertId, layout.frame, std::move(builder.drawing), windowCornerRadius, WindowShadow::Depth::front));
 }
 
 }  // namespace desk

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "views/LaidOutView.h"
+
 namespace desk {
 
 using platform::CGPoint;
@@ -40,6 +42,15 @@ void DrawingBuilder::text(std::string_view text, Font font, Color color, const C
     const double height = measure.metrics(font).lineHeight();
     const CGRect rect = CGRectMake(box.minX() + before, box.midY() - height / 2, taken, height);
     drawing.operations.emplace_back(platform::DrawText{std::move(shown), font, color, rect});
+}
+
+void DrawingBuilder::view(views::View view, const CGRect& box) {
+    views::View placed = std::move(view)
+                             .frame({.width = box.width(), .height = box.height()})
+                             .padding({.top = box.minY(), .leading = box.minX()});
+    for (auto& operation :
+         views::LaidOutView(std::move(placed), {box.maxX(), box.maxY()}, measure).drawing().operations)
+        drawing.operations.push_back(std::move(operation));
 }
 
 double DrawingBuilder::paragraph(std::string_view text, Font font, Color color, const CGRect& box) {

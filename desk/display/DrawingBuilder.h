@@ -10,6 +10,7 @@
 #include "platform/Drawing.h"
 #include "platform/Geometry.h"
 #include "platform/Text.h"
+#include "views/View.h"
 
 namespace desk {
 
@@ -37,6 +38,8 @@ public:
               TextAlignment alignment = TextAlignment::left);
     // Broken between words to the box's width, from its top, as many lines as there is room for; answers the height taken.
     double paragraph(std::string_view text, platform::Font font, platform::Color color, const platform::CGRect& box);
+
+    void view(views::View view, const platform::CGRect& box);
 
     void beginClip(const platform::CGRect& rect) { drawing.operations.emplace_back(platform::BeginClip{rect}); }
     void endClip() { drawing.operations.emplace_back(platform::EndClip{}); }

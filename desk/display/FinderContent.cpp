@@ -4,8 +4,8 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "desk/display/FinderWords.h"
 #include "desk/finder/FinderBrowser.h"
+#include "desk/finder/FinderWords.h"
 #include "platform/FileURL.h"
 
 namespace desk {

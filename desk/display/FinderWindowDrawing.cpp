@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "desk/display/Icons.h"
+#include "desk/look/Icons.h"
 
 namespace desk {
 
@@ -76,7 +76,7 @@ private:
         double x = left > 0 ? left + 12 : windowButtonsWidth;
         arrow("chevron.left", layout.back(), content.canGoBack, x);
         arrow("chevron.right", layout.forward(), content.canGoForward, x);
-        drawFolderIcon(draw, CGRectMake(x + 4, (windowTitleBarHeight - iconSize) / 2, iconSize, iconSize));
+        draw.view(folderIcon(iconSize), CGRectMake(x + 4, (windowTitleBarHeight - iconSize) / 2, iconSize, iconSize));
         x += 4 + iconSize + 6;
         if (width - x - 12 > 0)
             draw.text(content.title, {13, FontWeight::semibold}, titleColor(content.look),
@@ -190,17 +190,11 @@ private:
     }
 
     void icon(const FinderItem& item, const CGRect& square) {
-        switch (item.icon) {
-        case ItemIcon::folder:
-            drawFolderIcon(draw, square);
-            break;
-        case ItemIcon::document:
-            drawDocumentIcon(draw, square);
-            break;
-        case ItemIcon::application:
-            drawApplicationIcon(draw, square, item.name.substr(0, item.name.rfind('.')));
-            break;
-        }
+        draw.view(item.icon == ItemIcon::folder ? folderIcon(iconSize)
+                  : item.icon == ItemIcon::document
+                      ? documentIcon(iconSize)
+                      : applicationIcon(item.name.substr(0, item.name.rfind('.')), iconSize),
+                  square);
     }
 
     void emptyNote(const CGRect& area) {
@@ -239,10 +233,7 @@ void drawInfoPanel(DrawingBuilder& builder, CGSize size, const std::string& titl
                    const std::string& folder, WindowLook look) {
     drawPlainWindow(builder, size, title, look);
     const CGRect icon = CGRectMake(16, windowTitleBarHeight + 14, 32, 32);
-    if (item.icon == ItemIcon::document)
-        drawDocumentIcon(builder, icon);
-    else
-        drawFolderIcon(builder, icon);
+    builder.view(item.icon == ItemIcon::document ? documentIcon(icon.width()) : folderIcon(icon.width()), icon);
     builder.text(item.name, {13, FontWeight::semibold}, Color::of(ColorRole::primary),
                  CGRectMake(58, icon.minY(), size.width - 74, icon.height()));
     builder.fill(CGRectMake(0, icon.maxY() + 12, size.width, 0.5), Color::of(ColorRole::separator));

@@ -24,14 +24,21 @@ QByteArray weighted(QByteArray file, platform::FontWeight weight) {
     return file.replace(fileStroke, strokes.at(static_cast<std::size_t>(weight)));
 }
 
+QImage rendered(const QByteArray& file, const QRectF& place, QImage onto) {
+    QPainter painter(&onto);
+    QSvgRenderer(file).render(&painter, place);
+    return onto;
+}
+
+QImage filled(QSize pixels, QImage::Format format, const QColor& color) {
+    QImage image(pixels, format);
+    image.fill(color);
+    return image;
+}
+
 // The file's picture, inverted: what is black in it is opaque.
 QImage maskOf(const QByteArray& file, const QRectF& place, QSize pixels) {
-    QImage gray(pixels, QImage::Format_Grayscale8);
-    gray.fill(Qt::white);
-    {
-        QPainter painter(&gray);
-        QSvgRenderer(file).render(&painter, place);
-    }
+    QImage gray = rendered(file, place, filled(pixels, QImage::Format_Grayscale8, Qt::white));
     gray.invertPixels();
     gray.reinterpretAsFormat(QImage::Format_Alpha8);
     return gray;
@@ -65,8 +72,9 @@ QImage SymbolSet::picture(std::string_view name, platform::Font font, const QCol
     const QSizeF exact(symbol.ems.width * em, symbol.ems.height * em);
     const QSize pixels(static_cast<int>(std::ceil(exact.width())), static_cast<int>(std::ceil(exact.height())));
     const QRectF centred(QPointF((pixels.width() - exact.width()) / 2, (pixels.height() - exact.height()) / 2), exact);
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
+    constexpr auto format = QImage::Format_ARGB32_Premultiplied;
+    if (name.ends_with(".icon")) return rendered(symbol.file, centred, filled(pixels, format, Qt::transparent));
+    QImage image = filled(pixels, format, color);
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     painter.drawImage(QPoint(), maskOf(weighted(symbol.file, font.weight), centred, pixels));

@@ -1,5 +1,5 @@
 // The desk's symbols, of our own design: one SVG file each in symbols/, a hundred units to the em. Black is ink, white cuts what lies below; lines that name no width of
-// their own get that of the font's weight. It keeps the files it has read, and no pictures.
+// their own get that of the font's weight. Those named `.icon` have colours instead. It keeps the files it has read, and no pictures.
 #pragma once
 
 #include <QByteArray>

@@ -1,6 +1,8 @@
 #include "desk/menus/MenuBar.h"
 
 #include "desk/Machine.h"
+#include "desk/finder/FinderWords.h"
+#include "desk/menus/MenuBarView.h"
 #include "desk/windows/WindowFrame.h"
 
 namespace desk {
@@ -11,33 +13,27 @@ using platform::CGPoint;
 using platform::CGRect;
 using platform::CGRectMake;
 
-constexpr double firstTitle = 32;
-constexpr double padding = 10;          // on both sides of a title
 constexpr double roomOnTheRight = 180;  // for clock and status items
 
 }  // namespace
 
-std::vector<MenuBarTitle> MenuBar::titles(const CGRect& strip) const {
-    std::vector<MenuBarTitle> shown;
+views::LaidOutView MenuBar::shown(const CGRect& strip) const {
     const Process* frontmost = machine.processes.frontmost();
-    if (frontmost == nullptr) return shown;
-    double x = firstTitle;
-    for (const std::string& text : menuBarMenus(machine, *frontmost)) {
-        const platform::Font font = shown.empty() ? menuBarApplicationFont : menuBarFont;
-        const double width = machine.text.width(text, font) + 2 * padding;
-        if (x + width > strip.width() - roomOnTheRight) break;
-        shown.push_back({text, CGRectMake(x, 0, width, strip.height()), isOpen(strip, text)});
-        x += width;
+    MenuBarContent content;
+    if (frontmost != nullptr) content.titles = menuBarMenus(machine, *frontmost);
+    content.clock = clockText(machine.clock.now());
+    if (isOpen() && openStrip == strip) content.open = openTitle;
+    while (true) {
+        views::LaidOutView bar(menuBarView(content, strip.height(), {machine.appearance.colorScheme.get()}), strip.size,
+                               machine.text);
+        const auto last = bar.frameOf(std::to_string(content.titles.size() - 1));
+        if (!last || last->maxX() <= strip.width() - roomOnTheRight) return bar;
+        content.titles.pop_back();
     }
-    return shown;
 }
 
 bool MenuBar::isOpen() const {
     return openMenu != 0 && machine.menus.isOpen(openMenu);
-}
-
-bool MenuBar::isOpen(const CGRect& strip, const std::string& title) const {
-    return isOpen() && openStrip == strip && openTitle == title;
 }
 
 std::optional<MenuBar::Place> MenuBar::titleAt(const CGPoint& point) const {
@@ -46,10 +42,9 @@ std::optional<MenuBar::Place> MenuBar::titleAt(const CGPoint& point) const {
         const CGRect strip = CGRectMake(options.frame.minX(), options.frame.maxY() - options.menuBar,
                                         options.frame.width(), options.menuBar);
         if (options.menuBar <= 0 || !platform::CGRectContainsPoint(strip, point)) continue;
-        const auto shown = titles(strip);
-        for (std::size_t i = 0; i < shown.size(); ++i)
-            if (containsInside(shown[i].box, insideWindow(strip, point)))
-                return Place{strip, i, shown[i].text, onScreen(strip, shown[i].box)};
+        const views::LaidOutView bar = shown(strip);
+        if (const std::string* title = bar.idAt(insideWindow(strip, point)))
+            return Place{strip, std::stoul(*title), onScreen(strip, *bar.frameOf(*title))};
     }
     return std::nullopt;
 }
@@ -61,15 +56,17 @@ void MenuBar::mouseDown(const CGPoint& point) {
 void MenuBar::mouseMoved(const CGPoint& point) {
     if (!isOpen()) return;
     const auto place = titleAt(point);
-    if (place && !isOpen(place->strip, place->text)) open(*place);
+    if (place && !(openStrip == place->strip && openTitle == place->title)) open(*place);
 }
 
 void MenuBar::open(const Place& place) {
     const Process* frontmost = machine.processes.frontmost();
     if (frontmost == nullptr) return;
-    auto items = menuBarItems(machine, *frontmost, place.title == 0 ? std::string() : place.text);
+    const std::vector<std::string> titles = menuBarMenus(machine, *frontmost);
+    if (place.title >= titles.size()) return;
+    auto items = menuBarItems(machine, *frontmost, place.title == 0 ? std::string() : titles[place.title]);
     openStrip = place.strip;
-    openTitle = place.text;
+    openTitle = place.title;
     openMenu = machine.menus.openBelow(frontmost->processIdentifier, place.box, std::move(items));
 }
 

@@ -1,5 +1,5 @@
 // The menu bar's left side: the menus of the frontmost application, where their titles stand and what they hold. A press on a title opens its menu in the MenuLayer; moving over
-// another title while one is open opens that one instead. The right side, with the clock, isn't its business.
+// another title while one is open opens that one instead.
 #pragma once
 
 #include <cstddef>
@@ -11,27 +11,19 @@
 #include "platform/Geometry.h"
 #include "platform/Menus.h"
 #include "platform/Text.h"
+#include "views/LaidOutView.h"
 
 namespace desk {
 
 class Machine;
 struct Process;
 
-inline constexpr platform::Font menuBarFont{13, platform::FontWeight::regular};
-inline constexpr platform::Font menuBarApplicationFont{13, platform::FontWeight::bold};
-
-struct MenuBarTitle {
-    std::string text;
-    platform::CGRect box;  // in the strip at the screen's upper edge, y downward
-    bool isOpen = false;
-};
-
 class MenuBar {
 public:
     explicit MenuBar(Machine& theMachine) : machine(theMachine) {}
 
-    // In a strip there on the screens; the application's own name is the first. None without a frontmost application.
-    std::vector<MenuBarTitle> titles(const platform::CGRect& strip) const;
+    // In a strip there on the screens, with as many titles as there is room for; see MenuBarView.h.
+    views::LaidOutView shown(const platform::CGRect& strip) const;
 
     void mouseDown(const platform::CGPoint& point);
     void mouseMoved(const platform::CGPoint& point);
@@ -40,18 +32,16 @@ private:
     struct Place {
         platform::CGRect strip;
         std::size_t title;
-        std::string text;
         platform::CGRect box;  // on the screen
     };
 
     std::optional<Place> titleAt(const platform::CGPoint& point) const;
     void open(const Place& place);
     bool isOpen() const;
-    bool isOpen(const platform::CGRect& strip, const std::string& title) const;
 
     Machine& machine;
     platform::CGRect openStrip;
-    std::string openTitle;
+    std::size_t openTitle = 0;
     std::uint64_t openMenu = 0;
 };
 

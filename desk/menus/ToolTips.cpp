@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "desk/Machine.h"
+#include "desk/menus/ToolTipView.h"
+#include "views/LaidOutView.h"
 
 namespace desk {
 
@@ -38,8 +40,7 @@ void ToolTips::show() {
     waiting.reset();
     told = subject();
     if (!told) return;
-    const platform::CGSize size{machine.text.width(told->text, toolTipFont) + 2 * toolTipInset,
-                                machine.text.metrics(toolTipFont).lineHeight() + toolTipInset};
+    const platform::CGSize size = views::idealSize(toolTipView(told->text, {}), machine.text);
     const CGPoint mouse = machine.input.mouseLocation();
     place = placeMenuAt({mouse.x, mouse.y - belowPointer}, size, machine.menus.roomAround(mouse));
     machine.windows.changed();

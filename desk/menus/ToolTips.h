@@ -13,9 +13,6 @@ namespace desk {
 
 class Machine;
 
-inline constexpr platform::Font toolTipFont{11, platform::FontWeight::regular};
-inline constexpr double toolTipInset = 5;
-
 class ToolTips {
 public:
     explicit ToolTips(Machine& theMachine) : machine(theMachine) {}

@@ -5,6 +5,7 @@
 
 #include "desk/Machine.h"
 #include "desk/processes/KnownApplications.h"
+#include "desk/system/DockView.h"
 #include "desk/windows/WindowFrame.h"
 #include "platform/FileURL.h"
 
@@ -15,10 +16,6 @@ namespace {
 using platform::CGPoint;
 using platform::CGRect;
 using platform::CGRectMake;
-
-constexpr double dockGap = 8;
-constexpr double dividerRoom = 12;
-constexpr double smallestIcon = 8;
 
 bool isInApplications(const Machine& machine, const std::string& path) {
     return machine.disk.kind(path) == platform::FileKind::directory;
@@ -49,6 +46,14 @@ std::optional<CGRect> stripAt(const Machine& machine, const CGPoint& point) {
         if (options.dock > 0 && platform::CGRectContainsPoint(strip, point)) return strip;
     }
     return std::nullopt;
+}
+
+std::string idAt(const Machine& machine, const CGPoint& point) {
+    const auto strip = stripAt(machine, point);
+    if (!strip) return {};
+    const views::LaidOutView dock = shownDock(machine, strip->size);
+    const std::string* id = dock.idAt(insideWindow(*strip, point));
+    return id == nullptr ? std::string() : *id;
 }
 
 void openFinder(Machine& machine) {
@@ -86,38 +91,19 @@ std::vector<DockItem> dockItems(const Machine& machine) {
     return items;
 }
 
-DockLayout::DockLayout(platform::CGSize strip, const std::vector<DockItem>& items) {
-    const double height = strip.height - dockGap;
-    const double icon = std::floor(height - 2 * dockGap);
-    if (icon < smallestIcon || items.empty()) return;
-    const auto firstWindow =
-        std::find_if(items.begin(), items.end(), [](const DockItem& item) { return item.window != 0; });
-    const double room = firstWindow == items.end() ? 0 : dividerRoom;
-    const double width = static_cast<double>(items.size()) * (icon + dockGap) + dockGap + room;
-    plate = CGRectMake(std::floor((strip.width - width) / 2), 2, width, height);
-    double x = plate.minX() + dockGap;
-    for (auto item = items.begin(); item != items.end(); ++item) {
-        if (item == firstWindow) {
-            divider = x + dividerRoom / 2 - dockGap / 2;
-            x += dividerRoom;
-        }
-        icons.push_back(CGRectMake(x, plate.minY() + 6, icon, icon));
-        x += icon + dockGap;
-    }
+views::LaidOutView shownDock(const Machine& machine, platform::CGSize strip) {
+    const Shades shades{machine.appearance.colorScheme.get()};
+    return {dockView(dockItems(machine), strip.height, shades), strip, machine.text};
 }
 
 bool isOnDock(const Machine& machine, const CGPoint& point) {
-    const auto strip = stripAt(machine, point);
-    return strip && containsInside(DockLayout(strip->size, dockItems(machine)).plate, insideWindow(*strip, point));
+    return !idAt(machine, point).empty();
 }
 
 std::optional<std::size_t> dockItemAt(const Machine& machine, const CGPoint& point) {
-    const auto strip = stripAt(machine, point);
-    if (!strip) return std::nullopt;
-    const DockLayout layout(strip->size, dockItems(machine));
-    for (std::size_t i = 0; i < layout.icons.size(); ++i)
-        if (containsInside(layout.icons[i], insideWindow(*strip, point))) return i;
-    return std::nullopt;
+    const std::string id = idAt(machine, point);
+    if (id.empty() || id == dockPlateId) return std::nullopt;
+    return std::stoul(id);
 }
 
 void openDockItem(Machine& machine, const DockItem& item) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/Geometry.h"
+#include "views/LaidOutView.h"
 
 namespace desk {
 
@@ -23,14 +24,8 @@ struct DockItem {
 
 std::vector<DockItem> dockItems(const Machine& machine);
 
-// In the strip of that size at the screen's lower edge, y downward.
-struct DockLayout {
-    DockLayout(platform::CGSize strip, const std::vector<DockItem>& items);
-
-    platform::CGRect plate;  // empty in a strip that is too low for icons
-    std::vector<platform::CGRect> icons;
-    std::optional<double> divider;  // between applications and windows
-};
+// In the strip of that size at the screen's lower edge; see DockView.h.
+views::LaidOutView shownDock(const Machine& machine, platform::CGSize strip);
 
 // Which of the items stands there (a point of the screen); empty beside the Dock and between icons.
 std::optional<std::size_t> dockItemAt(const Machine& machine, const platform::CGPoint& point);

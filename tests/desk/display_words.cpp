@@ -1,7 +1,7 @@
 // How sizes and dates are worded, at the borders of their units.
 #include <gtest/gtest.h>
 
-#include "desk/display/FinderWords.h"
+#include "desk/finder/FinderWords.h"
 
 namespace {
 

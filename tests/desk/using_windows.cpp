@@ -86,8 +86,11 @@ protected:
     UsingMenus() { machine.displays.set({{CGRectMake(0, 0, 1440, 900), 60, 24, 70}}); }
 
     CGPoint title(const std::string& text) {
-        for (const desk::MenuBarTitle& each : input.menuBar().titles(CGRectMake(0, 876, 1440, 24)))
-            if (each.text == text) return {each.box.midX(), 900 - each.box.midY()};
+        const views::LaidOutView bar = input.menuBar().shown(CGRectMake(0, 876, 1440, 24));
+        const auto titles = desk::menuBarMenus(machine, *machine.processes.frontmost());
+        for (std::size_t i = 0; i < titles.size(); ++i)
+            if (const auto box = bar.frameOf(std::to_string(i)); titles[i] == text && box)
+                return {box->midX(), 900 - box->midY()};
         ADD_FAILURE() << "no menu " << text;
         return {};
     }
@@ -110,9 +113,10 @@ protected:
     }
     CGPoint dockIcon(const std::string& name) {
         const auto items = desk::dockItems(machine);
-        const desk::DockLayout layout({1440, 70}, items);
+        const views::LaidOutView dock = desk::shownDock(machine, {1440, 70});
         for (std::size_t i = 0; i < items.size(); ++i)
-            if (items[i].name == name) return {layout.icons[i].midX(), 70 - layout.icons[i].midY()};
+            if (const auto icon = dock.frameOf(std::to_string(i)); items[i].name == name)
+                return {icon->midX(), 70 - icon->midY()};
         ADD_FAILURE() << "nothing in the Dock is called " << name;
         return {};
     }

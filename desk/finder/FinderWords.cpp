@@ -1,4 +1,4 @@
-#include "desk/display/FinderWords.h"
+#include "desk/finder/FinderWords.h"
 
 #include <algorithm>
 #include <array>
