@@ -6,11 +6,11 @@ namespace desk {
 class Activation;
 class Disk;
 class Displays;
+class Faults;
 class LaunchServices;
 class Processes;
 class Scheduler;
 class WindowStack;
-struct Faults;
 struct Permissions;
 
 struct FinderNeighbours {

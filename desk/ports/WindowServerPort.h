@@ -6,9 +6,9 @@
 namespace desk {
 
 class Displays;
+class Faults;
 class Finder;
 class WindowStack;
-struct Faults;
 struct ServerWindow;
 
 class WindowServerPort final : public platform::WindowServer {
