@@ -245,18 +245,9 @@ AXError FinderAccessibility::performAction(const AXUIElement& element, std::stri
     return result(finder.raise(static_cast<std::int64_t>(element.identity)));
 }
 
-std::uint64_t FinderAccessibility::subscribe(Listener listener) {
-    listeners.emplace(++lastSubscription, std::move(listener));
-    return lastSubscription;
-}
-
-void FinderAccessibility::unsubscribe(std::uint64_t subscription) {
-    listeners.erase(subscription);
-}
-
 void FinderAccessibility::post(std::int64_t window, const std::string& notification) {
     const Faults& faults = neighbours.faults;
-    if (faults.notifications == NotificationFault::drop || listeners.empty()) return;
+    if (faults.notifications == NotificationFault::drop || told.subscriberCount() == 0) return;
     const AXUIElement element = window == 0 ? applicationElement() : windowElement(window);
     platform::Date due = neighbours.scheduler.now();
     if (faults.notifications == NotificationFault::late) {
@@ -266,19 +257,10 @@ void FinderAccessibility::post(std::int64_t window, const std::string& notificat
     }
     const int copies = faults.notifications == NotificationFault::doubled ? 2 : 1;
     for (int copy = 0; copy < copies; ++copy)
-        neighbours.scheduler.at(due, [this, element, notification] { deliver(element, notification); });
-}
-
-void FinderAccessibility::deliver(const AXUIElement& element, const std::string& notification) const {
-    if (element.processIdentifier != finder.pid()) return;
-    std::vector<std::uint64_t> present;
-    for (const auto& [subscription, listener] : listeners) present.push_back(subscription);
-    for (const std::uint64_t subscription : present) {
-        const auto listener = listeners.find(subscription);
-        if (listener == listeners.end()) continue;
-        const Listener callback = listener->second;
-        callback(element, notification);
-    }
+        neighbours.scheduler.at(due, [this, element, notification] {
+            // Finder may have quit meanwhile.
+            if (element.processIdentifier == finder.pid()) told(element, notification);
+        });
 }
 
 }  // namespace desk

@@ -4,15 +4,13 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "desk/finder/FinderNeighbours.h"
 #include "platform/Accessibility.h"
+#include "platform/Signal.h"
 #include "platform/Time.h"
 
 namespace desk {
@@ -30,10 +28,8 @@ public:
                                    const platform::AXAttributeValue& value);
     platform::AXError performAction(const platform::AXUIElement& element, std::string_view action);
 
-    // Called for each notification, as a posted item; the subscriber filters by what it has registered for. The answer serves unsubscribe().
-    using Listener = std::function<void(const platform::AXUIElement& element, const std::string& notification)>;
-    std::uint64_t subscribe(Listener listener);
-    void unsubscribe(std::uint64_t subscription);
+    // Each notification, as a posted item; the subscriber filters by what it has registered for.
+    platform::Signal<const platform::AXUIElement&, const std::string&> told;
 
     // Finder tells what happened to a window; 0 is the application itself. Faults decide whether it is delivered, once, twice, late or not at all.
     void post(std::int64_t window, const std::string& notification);
@@ -60,12 +56,8 @@ private:
     platform::AXError setFocusedWindow(std::int64_t application, const platform::AXAttributeValue& value);
     platform::AXError setFrontmost(std::int64_t application, const platform::AXAttributeValue& value);
 
-    void deliver(const platform::AXUIElement& element, const std::string& notification) const;
-
     Finder& finder;
     FinderNeighbours neighbours;
-    std::map<std::uint64_t, Listener> listeners;
-    std::uint64_t lastSubscription = 0;
     platform::Date lastLateDelivery = platform::Date::distantPast();
 };
 

@@ -4,8 +4,8 @@
 #include <functional>
 #include <optional>
 
-#include "desk/ports/Registry.h"
 #include "platform/Events.h"
+#include "platform/Registry.h"
 
 namespace desk {
 
@@ -41,8 +41,8 @@ private:
     };
 
     const Input& input;
-    Registry<GlobalMonitor> globalMonitors;
-    Registry<LocalMonitor> localMonitors;
+    platform::Registry<GlobalMonitor> globalMonitors;
+    platform::Registry<LocalMonitor> localMonitors;
 };
 
 }  // namespace desk

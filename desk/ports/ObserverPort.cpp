@@ -16,19 +16,18 @@ using platform::AXUIElement;
 ObserverPort::ObserverPort(Finder& theFinder, Permissions& thePermissions, ApplicationLoop& theLoop,
                            std::int32_t theProcessIdentifier, platform::AXObserverCallback theCallback,
                            std::shared_ptr<std::size_t> theCount)
-    : finder(theFinder),
-      permissions(thePermissions),
+    : permissions(thePermissions),
       loop(theLoop),
       processIdentifier(theProcessIdentifier),
       callback(theCallback),
       count(std::move(theCount)),
-      listener(theFinder.accessibility().subscribe([this](const AXUIElement& element, const std::string& notification) {
-          if (match(element, notification) == nullptr) return;
-          loop.mainAsync(lifetime.guard([this, element, notification] { deliver(element, notification); }));
-      })) {}
+      listener(
+          theFinder.accessibility().told.subscribe([this](const AXUIElement& element, const std::string& notification) {
+              if (match(element, notification) == nullptr) return;
+              loop.mainAsync(lifetime.guard([this, element, notification] { deliver(element, notification); }));
+          })) {}
 
 ObserverPort::~ObserverPort() {
-    finder.accessibility().unsubscribe(listener);
     *count -= subscriptions.size();
 }
 

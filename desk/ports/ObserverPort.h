@@ -9,6 +9,7 @@
 
 #include "platform/Accessibility.h"
 #include "platform/Lifetime.h"
+#include "platform/Token.h"
 
 namespace desk {
 
@@ -40,14 +41,13 @@ private:
     const Subscription* match(const platform::AXUIElement& element, const std::string& notification) const;
     void deliver(const platform::AXUIElement& element, const std::string& notification);
 
-    Finder& finder;
     Permissions& permissions;
     ApplicationLoop& loop;
     std::int32_t processIdentifier;
     platform::AXObserverCallback callback;
     std::shared_ptr<std::size_t> count;
     std::vector<Subscription> subscriptions;
-    std::uint64_t listener;
+    platform::Token listener;
     bool isOnRunLoop = false;
     platform::Lifetime lifetime;
 };

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "desk/ports/Registry.h"
+#include "platform/Registry.h"
 #include "platform/Workspace.h"
 
 namespace desk {
@@ -49,7 +49,7 @@ private:
     Activation& activation;
     LaunchServices& launchServices;
     LaunchedApplication& application;
-    Registry<Observer> observers;
+    platform::Registry<Observer> observers;
 };
 
 }  // namespace desk

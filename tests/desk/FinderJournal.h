@@ -13,13 +13,10 @@ class FinderJournal {
 public:
     explicit FinderJournal(desk::Machine& theMachine)
         : machine(theMachine),
-          subscription(theMachine.finder.accessibility().subscribe(
+          subscription(theMachine.finder.accessibility().told.subscribe(
               [this](const platform::AXUIElement& element, const std::string& notification) {
                   lines.push_back(notification + " " + std::to_string(element.identity));
               })) {}
-    ~FinderJournal() { machine.finder.accessibility().unsubscribe(subscription); }
-    FinderJournal(const FinderJournal&) = delete;
-    FinderJournal& operator=(const FinderJournal&) = delete;
 
     // What has come since it was last asked.
     std::vector<std::string> take() {
@@ -29,7 +26,7 @@ public:
 
 private:
     desk::Machine& machine;
-    std::uint64_t subscription;
+    platform::Token subscription;
     std::vector<std::string> lines;
 };
 

@@ -59,7 +59,7 @@ TEST_F(FinderWindows, TellOfOpeningAndClosingInOrder) {
 
     // Off every list before anything is told.
     Lines during;
-    machine.finder.accessibility().subscribe([&](const auto&, const std::string& notification) {
+    const auto token = machine.finder.accessibility().told.subscribe([&](const auto&, const std::string& notification) {
         during.push_back(notification + (machine.windows.find(103) == nullptr ? "" : " too early"));
     });
     finder.close(103);
