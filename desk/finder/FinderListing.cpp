@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/FileURL.h"
+#include "platform/NameOrder.h"
 
 namespace desk {
 
@@ -28,24 +29,17 @@ bool FinderListing::update(const Disk& disk, platform::Collation& collation, con
 }
 
 void FinderListing::read(const Disk& disk, platform::Collation& collation) {
-    struct Keyed {
-        std::string key;
-        DiskEntry entry;
-    };
     sorted.clear();
     auto listed = folder ? disk.list(*folder) : std::vector<DiskEntry>{};
     readable = listed.has_value();
     if (!listed) return;
-    std::vector<Keyed> keyed;
-    keyed.reserve(listed->size());
-    for (DiskEntry& entry : *listed) {
-        if (entry.isHidden) continue;
-        keyed.push_back({{}, std::move(entry)});
-        collation.appendLocalizedStandardKey(keyed.back().entry.name, keyed.back().key);
-    }
-    std::sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) { return a.key < b.key; });
-    sorted.reserve(keyed.size());
-    for (Keyed& each : keyed) sorted.push_back(std::move(each.entry));
+    std::erase_if(*listed, [](const DiskEntry& entry) { return entry.isHidden; });
+    std::vector<std::string_view> names;
+    names.reserve(listed->size());
+    for (const DiskEntry& entry : *listed) names.push_back(entry.name);
+    sorted.reserve(listed->size());
+    for (const std::size_t index : platform::orderOfNames(names, collation))
+        sorted.push_back(std::move((*listed)[index]));
 }
 
 std::string FinderListing::pathOf(std::size_t row) const {
