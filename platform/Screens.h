@@ -26,6 +26,9 @@ public:
     virtual std::optional<NSScreen> mainScreen() = 0;
 };
 
+// Of equal areas the earlier one, so that a rectangle on no screen gets the first; null without screens.
+const NSScreen* screenShowingMost(const std::vector<NSScreen>& screens, const CGRect& appKitRect);
+
 struct Appearance : ObservableObject {
     Published<ColorScheme> colorScheme{*this, ColorScheme::light};
 };

@@ -182,7 +182,7 @@ void FinderObserver::setVisibleWindows(std::vector<FinderWindowState> list) {
 }
 
 const platform::NSScreen* FinderObserver::screen(const platform::CGRect& rect) const {
-    return screenShowingMost(platform.screens, rect);
+    return platform::screenShowingMost(platform.screens.screens(), rect);
 }
 
 void FinderObserver::logStatus(std::size_t mergedCount) {

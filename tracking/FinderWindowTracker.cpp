@@ -187,7 +187,7 @@ TrackedFinderWindow FinderWindowTracker::tracked(CGFinderWindow& window, AXFinde
 }
 
 const platform::NSScreen* FinderWindowTracker::bestScreen(const CGRect& rect) const {
-    return screenShowingMost(platform.screens, rect);
+    return platform::screenShowingMost(platform.screens.screens(), rect);
 }
 
 bool FinderWindowTracker::fillsScreen(const CGRect& rect) const {

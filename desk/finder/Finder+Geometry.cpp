@@ -13,25 +13,6 @@ namespace desk {
 using platform::CGRect;
 using platform::NSWindowOrderingMode;
 
-namespace {
-
-// The screen that shows most of the rectangle, the earliest of equals.
-std::optional<platform::NSScreen> bestScreen(const std::vector<platform::NSScreen>& screens, const CGRect& rect) {
-    const platform::NSScreen* best = nullptr;
-    double bestArea = -1;
-    for (const platform::NSScreen& screen : screens) {
-        const CGRect shared = platform::CGRectIntersection(screen.frame, rect);
-        const double area = platform::CGRectIsNull(shared) ? 0 : shared.width() * shared.height();
-        if (area > bestArea) {
-            bestArea = area;
-            best = &screen;
-        }
-    }
-    return best == nullptr ? std::nullopt : std::optional(*best);
-}
-
-}  // namespace
-
 bool Finder::isFrontmost() const {
     const Process* frontmost = neighbours.processes.frontmost();
     return frontmost != nullptr && frontmost->processIdentifier == processIdentifier;
@@ -105,9 +86,13 @@ bool Finder::setFullScreen(std::int64_t number, bool fullScreen) {
     return true;
 }
 
+const platform::NSScreen* Finder::screenOf(std::int64_t number) const {
+    return platform::screenShowingMost(neighbours.displays.screens(), neighbours.windows.find(number)->frame);
+}
+
 bool Finder::enterFullScreen(FinderWindow& window) {
-    const auto screen = bestScreen(neighbours.displays.screens(), neighbours.windows.find(window.number)->frame);
-    if (!screen) return false;
+    const platform::NSScreen* screen = screenOf(window.number);
+    if (screen == nullptr) return false;
     setMinimized(window, false);
     const ServerWindow* shown = neighbours.windows.find(window.number);
     window.frameBeforeFullScreen = shown->frame;
@@ -132,8 +117,8 @@ void Finder::leaveFullScreen(FinderWindow& window) {
 bool Finder::zoom(std::int64_t number) {
     FinderWindow* window = folderWindow(number);
     const ServerWindow* shown = neighbours.windows.find(number);
-    const auto screen = shown == nullptr ? std::nullopt : bestScreen(neighbours.displays.screens(), shown->frame);
-    if (window == nullptr || window->fullScreen || !screen) return false;
+    const platform::NSScreen* screen = shown == nullptr ? nullptr : screenOf(number);
+    if (window == nullptr || window->fullScreen || screen == nullptr) return false;
     // The height alone can have been changed to make room for what stands above it.
     const bool isZoomed = window->frameBeforeZoom && shown->frame.width() == screen->visibleFrame.width();
     const CGRect wanted = isZoomed ? *window->frameBeforeZoom : screen->visibleFrame;
@@ -145,9 +130,7 @@ bool Finder::zoom(std::int64_t number) {
 void Finder::refitFullScreenWindows() {
     for (const FinderWindow& window : list) {
         if (!window.fullScreen) continue;
-        if (const auto screen =
-                bestScreen(neighbours.displays.screens(), neighbours.windows.find(window.number)->frame))
-            moveTo(window.number, screen->frame);
+        if (const platform::NSScreen* screen = screenOf(window.number)) moveTo(window.number, screen->frame);
     }
 }
 

@@ -14,6 +14,10 @@
 #include "platform/Geometry.h"
 #include "platform/Token.h"
 
+namespace platform {
+struct NSScreen;
+}
+
 namespace desk {
 
 class FinderAccessibility;
@@ -99,6 +103,8 @@ private:
     void placeAmongOthers(std::int64_t number);
     void moveTo(std::int64_t number, const platform::CGRect& frame);
     void setMinimized(FinderWindow& window, bool minimized);
+    // The one that shows most of the window; null without displays.
+    const platform::NSScreen* screenOf(std::int64_t number) const;
     bool enterFullScreen(FinderWindow& window);
     void leaveFullScreen(FinderWindow& window);
     void refitFullScreenWindows();
