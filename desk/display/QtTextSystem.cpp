@@ -1,8 +1,5 @@
 #include "desk/display/QtTextSystem.h"
 
-#include <unicode/brkiter.h>
-#include <unicode/utext.h>
-
 #include <cmath>
 #include <vector>
 
@@ -17,38 +14,7 @@ constexpr std::string_view ellipsis = "\u2026";
 
 }  // namespace
 
-// Where one may cut: byte offsets of grapheme cluster boundaries, 0 and the end included.
-class QtTextSystem::Clusters {
-public:
-    Clusters() {
-        UErrorCode status = U_ZERO_ERROR;
-        iterator.reset(icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-        if (U_FAILURE(status)) iterator.reset();
-    }
-
-    std::vector<std::size_t> boundaries(std::string_view text) {
-        std::vector<std::size_t> result;
-        UErrorCode status = U_ZERO_ERROR;
-        UText opened = UTEXT_INITIALIZER;
-        utext_openUTF8(&opened, text.data(), static_cast<std::int64_t>(text.size()), &status);
-        if (iterator != nullptr) iterator->setText(&opened, status);
-        if (iterator == nullptr || U_FAILURE(status)) {
-            utext_close(&opened);
-            return {0, text.size()};
-        }
-        for (std::int32_t at = iterator->first(); at != icu::BreakIterator::DONE; at = iterator->next())
-            result.push_back(static_cast<std::size_t>(at));
-        utext_close(&opened);
-        return result;
-    }
-
-private:
-    std::unique_ptr<icu::BreakIterator> iterator;
-};
-
-QtTextSystem::QtTextSystem() : clusters(std::make_unique<Clusters>()), widths(4096), truncations(1024) {}
-
-QtTextSystem::~QtTextSystem() = default;
+QtTextSystem::QtTextSystem() : widths(4096), truncations(1024) {}
 
 double QtTextSystem::width(std::string_view text, platform::Font font) {
     if (text.size() > longestKeptText) return laidOut(text, font).width();
@@ -84,7 +50,7 @@ std::string QtTextSystem::truncatedInMiddle(std::string_view text, platform::Fon
 
 // Shaping makes widths of pieces not quite additive, so the search is confirmed by measuring what it answers.
 std::string QtTextSystem::truncate(std::string_view text, platform::Font font, double width) {
-    const std::vector<std::size_t> cuts = clusters->boundaries(text);
+    const std::vector<std::size_t> cuts = boundaries.edgesOfCharacters(text);
     const auto keeping = [&](std::size_t count) {
         const std::size_t tail = count / 2;
         std::string result(text.substr(0, cuts[count - tail]));

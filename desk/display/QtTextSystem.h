@@ -13,6 +13,7 @@
 #include "desk/display/SymbolSet.h"
 #include "desk/display/SystemFonts.h"
 #include "desk/display/TextKey.h"
+#include "desk/text/IcuTextBoundaries.h"
 #include "platform/Text.h"
 
 namespace desk {
@@ -20,7 +21,6 @@ namespace desk {
 class QtTextSystem final : public platform::TextSystem {
 public:
     QtTextSystem();
-    ~QtTextSystem() override;
 
     double width(std::string_view text, platform::Font font) override;
     platform::FontMetrics metrics(platform::Font font) override;
@@ -31,7 +31,6 @@ public:
     std::optional<platform::CGSize> symbolSize(std::string_view name, platform::Font font) override;
 
 private:
-    class Clusters;
     struct Truncation {
         double width = 0;
         std::string result;
@@ -43,7 +42,7 @@ private:
     SystemFonts fonts;
     SymbolSet symbols;
     std::unique_ptr<LaidOutLine> latest;  // at each key of a field its width, caret and selection are asked for
-    std::unique_ptr<Clusters> clusters;
+    IcuTextBoundaries boundaries;
     BoundedCache<TextKey, double, TextHash, TextEqual> widths;
     BoundedCache<TextKey, Truncation, TextHash, TextEqual> truncations;  // the last one of each text
 };

@@ -60,6 +60,15 @@ std::size_t IcuTextBoundaries::previousCharacter(std::string_view text, std::siz
     return found == icu::BreakIterator::DONE ? 0 : static_cast<std::size_t>(found);
 }
 
+std::vector<std::size_t> IcuTextBoundaries::edgesOfCharacters(std::string_view text) {
+    const Reading reading(characters.get(), text);
+    if (!reading.isPossible()) return {0, text.size()};
+    std::vector<std::size_t> edges;
+    for (std::int32_t edge = characters->first(); edge != icu::BreakIterator::DONE; edge = characters->next())
+        edges.push_back(static_cast<std::size_t>(edge));
+    return edges;
+}
+
 std::size_t IcuTextBoundaries::nextWord(std::string_view text, std::size_t offset) {
     if (offset >= text.size()) return text.size();
     const Reading reading(words.get(), text);

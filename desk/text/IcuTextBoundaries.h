@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <unicode/brkiter.h>
 
@@ -17,6 +18,9 @@ public:
     std::size_t previousCharacter(std::string_view text, std::size_t offset) override;
     std::size_t nextWord(std::string_view text, std::size_t offset) override;
     std::size_t previousWord(std::string_view text, std::size_t offset) override;
+
+    // Byte offsets between which characters lie, 0 and the text's size included.
+    std::vector<std::size_t> edgesOfCharacters(std::string_view text);
 
 private:
     // Null when the library's data is missing.
