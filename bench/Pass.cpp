@@ -64,8 +64,9 @@ struct Stage {
             const double shift = index % 300;
             desk.machine.finder.open(path, platform::CGRectMake(10 + shift, 50 + shift, 700, 400));
         }
-        application = &desk.machine.applications.launch(
-            "/Applications/Orvane.app", {}, [](platform::Platform&) { return std::make_unique<NoDelegate>(); });
+        application =
+            &desk.machine.applications.launch(desk::bundleAt(desk.machine.disk, "/Applications/Orvane.app"),
+                                              [](platform::Platform&) { return std::make_unique<NoDelegate>(); });
         desk.machine.settle();
     }
 

@@ -26,10 +26,7 @@ Machine::Machine(platform::TextSystem& theText)
       finder(neighboursOfFinder()),
       scripting(finder, neighboursOfFinder()),
       text(theText),
-      applications(scheduler, processes,
-                   [this](LaunchedApplication& application, const ApplicationImage& image) {
-                       return makePorts(application, image);
-                   }),
+      applications(scheduler, processes, [this](LaunchedApplication& application) { return makePorts(application); }),
       start(startOfStories) {
     subscriptions.push_back(processes.frontmostChanged.subscribe([this] { frontmostHasChanged(); }));
     subscriptions.push_back(activation.keyboardTaken.subscribe([this] { input.makeKey(0); }));
@@ -42,12 +39,11 @@ FinderNeighbours Machine::neighboursOfFinder() {
     return {scheduler, disk, displays, windows, processes, permissions, faults, activation, launchServices};
 }
 
-std::unique_ptr<ApplicationBackend> Machine::makePorts(LaunchedApplication& application,
-                                                       const ApplicationImage& image) {
+std::unique_ptr<ApplicationBackend> Machine::makePorts(LaunchedApplication& application) {
     const PortNeighbours neighbours{clock,          disk,       displays,    windows,   processes, activation,
                                     launchServices, faults,     permissions, input,     menus,     finder,
                                     scripting,      appearance, defaults,    clipboard, text};
-    return std::make_unique<ApplicationPorts>(neighbours, application, image);
+    return std::make_unique<ApplicationPorts>(neighbours, application);
 }
 
 Machine::~Machine() = default;

@@ -72,7 +72,7 @@ public:
 
 private:
     FinderNeighbours neighboursOfFinder();
-    std::unique_ptr<ApplicationBackend> makePorts(LaunchedApplication& application, const ApplicationImage& image);
+    std::unique_ptr<ApplicationBackend> makePorts(LaunchedApplication& application);
     void frontmostHasChanged();
     void spaceHasChanged();
 

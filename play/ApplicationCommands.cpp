@@ -37,12 +37,8 @@ void setDefault(ScriptPlayer& player, const Arguments& arguments) {
 void setInfo(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 100);
     player.requireBeforeLaunch();
-    auto& info = player.session().image.info;
-    if (arguments.count() == 1) {
-        info.erase(arguments.text(0));
-    } else {
-        info[arguments.text(0)] = platform::Value(arguments.rest(1));
-    }
+    const platform::Value value = arguments.count() == 1 ? platform::Value() : platform::Value(arguments.rest(1));
+    player.session().info.insert_or_assign(arguments.text(0), value);
 }
 
 void startProcess(ScriptPlayer& player, const Arguments& arguments) {
@@ -54,6 +50,7 @@ void launchApplication(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(0, 1);
     const std::string path = arguments.count() == 1 ? arguments.path(0) : std::string(installedCopy);
     player.requirePath(path);
+    if (!player.session().isCopy(path)) badCommand("no copy of the application: " + path);
     player.session().launch(path);
 }
 

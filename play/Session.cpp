@@ -15,30 +15,34 @@ public:
 }  // namespace
 
 Session::Session() {
-    image.info = {{"CFBundleIdentifier", image.bundleIdentifier}, {"CFBundleName", image.name}};
     setDefault("hasCompletedOnboardingV1", true);
     machine.launchServices.startProgram = [this](const std::string& bundlePath) {
-        const bool isCopy = machine.disk.exists(bundlePath + "/Contents/MacOS/Orvane");
-        if (isCopy) launch(bundlePath);
-        return isCopy;
+        const bool isOurs = isCopy(bundlePath);
+        if (isOurs) launch(bundlePath);
+        return isOurs;
     };
 }
 
 Session::~Session() = default;
 
+bool Session::isCopy(const std::string& path) const {
+    return machine.disk.exists(path + "/Contents/MacOS/Orvane");
+}
+
 void Session::launch(const std::string& bundlePath) {
     launched = true;
-    machine.applications.launch(bundlePath, image,
+    machine.applications.launch(desk::bundleAt(machine.disk, bundlePath, info),
                                 [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
 }
 
 const platform::Dictionary& Session::defaults() {
     const auto* living = application();
-    return machine.defaults[image.domain(living == nullptr ? installedCopy : living->bundlePath())];
+    const auto bundle = living == nullptr ? desk::bundleAt(machine.disk, installedCopy, info) : living->bundle();
+    return machine.defaults[bundle.defaultsDomain()];
 }
 
 void Session::setDefault(const std::string& key, const std::optional<platform::Value>& value) {
-    for (const std::string& domain : {image.bundleIdentifier, std::string(installedCopy)}) {
+    for (const std::string domain : {applicationIdentifier, installedCopy}) {
         machine.defaults[domain].erase(key);
         if (value) machine.defaults[domain].emplace(key, *value);
     }

@@ -11,6 +11,7 @@
 
 namespace play {
 
+inline constexpr const char* applicationIdentifier = "com.velmora.Brindle";
 inline constexpr const char* installedCopy = "/Applications/Orvane.app";
 
 class Session {
@@ -23,14 +24,16 @@ public:
     desk::Machine machine{text};
     desk::Compositor compositor;
 
-    // What a launch starts.
-    desk::ApplicationImage image;
+    // What scripts say in the Info dictionary of each copy that is launched, over what its own says; null takes a key away.
+    platform::Dictionary info;
 
     // The application's stored user defaults: of its living copy, or else of what a launch would start.
     const platform::Dictionary& defaults();
     // A stored default, or its removal. It holds for an installed copy without an identifier too.
     void setDefault(const std::string& key, const std::optional<platform::Value>& value);
 
+    // A copy of the application is a folder with its executable in it.
+    bool isCopy(const std::string& path) const;
     void launch(const std::string& bundlePath);
     bool hasLaunched() const { return launched; }
 

@@ -5,6 +5,7 @@
 #include <deque>
 #include <stdexcept>
 
+#include "desk/disk/DiskPaths.h"
 #include "desk/disk/HostFolder.h"
 #include "desk/disk/SampleVolume.h"
 #include "platform/FileURL.h"
@@ -15,28 +16,10 @@ namespace desk {
 namespace {
 
 constexpr int mostLinks = 32;
+constexpr const char* installedName = "Orvane.app";
 constexpr std::array<std::string_view, 14> packageExtensions = {
     "app",    "appex",         "bundle",     "component", "download", "kext",  "mpkg",
     "plugin", "photoslibrary", "playground", "prefpane",  "rtfd",     "saver", "xcodeproj"};
-
-std::string joined(std::string_view folder, std::string_view name) {
-    std::string path(folder == "/" ? "" : folder);
-    path += '/';
-    path += name;
-    return path;
-}
-
-// The names on the way from a folder to a path below it; empty when it doesn't lie below.
-std::string_view below(std::string_view folder, std::string_view path) {
-    if (folder == "/") return path.substr(1);
-    const bool isBelow =
-        path.size() > folder.size() && path.substr(0, folder.size()) == folder && path[folder.size()] == '/';
-    return isBelow ? path.substr(folder.size() + 1) : std::string_view();
-}
-
-bool isAtOrBelow(std::string_view folder, std::string_view path) {
-    return path == folder || !below(folder, path).empty();
-}
 
 void pushFront(std::deque<std::string>& names, std::string_view path) {
     const std::vector<std::string> components = platform::pathComponents(path);
@@ -65,11 +48,12 @@ Disk::Disk() {
     if (!folder) throw std::runtime_error("no temporary folder can be made");
     temporaryFolder = *folder;
     const std::pair<const char*, std::string> scratch[] = {
-        {"/", "volume"}, {"/tmp", "tmp"}, {"/System", "system"}, {"/Applications/Orvane.app", "application"}};
+        {"/", "volume"}, {"/tmp", "tmp"}, {"/System", "system"}, {"/Applications", "applications"}};
     for (const auto& [path, name] : scratch) {
         host::makeFolders(temporaryFolder + "/" + name);
         setMount(path, temporaryFolder + "/" + name, true);
     }
+    host::copyAll(BRINDLE_BUNDLE, temporaryFolder + "/applications/" + installedName);
     makeScratchContents(*this);
     makeSampleVolume(*this);
 }
@@ -79,7 +63,27 @@ Disk::~Disk() {
 }
 
 std::optional<std::string> Disk::useAsStartupVolume(const std::string& hostFolder) {
-    return setMount("/", hostFolder, false);
+    const std::string before = mounts.back().host;
+    const auto problem = setMount("/", hostFolder, false);
+    if (!problem) replaceApplications(before);
+    return problem;
+}
+
+void Disk::replaceApplications(const std::string& volumeBefore) {
+    std::erase_if(mounts, [&](const Mount& mount) {
+        return !below("/Applications", mount.path).empty() && isAtOrBelow(volumeBefore, mount.host);
+    });
+    const std::string scratch = temporaryFolder + "/applications";
+    std::vector<std::string> replaced;
+    host::list(scratch, [&](std::string_view name, auto) {
+        if (name != installedName) replaced.push_back(joined(scratch, name));
+    });
+    for (const std::string& entry : replaced) host::removeAll(entry);
+    const std::string folder = joined(mounts.back().host, "Applications");
+    host::list(folder, [&](std::string_view name, host::EntryKind kind) {
+        if (kind == host::EntryKind::directory && name != installedName && views::isWellFormed(name))
+            setMount(joined("/Applications", name), joined(folder, name), false);
+    });
 }
 
 std::optional<std::string> Disk::mount(const std::string& path, const std::string& hostFolder) {
@@ -233,60 +237,6 @@ std::optional<std::string> Disk::hostPath(const std::string& path) const {
 std::optional<std::string> Disk::read(const std::string& path) const {
     const auto place = walk(path, Last::followed, Missing::refused);
     return place ? host::read(place->host) : std::nullopt;
-}
-
-void Disk::setUnreadable(const std::string& path) {
-    ++changes;
-    if (const auto place = walk(path, Last::followed, Missing::allowed)) unreadable.insert(place->path);
-}
-
-bool Disk::isWritable(const std::string& path) const {
-    const auto place = walk(path, Last::followed, Missing::allowed);
-    return place && mountOf(place->path).writable;
-}
-
-std::optional<Disk::Place> Disk::placeToWrite(const std::string& path, Last last) {
-    auto place = walk(path, last, Missing::allowed);
-    const bool allowed = place && mountOf(place->path).writable;
-    if (!allowed) return std::nullopt;
-    // Writing to a file that is there changes no list.
-    if (!place->exists || last == Last::taken) ++changes;
-    return place;
-}
-
-bool Disk::makeFolder(const std::string& path) {
-    const auto place = placeToWrite(path, Last::followed);
-    return place && host::makeFolders(place->host);
-}
-
-bool Disk::makeFile(const std::string& path, std::string_view contents) {
-    const auto place = placeToWrite(path, Last::followed);
-    return place && !place->isDirectory && host::makeFolders(platform::deletingLastPathComponent(place->host)) &&
-           host::write(place->host, contents);
-}
-
-bool Disk::makeSymbolicLink(const std::string& path, const std::string& target) {
-    const auto place = placeToWrite(path, Last::taken);
-    return place && !place->exists && !target.empty() &&
-           host::makeFolders(platform::deletingLastPathComponent(place->host)) && host::makeLink(place->host, target);
-}
-
-bool Disk::remove(const std::string& path) {
-    const auto place = placeToWrite(path, Last::taken);
-    return place && place->exists && !isMountOrParentOfOne(place->path) && host::removeAll(place->host);
-}
-
-bool Disk::copy(const std::string& source, const std::string& destination) {
-    const auto from = walk(source, Last::taken, Missing::refused);
-    const auto to = placeToWrite(destination, Last::taken);
-    if (!from || !to || to->exists || isAtOrBelow(from->path, to->path)) return false;
-    return host::makeFolders(platform::deletingLastPathComponent(to->host)) && host::copyAll(from->host, to->host);
-}
-
-bool Disk::move(const std::string& source, const std::string& destination) {
-    const auto from = placeToWrite(source, Last::taken);
-    if (!from || isMountOrParentOfOne(from->path)) return false;
-    return copy(source, destination) && remove(source);
 }
 
 }  // namespace desk

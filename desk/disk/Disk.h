@@ -31,7 +31,7 @@ public:
     Disk(const Disk&) = delete;
     Disk& operator=(const Disk&) = delete;
 
-    // Read-only. Empty on success, else one line saying what is wrong (no such host folder, ...).
+    // Read-only, and so are the applications it holds, which show beside the installed copy of ours. Empty on success, else one line saying what is wrong (no such host folder, ...).
     std::optional<std::string> useAsStartupVolume(const std::string& hostFolder);
     std::optional<std::string> mount(const std::string& path, const std::string& hostFolder);
 
@@ -100,6 +100,8 @@ private:
     bool isMountOrParentOfOne(std::string_view path) const;
     std::optional<Place> placeToWrite(const std::string& path, Last last);
     std::optional<std::string> setMount(const std::string& path, const std::string& hostFolder, bool writable);
+    // The applications in sight are those of the startup volume, whatever it was before.
+    void replaceApplications(const std::string& volumeBefore);
     void addMountPoints(const std::string& path, std::vector<DiskEntry>& entries) const;
 
     std::string temporaryFolder;

@@ -74,9 +74,6 @@ void makeSampleVolume(Disk& disk) {
 
 void makeScratchContents(Disk& disk) {
     constexpr SampleFile scratchFiles[] = {
-        {"/Applications/Orvane.app/Contents/Info.plist", "<plist/>\n"},
-        {"/Applications/Orvane.app/Contents/MacOS/Orvane", "binary\n"},
-        {"/Applications/Orvane.app/Contents/Resources/AppIcon.icns", "icon\n"},
         {"/System/Applications/Utilities/Terminal.app/Contents/Info.plist", "<plist/>\n"},
         {"/System/Library/CoreServices/Finder.app/Contents/Info.plist", "<plist/>\n"},
     };

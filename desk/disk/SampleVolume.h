@@ -6,7 +6,7 @@ namespace desk {
 class Disk;
 
 void makeSampleVolume(Disk& disk);
-// What the scratch folders hold whatever the startup volume is: the installed application and the system's own ones.
+// What the scratch folders hold whatever the startup volume is: the system's own applications.
 void makeScratchContents(Disk& disk);
 
 }  // namespace desk

@@ -10,8 +10,7 @@
 
 namespace desk {
 
-ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, LaunchedApplication& theApplication,
-                                   const ApplicationImage& image)
+ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, LaunchedApplication& theApplication)
     : neighbours(theNeighbours),
       application(theApplication),
       workspace(neighbours.processes, neighbours.activation, neighbours.launchServices, application),
@@ -23,8 +22,8 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
       windows(neighbours.windows, neighbours.input, application),
       menus(neighbours.menus, neighbours.windows, application),
       files(neighbours.disk),
-      defaults(neighbours.defaults[image.domain(application.bundlePath())], application),
-      bundle(image.identifier(), application.bundlePath()),
+      defaults(neighbours.defaults[application.bundle().defaultsDomain()], application),
+      bundle(application.bundle(), neighbours.disk),
       pasteboard(neighbours.clipboard),
       uuids(application.processIdentifier()),
       platformOfIt{neighbours.clock,

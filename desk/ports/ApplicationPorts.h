@@ -51,8 +51,7 @@ struct PortNeighbours {
 
 class ApplicationPorts final : public ApplicationBackend {
 public:
-    ApplicationPorts(const PortNeighbours& theNeighbours, LaunchedApplication& theApplication,
-                     const ApplicationImage& image);
+    ApplicationPorts(const PortNeighbours& theNeighbours, LaunchedApplication& theApplication);
 
     platform::Platform& platform() override { return platformOfIt; }
     void dropShared() override { slots.reset(); }

@@ -11,7 +11,6 @@
 namespace desk {
 
 class LaunchedApplication;
-struct ApplicationImage;
 
 // What is registered now, for tests of leaks.
 struct Registrations {
@@ -36,7 +35,6 @@ public:
     virtual Registrations registrations() const = 0;
 };
 
-using BackendFactory =
-    std::function<std::unique_ptr<ApplicationBackend>(LaunchedApplication& application, const ApplicationImage& image)>;
+using BackendFactory = std::function<std::unique_ptr<ApplicationBackend>(LaunchedApplication& application)>;
 
 }  // namespace desk

@@ -16,15 +16,14 @@ Applications::~Applications() {
     while (!running.empty()) running.pop_back();
 }
 
-LaunchedApplication& Applications::launch(const std::string& bundlePath, const ApplicationImage& image,
-                                          const ProgramFactory& factory) {
+LaunchedApplication& Applications::launch(Bundle bundle, const ProgramFactory& factory) {
     Process process;
-    process.bundleIdentifier = image.identifier();
-    process.bundlePath = bundlePath;
-    process.name = image.name;
+    process.bundleIdentifier = bundle.identifier();
+    process.bundlePath = bundle.path;
+    process.name = bundle.name();
     process.hasOwnProgram = true;
     const std::int32_t pid = processes.add(std::move(process));
-    running.push_back(std::make_unique<LaunchedApplication>(scheduler, bundlePath, image, pid, makeBackend));
+    running.push_back(std::make_unique<LaunchedApplication>(scheduler, std::move(bundle), pid, makeBackend));
     LaunchedApplication& launched = *running.back();
     launched.start(factory);
     return launched;

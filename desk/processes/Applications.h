@@ -22,8 +22,7 @@ public:
     Applications& operator=(const Applications&) = delete;
 
     // Starts a copy; its launch callbacks run when the machine next settles.
-    LaunchedApplication& launch(const std::string& bundlePath, const ApplicationImage& image,
-                                const ProgramFactory& factory);
+    LaunchedApplication& launch(Bundle bundle, const ProgramFactory& factory);
     // Those that have ended and aren't destroyed yet among them.
     const std::vector<std::unique_ptr<LaunchedApplication>>& all() const { return running; }
     // Null when none of that number lives.

@@ -4,25 +4,13 @@
 
 namespace desk {
 
-std::optional<std::string> ApplicationImage::identifier() const {
-    if (info.empty()) return bundleIdentifier;
-    const platform::Value* entry = platform::find(info, "CFBundleIdentifier");
-    const auto* text = entry == nullptr ? nullptr : entry->as<std::string>();
-    if (text == nullptr) return std::nullopt;
-    return *text;
-}
-
-std::string ApplicationImage::domain(const std::string& bundlePath) const {
-    return identifier().value_or(bundlePath);
-}
-
-LaunchedApplication::LaunchedApplication(Scheduler& scheduler, std::string theBundlePath, const ApplicationImage& image,
-                                         std::int32_t theProcessIdentifier, const BackendFactory& makeBackend)
-    : path(std::move(theBundlePath)),
+LaunchedApplication::LaunchedApplication(Scheduler& scheduler, Bundle theBundle, std::int32_t theProcessIdentifier,
+                                         const BackendFactory& makeBackend)
+    : launchedBundle(std::move(theBundle)),
       pid(theProcessIdentifier),
       runLoop(std::make_unique<ApplicationLoop>(
           scheduler, [this](const platform::NSEvent& event) { sendEvent(inItsWindow(event)); })),
-      backend(makeBackend(*this, image)) {}
+      backend(makeBackend(*this)) {}
 
 // What is posted may hold on to the program, the program to what is shared, and both to the ports.
 LaunchedApplication::~LaunchedApplication() {

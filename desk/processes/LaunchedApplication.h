@@ -10,6 +10,7 @@
 #include <string>
 
 #include "desk/processes/ApplicationBackend.h"
+#include "desk/processes/Bundle.h"
 #include "desk/time/ApplicationLoop.h"
 #include "platform/Application.h"
 #include "platform/Platform.h"
@@ -26,29 +27,17 @@ public:
 };
 using ProgramFactory = std::function<std::unique_ptr<Program>(platform::Platform&)>;
 
-// What `launch` starts: identity and Info dictionary.
-struct ApplicationImage {
-    std::string bundleIdentifier = "com.velmora.Brindle";
-    std::string name = "Orvane";
-    platform::Dictionary info;
-
-    // The Info dictionary's own word, where there is a dictionary; a bundle can be without an identifier.
-    std::optional<std::string> identifier() const;
-    // Where the user defaults of a copy at that path lie.
-    std::string domain(const std::string& bundlePath) const;
-};
-
 class LaunchedApplication {
 public:
-    LaunchedApplication(Scheduler& scheduler, std::string theBundlePath, const ApplicationImage& image,
-                        std::int32_t theProcessIdentifier, const BackendFactory& makeBackend);
+    LaunchedApplication(Scheduler& scheduler, Bundle theBundle, std::int32_t theProcessIdentifier,
+                        const BackendFactory& makeBackend);
     ~LaunchedApplication();
 
     // Makes the program and queues its launch callbacks.
     void start(const ProgramFactory& factory);
 
     std::int32_t processIdentifier() const { return pid; }
-    const std::string& bundlePath() const { return path; }
+    const Bundle& bundle() const { return launchedBundle; }
     bool isDead() const { return dead; }
     platform::Platform& platform() { return backend->platform(); }
     ApplicationLoop& loop() { return *runLoop; }
@@ -80,7 +69,7 @@ private:
     // Local monitors first, then the window.
     void sendEvent(const platform::NSEvent& event);
 
-    std::string path;
+    Bundle launchedBundle;
     std::int32_t pid;
     bool dead = false;
     std::unique_ptr<ApplicationLoop> runLoop;

@@ -40,12 +40,10 @@ private:
 }  // namespace
 
 std::vector<brindle::FinderWindowState> publishedByFreshStart(Session& session) {
-    desk::ApplicationImage image;
-    image.bundleIdentifier = freshIdentifier;
-    image.name = "Fresh Start";
+    desk::Bundle bundle{installedCopy, {{"CFBundleIdentifier", freshIdentifier}, {"CFBundleName", "Fresh Start"}}};
     desk::Machine& machine = session.machine;
     desk::LaunchedApplication& copy = machine.applications.launch(
-        installedCopy, image, [](platform::Platform& platform) { return std::make_unique<FreshObserver>(platform); });
+        std::move(bundle), [](platform::Platform& platform) { return std::make_unique<FreshObserver>(platform); });
     machine.settle();
     auto published = static_cast<FreshObserver*>(copy.program())->published();
     copy.terminate();

@@ -35,7 +35,7 @@ Lines appearance(const Chooser& choose) {
 std::vector<std::string> runningApplications(const Chooser& choose) {
     std::vector<std::string> identifiers;
     for (const auto& process : choose.session.machine.processes.running())
-        if (process.bundleIdentifier && *process.bundleIdentifier != choose.session.image.bundleIdentifier)
+        if (process.bundleIdentifier && *process.bundleIdentifier != applicationIdentifier)
             identifiers.push_back(*process.bundleIdentifier);
     return identifiers;
 }

@@ -61,12 +61,9 @@ public:
 
 // Launched and settled.
 inline Probe& launchProbe(Desk& desk, const std::string& bundleIdentifier = "org.example.Probe") {
-    desk::ApplicationImage image;
-    image.bundleIdentifier = bundleIdentifier;
-    desk::LaunchedApplication& launched =
-        desk.machine.applications.launch("/Applications/Probe.app", image, [](platform::Platform& platform) {
-            return std::make_unique<Probe>(platform);
-        });
+    desk::LaunchedApplication& launched = desk.machine.applications.launch(
+        {"/Applications/Probe.app", {{"CFBundleIdentifier", bundleIdentifier}, {"CFBundleName", "Orvane"}}},
+        [](platform::Platform& platform) { return std::make_unique<Probe>(platform); });
     desk.machine.settle();
     return *static_cast<Probe*>(launched.program());
 }

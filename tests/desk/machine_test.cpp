@@ -26,12 +26,9 @@ TEST_F(MachineTest, StartsWithFinderInFrontAndNoWindow) {
 }
 
 TEST_F(MachineTest, LaunchCallbacksRunWhenTheMachineSettles) {
-    desk::ApplicationImage image;
-    image.info = {{"CFBundleName", "Nameless"}};
-    auto& launched =
-        desk.machine.applications.launch("/Applications/Copy.app", image, [](platform::Platform& platform) {
-            return std::make_unique<Probe>(platform);
-        });
+    auto& launched = desk.machine.applications.launch(
+        desk::bundleAt(desk.machine.disk, "/Applications/Copy.app"),
+        [](platform::Platform& platform) { return std::make_unique<Probe>(platform); });
     auto& probe = *static_cast<Probe*>(launched.program());
     EXPECT_EQ(probe.log, Log{});
     desk.machine.settle();

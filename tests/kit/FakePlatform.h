@@ -387,7 +387,9 @@ private:
     };
     struct NoBundle final : platform::NSBundle {
         std::optional<std::string> bundleIdentifier() override { return std::nullopt; }
-        std::string bundlePath() override { return {}; }
+        std::string bundleURL() override { return {}; }
+        std::optional<platform::Value> objectForInfoDictionaryKey(const std::string&) override { return {}; }
+        std::optional<std::string> URLForResource(const std::string&, const std::string&) override { return {}; }
     };
     struct NoPasteboard final : platform::NSPasteboard {
         void clearContents() override {}

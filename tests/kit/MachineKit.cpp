@@ -26,8 +26,10 @@ std::unique_ptr<platform::TextSystem> systemText() {
 OrvaneDesk::OrvaneDesk() : Desk(systemText()) {}
 
 desk::LaunchedApplication& OrvaneDesk::launch(const std::string& bundlePath) {
-    desk::LaunchedApplication& launched = machine.applications.launch(
-        bundlePath, image, [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
+    desk::LaunchedApplication& launched =
+        machine.applications.launch(desk::bundleAt(machine.disk, bundlePath), [](platform::Platform& platform) {
+            return std::make_unique<OrvaneProgram>(platform);
+        });
     machine.settle();
     return launched;
 }

@@ -12,9 +12,6 @@ class OrvaneDesk : public Desk {
 public:
     OrvaneDesk();
 
-    // What a launch starts; change it before.
-    desk::ApplicationImage image;
-
     // Starts a copy and lets its launch callbacks run.
     desk::LaunchedApplication& launch(const std::string& bundlePath = "/Applications/Orvane.app");
     // What runs in the copy that was launched last, as long as it lives.

@@ -97,7 +97,9 @@ public:
     void openURLs(const std::vector<std::string>&, const std::string&) override {}
 
     std::optional<std::string> bundleIdentifier() override { return ownBundleIdentifier; }
-    std::string bundlePath() override { return "/Applications/Orvane.app"; }
+    std::string bundleURL() override { return "/Applications/Orvane.app"; }
+    std::optional<platform::Value> objectForInfoDictionaryKey(const std::string&) override { return {}; }
+    std::optional<std::string> URLForResource(const std::string&, const std::string&) override { return {}; }
 
     void note(std::string call) { calls.push_back(std::move(call)); }
 

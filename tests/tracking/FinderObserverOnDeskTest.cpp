@@ -39,11 +39,12 @@ struct FollowedDesk : kit::Desk {
     FinderObserver* observer = nullptr;
 
     void launch() {
-        auto& copy = machine.applications.launch("/Applications/Orvane.app", {}, [this](platform::Platform& platform) {
-            auto program = std::make_unique<Follower>(platform);
-            observer = &program->observer;
-            return program;
-        });
+        auto& copy = machine.applications.launch(desk::bundleAt(machine.disk, "/Applications/Orvane.app"),
+                                                 [this](platform::Platform& platform) {
+                                                     auto program = std::make_unique<Follower>(platform);
+                                                     observer = &program->observer;
+                                                     return program;
+                                                 });
         application = &copy;
         machine.settle();
     }
