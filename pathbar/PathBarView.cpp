@@ -21,7 +21,11 @@ View divider() {
 }
 
 View inPopover(View content) {
-    return std::move(content).font({.size = 13}).padding({.top = 10, .leading = 14, .bottom = 10, .trailing = 14});
+    return std::move(content)
+        .font({.size = 13})
+        .lineLimit(1)
+        .truncationMode(TextTruncation::middle)
+        .padding({.top = 10, .leading = 14, .bottom = 10, .trailing = 14});
 }
 
 }  // namespace
@@ -43,6 +47,8 @@ View PathBarView::body() const {
     return GeometryReader([this](CGSize size) {
                return VStack({.spacing = 2}, plate(size.width)).padding(PathBarMetrics::plateMargin);
            })
+        .lineLimit(1)
+        .truncationMode(TextTruncation::middle)
         .frame({.maxWidth = infinity});
 }
 

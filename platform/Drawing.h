@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/Geometry.h"
+#include "platform/Images.h"
 
 namespace platform {
 
@@ -95,16 +96,29 @@ struct DrawSymbol {
     friend bool operator==(const DrawSymbol&, const DrawSymbol&) = default;
 };
 
-// What follows is cut to the rectangle until the matching EndClip.
+// Low is quick, high keeps what is fine when the picture is made smaller.
+enum class ImageInterpolation : std::uint8_t { low, high };
+
+// A picture, stretched to `rect`.
+struct DrawImage {
+    NSImage image;
+    CGRect rect;
+    ImageInterpolation interpolation = ImageInterpolation::low;
+    friend bool operator==(const DrawImage&, const DrawImage&) = default;
+};
+
+// What follows is cut to the rectangle, with rounded corners if there is a radius, until the matching EndClip.
 struct BeginClip {
     CGRect rect;
+    double radius = 0;
+    CornerStyle corners = CornerStyle::circular;
     friend bool operator==(const BeginClip&, const BeginClip&) = default;
 };
 struct EndClip {
     friend bool operator==(const EndClip&, const EndClip&) = default;
 };
 
-using DrawOperation = std::variant<FillShape, StrokeShape, DrawText, DrawSymbol, BeginClip, EndClip>;
+using DrawOperation = std::variant<FillShape, StrokeShape, DrawText, DrawSymbol, DrawImage, BeginClip, EndClip>;
 
 struct Drawing {
     std::vector<DrawOperation> operations;

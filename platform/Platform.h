@@ -16,6 +16,7 @@
 #include "platform/Dispatch.h"
 #include "platform/Events.h"
 #include "platform/Files.h"
+#include "platform/Images.h"
 #include "platform/Menus.h"
 #include "platform/Pasteboard.h"
 #include "platform/RunLoop.h"
@@ -68,6 +69,7 @@ struct Platform {
     WindowSystem& windows;
     Menus& menus;
     TextSystem& text;
+    ImageSystem& images;
     TextBoundaries& textBoundaries;
     Collation& collation;
     NSFileManager& files;

@@ -2,6 +2,7 @@
 // what is measured here is what is drawn. It may cache widths; it never changes an answer. Main thread only.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,6 +28,9 @@ struct LineStretch {
     friend bool operator==(const LineStretch&, const LineStretch&) = default;
 };
 
+// Where "…" stands in a text that is too long.
+enum class TextTruncation : std::uint8_t { tail, middle };
+
 class TextSystem {
 public:
     virtual ~TextSystem() = default;
@@ -44,6 +48,11 @@ public:
     // The text with its middle replaced by "…" so that it fits the width; the text itself when it fits already, "…" when nothing else does.
     // Cuts between grapheme clusters.
     virtual std::string truncatedInMiddle(std::string_view text, Font font, double width) = 0;
+
+    // The text in lines that are no wider than `width`: broken where people expect it, and inside a word that is too long for a line of its own. Line feeds end a line; the blanks
+    // at a break are on none. With a limit above 0 there are no more lines than that, and what the last of them has no room for is replaced by "…".
+    virtual std::vector<std::string> lines(std::string_view text, Font font, double width, std::size_t limit,
+                                           TextTruncation truncation) = 0;
 
     // The room a symbol takes in text of that font; empty for a name that the system's set doesn't have.
     virtual std::optional<CGSize> symbolSize(std::string_view name, Font font) = 0;

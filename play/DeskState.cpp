@@ -147,8 +147,9 @@ QJsonArray scripts(const desk::Machine& machine) {
 
 QJsonArray opened(const desk::Machine& machine) {
     return arrayOf(machine.launchServices.opened(), [](const desk::OpenedFiles& files) {
-        return QJsonObject{{"application", jsonText(std::string_view(files.application))},
-                           {"urls", textsOf(files.urls)}};
+        const auto application =
+            files.application.empty() ? std::nullopt : std::optional<std::string>(files.application);
+        return QJsonObject{{"application", jsonText(application)}, {"urls", textsOf(files.urls)}};
     });
 }
 

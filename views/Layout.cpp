@@ -35,6 +35,12 @@ const char* nameOf(const LayoutItem& item) {
         return "text";
     case ItemKind::symbol:
         return "symbol";
+    case ItemKind::picture:
+        return "picture";
+    case ItemKind::clip:
+        return "clip";
+    case ItemKind::scale:
+        return "scale";
     case ItemKind::shape:
         return "shape";
     case ItemKind::spacer:

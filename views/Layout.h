@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "views/TextStyle.h"
 #include "views/View.h"
 
 namespace views {
@@ -17,6 +18,7 @@ enum class ItemKind : std::uint8_t {
     empty,
     text,
     symbol,
+    picture,
     shape,
     spacer,
     divider,
@@ -30,6 +32,8 @@ enum class ItemKind : std::uint8_t {
     fixedFrame,
     flexibleFrame,
     fixedSize,
+    clip,
+    scale,
     background,
     overlay
 };
@@ -52,6 +56,7 @@ struct LayoutItem {
     double priority = 0;
     Font font;
     Color color;
+    TextStyle textStyle;
     CGSize natural;  // of text and symbols
 
     ProposedSize offered;  // by the parent, last
@@ -110,6 +115,7 @@ private:
     template <typename Accept>
     std::optional<std::int32_t> frontmostFrom(std::int32_t index, CGPoint point, Accept& accepts) const {
         std::optional<std::int32_t> found;
+        if ((*this)[index].kind == ItemKind::clip && !CGRectContainsPoint((*this)[index].frame, point)) return found;
         for (std::int32_t child = (*this)[index].firstChild; child >= 0; child = (*this)[child].nextSibling)
             if (const auto inside = frontmostFrom(child, point, accepts)) found = inside;
         if (found) return found;

@@ -1,4 +1,5 @@
 // Making the items: the tree of views with its modifiers becomes the flat list that is measured and placed.
+#include <algorithm>
 #include <cmath>
 
 #include "views/LayoutPass.h"
@@ -25,12 +26,27 @@ ItemKind kindOf(const Modifier& modifier) {
         return ItemKind::fixedFrame;
     case 2:
         return ItemKind::flexibleFrame;
+    case 4:
+        return ItemKind::clip;
+    case 5:
+        return ItemKind::scale;
     default:
         return ItemKind::fixedSize;
     }
 }
 
 }  // namespace
+
+CGSize LayoutPass::sizeOfLines(const LayoutItem& item, double width) {
+    const TextStyle& style = item.textStyle;
+    CGSize size;
+    for (const std::string& line :
+         text.lines(item.view->as<TextContent>().text, item.font, width, style.lineLimit, style.truncation)) {
+        size.width = std::max(size.width, upToHalfPoints(text.width(line, item.font)));
+        size.height += metrics(item.font).lineHeight();
+    }
+    return size;
+}
 
 void LayoutPass::begin(View& root) {
     layout.items.clear();
@@ -61,6 +77,12 @@ void LayoutPass::appendChain(View& view, Siblings& siblings, Pending& pending, S
             around.font = *font;
         } else if (const auto* color = std::get_if<Color>(&modifier)) {
             around.color = *color;
+        } else if (const auto* limit = std::get_if<LineLimit>(&modifier)) {
+            around.textStyle.lineLimit = limit->lines;
+        } else if (const auto* truncation = std::get_if<TextTruncation>(&modifier)) {
+            around.textStyle.truncation = *truncation;
+        } else if (const auto* alignment = std::get_if<HorizontalAlignment>(&modifier)) {
+            around.textStyle.alignment = *alignment;
         } else if (const auto* opacity = std::get_if<Opacity>(&modifier)) {
             around.opacity *= opacity->value;
         } else if (const auto* identifier = std::get_if<AccessibilityIdentifier>(&modifier)) {
@@ -89,6 +111,9 @@ void LayoutPass::appendCore(View& view, Siblings& siblings, Pending& pending, co
         break;
     case ViewKind::image:
         appendLeaf(view, ItemKind::symbol, siblings, pending, around);
+        break;
+    case ViewKind::picture:
+        appendLeaf(view, ItemKind::picture, siblings, pending, around);
         break;
     case ViewKind::shape:
         appendLeaf(view, ItemKind::shape, siblings, pending, around);
@@ -165,8 +190,13 @@ void LayoutPass::appendLeaf(View& view, ItemKind kind, Siblings& siblings, Pendi
     item.color = faded(around.color, around.opacity);
     item.isVertical = around.isVertical;
     if (kind == ItemKind::text) {
-        item.natural = {upToHalfPoints(text.width(view.as<TextContent>().text, item.font)),
-                        metrics(item.font).lineHeight()};
+        item.textStyle = around.textStyle;
+        const std::string& shown = view.as<TextContent>().text;
+        const bool isOneLine = around.textStyle.lineLimit == 1 || shown.find('\n') == std::string::npos;
+        item.natural = isOneLine ? CGSize{upToHalfPoints(text.width(shown, item.font)), metrics(item.font).lineHeight()}
+                                 : sizeOfLines(item, infinity);
+    } else if (kind == ItemKind::picture) {
+        item.natural = view.as<ImageContent>().picture.size();
     } else if (kind == ItemKind::symbol) {
         const CGSize size = text.symbolSize(view.as<ImageContent>().systemName, item.font).value_or(CGSize{});
         item.natural = {upToHalfPoints(size.width), upToHalfPoints(size.height)};

@@ -75,6 +75,9 @@ std::optional<CGSize> LayoutPass::measureAtOnce(const LayoutItem& item, const Pr
         return measureText(item, proposal);
     case ItemKind::symbol:
         return item.natural;
+    case ItemKind::picture:
+        if (!item.view->as<ImageContent>().isResizable) return item.natural;
+        return CGSize{orElse(proposal.width, item.natural.width), orElse(proposal.height, item.natural.height)};
     case ItemKind::shape:
     case ItemKind::wrapped:
     case ItemKind::geometryReader:
@@ -115,7 +118,9 @@ CGSize LayoutPass::measureAnew(std::int32_t index, const ProposedSize& proposal)
 CGSize LayoutPass::measureText(const LayoutItem& item, const ProposedSize& proposal) {
     if (proposal.width == unspecified || item.natural.width <= proposal.width) return item.natural;
     const double least = std::min(item.natural.width, std::ceil(text.width("…", item.font)));
-    return {std::max(proposal.width, least), item.natural.height};
+    const double width = std::max(proposal.width, least);
+    if (item.textStyle.lineLimit == 1) return {width, item.natural.height};
+    return sizeOfLines(item, width);
 }
 
 CGSize LayoutPass::measureLayers(const LayoutItem& item, const ProposedSize& proposal) {

@@ -30,6 +30,7 @@ private:
         Font font;
         Color color;
         double opacity = 1;
+        TextStyle textStyle;
         bool isVertical = true;
     };
     // Where new items are linked in, and whether there may be several.
@@ -66,6 +67,7 @@ private:
     CGSize measure(std::int32_t index, const ProposedSize& proposal);
     std::optional<CGSize> measureAtOnce(const LayoutItem& item, const ProposedSize& proposal);
     CGSize measureAnew(std::int32_t index, const ProposedSize& proposal);
+    CGSize sizeOfLines(const LayoutItem& item, double width);
     CGSize measureText(const LayoutItem& item, const ProposedSize& proposal);
     CGSize measureLayers(const LayoutItem& item, const ProposedSize& proposal);
     CGSize measureStack(std::int32_t index, const ProposedSize& proposal);

@@ -4,11 +4,13 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <type_traits>
 #include <variant>
 
 #include "platform/Drawing.h"
+#include "platform/Text.h"
 #include "views/Alignment.h"
 #include "views/ProposedSize.h"
 
@@ -18,6 +20,7 @@ using platform::Color;
 using platform::ColorRole;
 using platform::Font;
 using platform::FontWeight;
+using platform::TextTruncation;
 
 // The arguments of frame(): a fixed length on an axis, or limits within which it follows what is offered.
 struct FrameArguments {
@@ -57,6 +60,22 @@ struct Opacity {
     double value = 1;
     friend bool operator==(const Opacity&, const Opacity&) = default;
 };
+// Of the texts inside: at most so many lines; 0 for as many as they take.
+struct LineLimit {
+    std::uint32_t lines = 0;
+    friend bool operator==(const LineLimit&, const LineLimit&) = default;
+};
+// Nothing inside is drawn or takes clicks outside the view's frame, with rounded corners if there is a radius.
+struct Clip {
+    double radius = 0;
+    platform::CornerStyle corners = platform::CornerStyle::circular;
+    friend bool operator==(const Clip&, const Clip&) = default;
+};
+// Drawn larger or smaller about the middle of the frame, which stays as it is.
+struct ScaleEffect {
+    double factor = 1;
+    friend bool operator==(const ScaleEffect&, const ScaleEffect&) = default;
+};
 // The pointer is to a literal.
 struct AccessibilityIdentifier {
     const char* name = "";
@@ -65,8 +84,9 @@ struct AccessibilityIdentifier {
     }
 };
 
-using Modifier = std::variant<EdgeInsets, FixedFrame, FlexibleFrame, FixedSize, Font, Color, LayoutPriority, Opacity,
-                              AccessibilityIdentifier>;
+using Modifier =
+    std::variant<EdgeInsets, FixedFrame, FlexibleFrame, FixedSize, Clip, ScaleEffect, Font, Color, LineLimit,
+                 TextTruncation, HorizontalAlignment, LayoutPriority, Opacity, AccessibilityIdentifier>;
 static_assert(std::is_trivially_copyable_v<Modifier>);
 
 // Room for the few modifiers that one view has, without an allocation.

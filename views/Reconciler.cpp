@@ -19,7 +19,7 @@ struct LooksAlike {
         return with(a, [](auto& x, auto& y) { return x.text == y.text; });
     }
     bool operator()(const ImageContent& a) const {
-        return with(a, [](auto& x, auto& y) { return x.systemName == y.systemName; });
+        return with(a, [](auto& x, auto& y) { return x == y; });
     }
     bool operator()(const LengthContent& a) const {
         return with(a, [](auto& x, auto& y) { return x.value == y.value; });

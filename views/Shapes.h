@@ -17,6 +17,7 @@ public:
     View strokeBorder(Color color, double lineWidth) const {
         return styled(ShapeStyle::strokedInside, color, lineWidth);
     }
+    const ShapeContent& form() const { return content; }
     operator View() const { return View(ViewKind::shape, content); }  // NOLINT(google-explicit-constructor)
 
 private:

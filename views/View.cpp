@@ -1,5 +1,7 @@
 #include "views/View.h"
 
+#include "views/Shapes.h"
+
 namespace views {
 
 namespace {
@@ -61,6 +63,12 @@ View&& View::overlay(View inFront, Alignment alignment) && {
     wrap(ViewKind::overlay, StackContent{alignment, 0});
     children.push_back(std::move(inFront));
     return std::move(*this);
+}
+
+View&& View::clipShape(const Shape& shape) && {
+    const ShapeContent& form = shape.form();
+    const double radius = form.form == ShapeForm::capsule ? infinity : form.radius;
+    return with(Clip{radius, form.corners});
 }
 
 View&& View::onTapGesture(std::function<void()> action) && {

@@ -26,31 +26,7 @@
 
 namespace views {
 
-enum class ViewKind : std::uint8_t {
-    empty,
-    group,
-    hStack,
-    vStack,
-    zStack,
-    geometryReader,
-    text,
-    image,
-    shape,
-    spacer,
-    divider,
-    button,
-    menu,
-    background,
-    overlay,
-    tapGesture,
-    contextMenu,
-    popover,
-    help,
-    accessibilityLabel,
-    task,
-    composite,
-    representable
-};
+class Shape;
 
 class View {
 public:
@@ -82,7 +58,14 @@ public:
     View&& font(Font value) && { return with(value); }
     View&& foregroundStyle(Color value) && { return with(value); }
     View&& foregroundStyle(ColorRole role) && { return with(Color::of(role)); }
+    // Without a limit a text takes as many lines as its width asks for, whatever the height it is offered.
+    View&& lineLimit(std::uint32_t lines) && { return with(LineLimit{lines}); }
+    View&& truncationMode(TextTruncation value) && { return with(value); }
+    View&& multilineTextAlignment(HorizontalAlignment value) && { return with(value); }
     View&& opacity(double value) && { return with(Opacity{value}); }
+    View&& clipped() && { return with(Clip{}); }
+    View&& clipShape(const Shape& shape) &&;
+    View&& scaleEffect(double factor) && { return with(ScaleEffect{factor}); }
 
     // Behaviour. The whole frame of a view that reacts takes clicks, so a rectangular content shape adds nothing to it.
     View&& contentShape() && { return std::move(*this); }

@@ -28,11 +28,43 @@ class View;
 struct Instance;
 struct RepresentedView;
 
+enum class ViewKind : std::uint8_t {
+    empty,
+    group,
+    hStack,
+    vStack,
+    zStack,
+    geometryReader,
+    text,
+    image,
+    picture,
+    shape,
+    spacer,
+    divider,
+    button,
+    menu,
+    background,
+    overlay,
+    tapGesture,
+    contextMenu,
+    popover,
+    help,
+    accessibilityLabel,
+    task,
+    composite,
+    representable
+};
+
 struct TextContent {
     std::string text;
 };
+// Of a symbol by name, else of a picture.
 struct ImageContent {
     std::string systemName;
+    platform::NSImage picture;
+    bool isResizable = false;
+    platform::ImageInterpolation interpolation = platform::ImageInterpolation::low;
+    friend bool operator==(const ImageContent&, const ImageContent&) = default;
 };
 struct LengthContent {
     double value = 0;

@@ -1,11 +1,14 @@
 #include "desk/display/Painter.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QRect>
 #include <cmath>
 #include <optional>
 #include <variant>
 #include <vector>
+
+#include "desk/ports/DecodedImage.h"
 
 namespace desk {
 
@@ -23,6 +26,12 @@ public:
     }
 
 private:
+    struct Clip {
+        QRect rect;         // within all clips around it
+        QPainterPath path;  // empty: the rectangle alone
+        bool isRounded() const { return !path.isEmpty(); }
+    };
+
     QRectF device(const platform::CGRect& rect) const {
         return {origin.x() + rect.minX() * scale, origin.y() + rect.minY() * scale, rect.width() * scale,
                 rect.height() * scale};
@@ -71,9 +80,36 @@ private:
                          image);
     }
 
+    // A picture in a rounded clip is painted as the clip's shape: only so its edge is smooth.
+    void paint(const platform::DrawImage& drawn) {
+        const auto* decoded = dynamic_cast<const DecodedImage*>(drawn.image.pixels());
+        const QRectF rect = device(drawn.rect);
+        if (decoded == nullptr || rect.isEmpty()) return;
+        const bool isHigh = drawn.interpolation == platform::ImageInterpolation::high;
+        const QImage image =
+            isHigh ? decoded->image.scaled(rect.size().toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                   : decoded->image;
+        QBrush brush(image);
+        brush.setTransform(QTransform::fromTranslate(rect.left(), rect.top())
+                               .scale(rect.width() / image.width(), rect.height() / image.height()));
+        QPainterPath shape;
+        shape.addRect(rect);
+        target.restore();
+        target.save();
+        if (!clips.empty()) target.setClipRect(clips.back().rect, Qt::IntersectClip);
+        if (!clips.empty() && clips.back().isRounded()) shape = shape.intersected(clips.back().path);
+        target.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        target.fillPath(shape, brush);
+        applyClip();
+    }
+
     void paint(const platform::BeginClip& begin) {
-        const QRect rect = device(begin.rect).toAlignedRect();
-        clips.push_back(clips.empty() ? rect : clips.back().intersected(rect));
+        const QRectF exact = device(begin.rect);
+        Clip clip{exact.toAlignedRect(), {}};
+        if (!clips.empty()) clip.rect &= clips.back().rect;
+        if (begin.radius > 0)
+            clip.path = RoundedCorner::of(exact.size(), begin.radius * scale, begin.corners).path(exact);
+        clips.push_back(std::move(clip));
         applyClip();
     }
 
@@ -86,7 +122,9 @@ private:
     void applyClip() {
         target.restore();
         target.save();
-        if (!clips.empty()) target.setClipRect(clips.back(), Qt::IntersectClip);
+        for (const Clip& clip : clips)
+            if (clip.isRounded()) target.setClipPath(clip.path, Qt::IntersectClip);
+        if (!clips.empty()) target.setClipRect(clips.back().rect, Qt::IntersectClip);
     }
 
     Painter& owner;
@@ -94,7 +132,7 @@ private:
     const Palette& palette;
     const double scale;
     const QPoint origin;
-    std::vector<QRect> clips;
+    std::vector<Clip> clips;
 };
 
 void Painter::paint(QPainter& painter, const platform::Drawing& drawing, const Palette& palette, double scale,

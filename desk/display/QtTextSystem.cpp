@@ -1,7 +1,6 @@
 #include "desk/display/QtTextSystem.h"
 
-#include <cmath>
-#include <vector>
+#include <algorithm>
 
 #include "desk/display/LaidOutLine.h"
 #include "desk/display/ShapedText.h"
@@ -11,10 +10,11 @@ namespace desk {
 namespace {
 
 constexpr std::string_view ellipsis = "\u2026";
+constexpr double mostBytesInAnEm = 16;  // of narrow letters with many accents
 
 }  // namespace
 
-QtTextSystem::QtTextSystem() : widths(4096), truncations(1024) {}
+QtTextSystem::QtTextSystem() : widths(4096), truncations(1024), brokenTexts(256) {}
 
 double QtTextSystem::width(std::string_view text, platform::Font font) {
     if (text.size() > longestKeptText) return laidOut(text, font).width();
@@ -45,14 +45,17 @@ std::string QtTextSystem::truncatedInMiddle(std::string_view text, platform::Fon
     const TextLookup key{text, font};
     if (const Truncation* known = truncations.find(key); known != nullptr && known->width == width)
         return known->result;
-    return truncations.insert({std::string(text), font}, {width, truncate(text, font, width)}).result;
+    return truncations
+        .insert({std::string(text), font}, {width, truncate(text, font, width, platform::TextTruncation::middle)})
+        .result;
 }
 
 // Shaping makes widths of pieces not quite additive, so the search is confirmed by measuring what it answers.
-std::string QtTextSystem::truncate(std::string_view text, platform::Font font, double width) {
+std::string QtTextSystem::truncate(std::string_view text, platform::Font font, double width,
+                                   platform::TextTruncation truncation) {
     const std::vector<std::size_t> cuts = boundaries.edgesOfCharacters(text);
     const auto keeping = [&](std::size_t count) {
-        const std::size_t tail = count / 2;
+        const std::size_t tail = truncation == platform::TextTruncation::middle ? count / 2 : 0;
         std::string result(text.substr(0, cuts[count - tail]));
         result += ellipsis;
         return result += text.substr(cuts[cuts.size() - 1 - tail]);
@@ -67,6 +70,33 @@ std::string QtTextSystem::truncate(std::string_view text, platform::Font font, d
         (fits(middle) ? fitting : tooMany) = middle;
     }
     return keeping(fitting);
+}
+
+std::vector<std::string> QtTextSystem::lines(std::string_view text, platform::Font font, double width,
+                                             std::size_t limit, platform::TextTruncation truncation) {
+    const TextLookup key{text, font};
+    if (const BrokenText* known = brokenTexts.find(key);
+        known != nullptr && known->width == width && known->limit == limit && known->truncation == truncation)
+        return known->lines;
+    BrokenText broken{width, limit, truncation, breakIntoLines(text, font, width, limit, truncation)};
+    if (text.size() > longestKeptText) return broken.lines;
+    return brokenTexts.insert({std::string(text), font}, std::move(broken)).lines;
+}
+
+std::vector<std::string> QtTextSystem::breakIntoLines(std::string_view text, platform::Font font, double width,
+                                                      std::size_t limit, platform::TextTruncation truncation) {
+    const FontFace& face = fonts.face(font);
+    const double bytes = std::min(width / font.size * mostBytesInAnEm + mostBytesInAnEm, 1e6);
+    const auto mostBytes = static_cast<std::size_t>(std::max(bytes, mostBytesInAnEm));
+    const auto measure = [&](std::string_view part) { return ShapedText::width(part, face); };
+    std::vector<std::string> result;
+    const std::vector<TextLine> parts = breaker.lines(text, width, limit, mostBytes, measure);
+    for (const TextLine& line : parts) result.emplace_back(text.substr(line.begin, line.end - line.begin));
+    if (parts.back().next == text.size()) return result;
+    std::string rest(text.substr(parts.back().begin));
+    std::replace(rest.begin(), rest.end(), '\n', ' ');
+    result.back() = truncate(rest, font, width, truncation);
+    return result;
 }
 
 std::optional<platform::CGSize> QtTextSystem::symbolSize(std::string_view name, platform::Font font) {

@@ -10,6 +10,7 @@
 
 #include "desk/display/BoundedCache.h"
 #include "desk/display/LaidOutLine.h"
+#include "desk/display/LineBreaker.h"
 #include "desk/display/SymbolSet.h"
 #include "desk/display/SystemFonts.h"
 #include "desk/display/TextKey.h"
@@ -28,6 +29,8 @@ public:
     std::vector<platform::LineStretch> stretches(std::string_view text, platform::Font font, std::size_t begin,
                                                  std::size_t end) override;
     std::string truncatedInMiddle(std::string_view text, platform::Font font, double width) override;
+    std::vector<std::string> lines(std::string_view text, platform::Font font, double width, std::size_t limit,
+                                   platform::TextTruncation truncation) override;
     std::optional<platform::CGSize> symbolSize(std::string_view name, platform::Font font) override;
 
 private:
@@ -36,15 +39,26 @@ private:
         std::string result;
     };
 
-    std::string truncate(std::string_view text, platform::Font font, double width);
+    struct BrokenText {
+        double width = 0;
+        std::size_t limit = 0;
+        platform::TextTruncation truncation{};
+        std::vector<std::string> lines;
+    };
+
+    std::string truncate(std::string_view text, platform::Font font, double width, platform::TextTruncation truncation);
+    std::vector<std::string> breakIntoLines(std::string_view text, platform::Font font, double width, std::size_t limit,
+                                            platform::TextTruncation truncation);
     const LaidOutLine& laidOut(std::string_view text, platform::Font font);
 
     SystemFonts fonts;
     SymbolSet symbols;
     std::unique_ptr<LaidOutLine> latest;  // at each key of a field its width, caret and selection are asked for
     IcuTextBoundaries boundaries;
+    LineBreaker breaker{boundaries};
     BoundedCache<TextKey, double, TextHash, TextEqual> widths;
     BoundedCache<TextKey, Truncation, TextHash, TextEqual> truncations;  // the last one of each text
+    BoundedCache<TextKey, BrokenText, TextHash, TextEqual> brokenTexts;
 };
 
 }  // namespace desk

@@ -40,6 +40,7 @@ View menuBarView(const MenuBarContent& content, double height, const Shades& sha
                          views::Image("magnifyingglass").font({12, FontWeight::medium}).padding(Edge::trailing, 17),
                          views::Text(content.clock).fixedSize().padding(Edge::trailing, 14))
         .font(menuBarFont)
+        .lineLimit(1)
         .frame({.height = height})
         .background(shades(0xF4F4F6, 0x1C1C1E, 0.86));
 }

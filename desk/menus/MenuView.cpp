@@ -37,6 +37,8 @@ View rowView(const OpenMenu& menu, std::size_t row, double height) {
                              .padding(Edge::trailing, symbolColumn > 0 ? symbolColumn - symbolWidth : 0),
                          views::Text(item.title), views::Spacer(0))
         .font(menuFont)
+        .lineLimit(1)
+        .truncationMode(views::TextTruncation::middle)
         .foregroundStyle(isHighlighted  ? ColorRole::white
                          : item.enabled ? ColorRole::primary
                                         : ColorRole::tertiary)

@@ -12,6 +12,7 @@
 #include "desk/ports/DefaultsPort.h"
 #include "desk/ports/EventsPort.h"
 #include "desk/ports/FilesPort.h"
+#include "desk/ports/ImagesPort.h"
 #include "desk/ports/MenusPort.h"
 #include "desk/ports/NSApplicationPort.h"
 #include "desk/ports/PasteboardPort.h"
@@ -77,6 +78,7 @@ private:
     NSApplicationPort applicationPort;
     WindowPort windows;
     MenusPort menus;
+    ImagesPort images;
     IcuTextBoundaries textBoundaries;
     IcuCollation collation;
     FilesPort files;

@@ -46,6 +46,12 @@ void WorkspacePort::openURLs(const std::vector<std::string>& filePaths, const st
     if (!application.isDead()) launchServices.openFiles(filePaths, applicationPath);
 }
 
+bool WorkspacePort::openURL(const std::string& url) {
+    if (application.isDead()) return false;
+    launchServices.openAddress(url);
+    return true;
+}
+
 void WorkspacePort::notify(platform::WorkspaceNotification notification) const {
     observers.visit([&](const Observer& observer) {
         if (observer.notification == notification) observer.block();

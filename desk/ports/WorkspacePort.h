@@ -32,6 +32,7 @@ public:
     bool activate(std::int32_t processIdentifier, unsigned options) override;
     platform::Token addObserver(platform::WorkspaceNotification notification, std::function<void()> block) override;
     void openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) override;
+    bool openURL(const std::string& url) override;
 
     // Inside a turn of the application.
     void notify(platform::WorkspaceNotification notification) const;

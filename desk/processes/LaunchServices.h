@@ -18,7 +18,7 @@ class Processes;
 class Scheduler;
 class WindowStack;
 
-// Opened with another application.
+// Opened with another application; of an address there is none.
 struct OpenedFiles {
     std::string application;
     std::vector<std::string> urls;
@@ -41,6 +41,8 @@ public:
     void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
     // Files with the application that documents belong to; nothing happens without one.
     void openDocuments(const std::vector<std::string>& paths);
+    // An address of the network. Nothing comes to the front: what would show it isn't there.
+    void openAddress(const std::string& url) { openedFiles.push_back({"", {url}}); }
     // The application at that path, as from the Dock: it is started if it doesn't run, has a window, and comes to the front with all it has.
     void openApplication(const std::string& applicationPath);
 

@@ -42,7 +42,8 @@ bool endsWord(const icu::BreakIterator& words) {
 
 IcuTextBoundaries::IcuTextBoundaries()
     : characters(made(icu::BreakIterator::createCharacterInstance)),
-      words(made(icu::BreakIterator::createWordInstance)) {}
+      words(made(icu::BreakIterator::createWordInstance)),
+      lines(made(icu::BreakIterator::createLineInstance)) {}
 
 std::size_t IcuTextBoundaries::nextCharacter(std::string_view text, std::size_t offset) {
     if (offset >= text.size()) return text.size();
@@ -66,6 +67,17 @@ std::vector<std::size_t> IcuTextBoundaries::edgesOfCharacters(std::string_view t
     std::vector<std::size_t> edges;
     for (std::int32_t edge = characters->first(); edge != icu::BreakIterator::DONE; edge = characters->next())
         edges.push_back(static_cast<std::size_t>(edge));
+    return edges;
+}
+
+std::vector<IcuTextBoundaries::LineEdge> IcuTextBoundaries::edgesOfLines(std::string_view text) {
+    const Reading reading(lines.get(), text);
+    if (text.empty()) return {};
+    if (!reading.isPossible()) return {{text.size(), false}};
+    std::vector<LineEdge> edges;
+    lines->first();
+    for (std::int32_t edge = lines->next(); edge != icu::BreakIterator::DONE; edge = lines->next())
+        edges.push_back({static_cast<std::size_t>(edge), lines->getRuleStatus() == UBRK_LINE_HARD});
     return edges;
 }
 

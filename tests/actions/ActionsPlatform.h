@@ -57,6 +57,7 @@ public:
     std::int32_t currentProcessIdentifier() const override { return 1; }
     bool activate(std::int32_t, unsigned) override { return false; }
     platform::Token addObserver(platform::WorkspaceNotification, std::function<void()>) override { return {}; }
+    bool openURL(const std::string&) override { return false; }
     void openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) override {
         opened.emplace_back(applicationPath, filePaths);
     }
@@ -89,6 +90,7 @@ public:
                                 .windows = rest.platform.windows,
                                 .menus = rest.platform.menus,
                                 .text = rest.platform.text,
+                                .images = rest.platform.images,
                                 .textBoundaries = rest.platform.textBoundaries,
                                 .collation = rest.platform.collation,
                                 .files = *this,

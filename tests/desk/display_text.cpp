@@ -176,4 +176,24 @@ TEST(BoundedCache, KeepsWhatIsUsedAndForgetsTheRest) {
     EXPECT_EQ(cache.find(500), nullptr);
 }
 
+TEST(Lines, BreakWhereOneExpectsAndAreCutOnlyWhereTheyAreLimited) {
+    QtTextSystem text;
+    using Lines = std::vector<std::string>;
+    const double room = text.width("a quick brown", body) + 1;
+    const auto broken = [&](const std::string& whole, std::size_t limit = 0) {
+        return text.lines(whole, body, room, limit, platform::TextTruncation::tail);
+    };
+    EXPECT_EQ(broken(""), Lines{""});
+    EXPECT_EQ(broken("a quick brown"), Lines{"a quick brown"});
+    EXPECT_EQ(broken("a quick brown fox jumps "), (Lines{"a quick brown", "fox jumps"}));
+    EXPECT_EQ(broken("one\n\ntwo\u2028three\r\n"), (Lines{"one", "", "two", "three", ""}));
+    EXPECT_EQ(broken("a quick (brown) fox"), (Lines{"a quick", "(brown) fox"}));
+    EXPECT_EQ(broken("a quick brown fox", 1), Lines{"a quick bro…"});
+    EXPECT_EQ(broken("one\ntwo\nthree and four", 2), (Lines{"one", "two three a…"}));
+    // A word that is too long, and one of which no letter has room.
+    EXPECT_EQ(broken(std::string(15, 'm') + " m"), (Lines{std::string(7, 'm'), std::string(7, 'm'), "m m"}));
+    EXPECT_EQ(text.lines("mm m", body, 1, 0, platform::TextTruncation::tail), (Lines{"m", "m", "m"}));
+    EXPECT_GT(broken(std::string(2000, 'x')).size(), 100U);
+}
+
 }  // namespace

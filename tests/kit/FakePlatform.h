@@ -195,6 +195,7 @@ public:
         return signal.subscribe(std::move(block));
     }
     void openURLs(const std::vector<std::string>&, const std::string&) override {}
+    bool openURL(const std::string&) override { return false; }
 
     const std::vector<platform::NSScreen>& screens() override { return displays; }
     std::optional<platform::NSScreen> mainScreen() override {
@@ -366,6 +367,9 @@ private:
             return nullptr;
         }
     };
+    struct NoImages final : platform::ImageSystem {
+        std::optional<platform::NSImage> imageWithContentsOf(const std::string&) override { return std::nullopt; }
+    };
     struct NoMenus final : platform::Menus {
         std::unique_ptr<platform::MenuHandle> popUpBelow(const platform::CGRect&,
                                                          std::vector<platform::MenuItem>) override {
@@ -455,6 +459,7 @@ private:
     NoWindows noWindows;
     NoMenus noMenus;
     FixedText noText;
+    NoImages noImages;
     PlainBoundaries boundaries;
     PlainCollation collation;
     NoDefaults noDefaults;
@@ -477,6 +482,7 @@ public:
                                 .windows = noWindows,
                                 .menus = noMenus,
                                 .text = noText,
+                                .images = noImages,
                                 .textBoundaries = boundaries,
                                 .collation = collation,
                                 .files = *this,

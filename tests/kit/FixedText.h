@@ -42,6 +42,10 @@ public:
         const std::size_t tailBegin = prefix(text, characters(text) - tail).size();
         return prefix(text, kept - tail) + "…" + std::string(text.substr(tailBegin));
     }
+    std::vector<std::string> lines(std::string_view text, platform::Font, double, std::size_t,
+                                   platform::TextTruncation) override {
+        return {std::string(text)};
+    }
     std::optional<platform::CGSize> symbolSize(std::string_view name, platform::Font font) override {
         if (name.empty()) return std::nullopt;
         return platform::CGSize{font.size, font.size};

@@ -115,6 +115,7 @@ public:
                                 windows,
                                 unused<platform::Menus>(),
                                 measuring,
+                                unused<platform::ImageSystem>(),
                                 boundaries,
                                 collation,
                                 unused<platform::NSFileManager>(),

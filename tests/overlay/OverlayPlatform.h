@@ -95,6 +95,7 @@ public:
         return fake.addObserver(notification, std::move(block));
     }
     void openURLs(const std::vector<std::string>&, const std::string&) override {}
+    bool openURL(const std::string&) override { return false; }
 
     std::optional<std::string> bundleIdentifier() override { return ownBundleIdentifier; }
     std::string bundleURL() override { return "/Applications/Orvane.app"; }
@@ -175,6 +176,7 @@ public:
                                 .windows = *this,
                                 .menus = fake.platform.menus,
                                 .text = fake.platform.text,
+                                .images = fake.platform.images,
                                 .textBoundaries = fake.platform.textBoundaries,
                                 .collation = fake.platform.collation,
                                 .files = fake,

@@ -221,7 +221,9 @@ TEST_F(HostingViewTest, AnActionMayRunTurnsAndEvenEndItsHost) {
 struct Pictured {
     View body() const {
         return ZStack({}, RoundedRectangle(10).strokeBorder(Color::of(ColorRole::accent, 0.5), 2),
-                      HStack({.spacing = 0}, Text("abcdefgh").font({.size = 10}), Image("folder").font({.size = 20}),
+                      HStack({.spacing = 0},
+                             Text("abcdefgh").font({.size = 10}).lineLimit(1).truncationMode(TextTruncation::middle),
+                             Image("folder").font({.size = 20}),
                              Rectangle().fill(Color::of(ColorRole::primary)).frame({.width = 1.25, .height = 18})))
             .foregroundStyle(ColorRole::secondary);
     }

@@ -25,7 +25,7 @@ std::string layOut(View view, CGSize size) {
 }
 
 View ten(std::string text) {
-    return Text(std::move(text)).font({.size = 10});
+    return Text(std::move(text)).font({.size = 10}).lineLimit(1);
 }
 View box(double width, double height) {
     return View(Color::of(ColorRole::black)).frame({.width = width, .height = height});
