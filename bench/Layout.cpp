@@ -31,7 +31,7 @@ void Layout40(benchmark::State& state) {
     Layout layout;
     for (auto _ : state) {
         LayoutPass pass(
-            text, [](View&, CGSize) {}, layout);
+            text, [](View&, const LayoutPass::Declaration&) {}, layout);
         pass.layOut(root, {800, 44});
         benchmark::DoNotOptimize(layout.items.data());
     }

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "views/Shapes.h"
+#include "views/nodes/ShapeNode.h"
 
 namespace brindle {
 

@@ -1,98 +1,65 @@
 #include "views/AccessibilityElement.h"
 
-#include <optional>
+#include <utility>
+
+#include "views/Node.h"
 
 namespace views {
 
 namespace {
 
-void addText(const Layout& layout, std::int32_t index, std::string& text) {
-    const LayoutItem& item = layout[index];
-    if (item.kind == ItemKind::text) {
-        if (!text.empty()) text += ' ';
-        text += item.view->as<TextContent>().text;
-    }
-    for (std::int32_t child = item.firstChild; child >= 0; child = layout[child].nextSibling)
-        addText(layout, child, text);
+bool hasArea(const CGRect& rect) {
+    return !platform::CGRectIsNull(rect) && rect.width() > 0 && rect.height() > 0;
 }
-
-std::string firstSymbol(const Layout& layout, std::int32_t index) {
-    const LayoutItem& item = layout[index];
-    if (item.kind == ItemKind::symbol) return item.view->as<ImageContent>().systemName;
-    std::string found;
-    for (std::int32_t child = item.firstChild; child >= 0 && found.empty(); child = layout[child].nextSibling)
-        found = firstSymbol(layout, child);
-    return found;
-}
-
-std::optional<AccessibilityRole> roleOf(const LayoutItem& item) {
-    switch (item.viewKind) {
-    case ViewKind::button:
-        return AccessibilityRole::button;
-    case ViewKind::menu:
-        return AccessibilityRole::menuButton;
-    case ViewKind::text:
-        return AccessibilityRole::staticText;
-    case ViewKind::image:
-        return AccessibilityRole::image;
-    case ViewKind::representable:
-        return AccessibilityRole::textField;
-    default:
-        return std::nullopt;
-    }
-}
-
-// What the views around an element say about it, down to the element itself.
-struct Said {
-    std::string label;
-    std::string identifier;
-    std::string key;
-    std::string help;
-};
 
 class Collector {
 public:
     explicit Collector(const Layout& theLayout) : layout(theLayout) {}
 
-    void collect(std::int32_t index, Said said) {
+    // What the views around an element say about it goes down to the element itself.
+    void collect(std::int32_t index, AccessibilityElement said, CGRect visible) {
         const LayoutItem& item = layout[index];
         if (item.key != nullptr) said.key = *item.key;
-        if (item.viewKind == ViewKind::help) said.help = item.view->as<TextContent>().text;
-        if (item.viewKind == ViewKind::accessibilityLabel) said.label = item.view->as<TextContent>().text;
         if (item.identifier != nullptr) said.identifier = item.identifier;
-
-        const auto role = roleOf(item);
+        if (item.clips) visible = platform::CGRectIntersection(visible, item.frame);
+        said.frame = item.frame;
+        said.isVisible = hasArea(platform::CGRectIntersection(visible, item.frame));
+        const auto role = item.node == nullptr ? std::nullopt : item.node->role();
         if (role) {
-            add(*role, index, said);
+            add(*role, item, std::move(said));
             return;
         }
+        if (item.node != nullptr) item.node->describe(said);
         const std::size_t before = elements.size();
         const bool isNamed = item.identifier != nullptr;
-        if (isNamed) add(AccessibilityRole::group, index, said);
-        for (std::int32_t child = item.firstChild; child >= 0; child = layout[child].nextSibling) collect(child, said);
+        if (isNamed) elements.push_back(said);
+        for (std::int32_t child = item.firstChild; child >= 0; child = layout[child].nextSibling)
+            collect(child, said, visible);
         if (isNamed) mergeOnlyChild(before, said.identifier);
     }
 
     std::vector<AccessibilityElement> elements;
 
 private:
-    void add(AccessibilityRole role, std::int32_t index, const Said& said) {
-        AccessibilityElement element;
+    void add(AccessibilityRole role, const LayoutItem& item, AccessibilityElement element) {
         element.role = role;
-        element.label = said.label;
-        if (element.label.empty() && role != AccessibilityRole::group) addText(layout, index, element.label);
-        const LayoutItem& item = layout[index];
-        if (item.kind == ItemKind::text)
-            element.value = item.view->as<TextContent>().text;
-        else if (item.kind == ItemKind::wrapped)
-            element.value = item.view->as<RepresentableContent>().made->view->accessibilityValue();
-        else if (role != AccessibilityRole::group)
-            element.value = firstSymbol(layout, index);
-        element.identifier = said.identifier;
-        element.key = said.key;
-        element.help = said.help;
-        element.frame = item.frame;
+        addShown(item, element);
+        if (!element.symbols.empty()) element.value = element.symbols.front();
+        if (item.node->shownText() != nullptr) element.value = *item.node->shownText();
+        if (element.label.empty())
+            for (const std::string& text : element.texts) element.label += (element.label.empty() ? "" : " ") + text;
+        element.isEnabled = item.control.isEnabled;
+        element.isDefault = item.control.isDefault();
+        item.node->describe(element);
         elements.push_back(std::move(element));
+    }
+
+    void addShown(const LayoutItem& item, AccessibilityElement& element) {
+        if (item.node != nullptr && item.node->shownText() != nullptr) element.texts.push_back(*item.node->shownText());
+        if (item.node != nullptr && item.node->shownSymbol() != nullptr)
+            element.symbols.push_back(*item.node->shownSymbol());
+        for (std::int32_t child = item.firstChild; child >= 0; child = layout[child].nextSibling)
+            addShown(layout[child], element);
     }
 
     // A frame or padding that was given an identifier, around one element, is that element: its frame, the element's
@@ -113,9 +80,9 @@ private:
 
 }  // namespace
 
-std::vector<AccessibilityElement> accessibilityElements(const Layout& layout) {
+std::vector<AccessibilityElement> accessibilityElements(const Layout& layout, CGSize size) {
     Collector collector(layout);
-    if (!layout.isEmpty()) collector.collect(layout.root(), {});
+    if (!layout.isEmpty()) collector.collect(layout.root(), {}, {{0, 0}, size});
     return std::move(collector.elements);
 }
 

@@ -1,14 +1,14 @@
 // What a host shows, as assistive tools, desk scripts and tests read it: a flat list in paint order.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "views/AccessibilityRole.h"
 #include "views/Layout.h"
 
 namespace views {
-
-enum class AccessibilityRole : std::uint8_t { group, staticText, image, button, menuButton, textField };
 
 struct AccessibilityElement {
     AccessibilityRole role = AccessibilityRole::group;
@@ -18,9 +18,16 @@ struct AccessibilityElement {
     std::string key;         // the nearest id() of repeated content
     std::string help;
     CGRect frame;  // view space
+    // Whole, in paint order. Those of all elements together are all that the host shows.
+    std::vector<std::string> texts;
+    std::vector<std::string> symbols;
+    std::optional<bool> isOn;  // of a switch
+    bool isEnabled = true;
+    bool isDefault = false;
+    bool isVisible = true;  // any of it, within what is around it
 };
 
 // Buttons, menus, texts and images outside them, and every view with an identifier.
-std::vector<AccessibilityElement> accessibilityElements(const Layout& layout);
+std::vector<AccessibilityElement> accessibilityElements(const Layout& layout, CGSize size);
 
 }  // namespace views

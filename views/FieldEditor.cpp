@@ -6,8 +6,14 @@
 
 namespace views {
 
-FieldEditor::FieldEditor(platform::Platform& thePlatform, std::string text, std::function<void()> theLooksChanged)
-    : platform(thePlatform), engine(thePlatform.textBoundaries), looksChanged(std::move(theLooksChanged)) {
+FieldEditor::FieldEditor(platform::Platform& thePlatform, std::string text, platform::Font font,
+                         std::function<void()> theLooksChanged)
+    : platform(thePlatform),
+      engine(thePlatform.textBoundaries,
+             [&system = thePlatform.text, font](std::string_view shown, std::size_t offset) {
+                 return system.caretPosition(shown, font, offset);
+             }),
+      looksChanged(std::move(theLooksChanged)) {
     engine.setText(std::move(text));
 }
 

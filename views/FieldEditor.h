@@ -14,7 +14,8 @@ namespace views {
 class FieldEditor {
 public:
     // `theLooksChanged` is called when text or selection are set from outside.
-    FieldEditor(platform::Platform& thePlatform, std::string text, std::function<void()> theLooksChanged);
+    FieldEditor(platform::Platform& thePlatform, std::string text, platform::Font font,
+                std::function<void()> theLooksChanged);
 
     const std::string& string() const { return engine.text(); }
     void setString(std::string text);

@@ -5,6 +5,7 @@
 #include "views/MenuItems.h"
 #include "views/PresentedPopover.h"
 #include "views/Reconciler.h"
+#include "views/nodes/PopoverNode.h"
 
 namespace views {
 
@@ -24,7 +25,7 @@ platform::RectEdge screenEdge(Edge edge) {
 }
 
 bool isContextMenu(const LayoutItem& item) {
-    return item.viewKind == ViewKind::contextMenu;
+    return item.node != nullptr && item.node->contextMenu() != nullptr;
 }
 
 }  // namespace
@@ -35,8 +36,7 @@ CGRect HostingView::convertToScreen(const CGRect& rect) const {
 }
 
 // An entry's action keeps what it was declared in, so the views may be rebuilt while the menu is open.
-std::vector<platform::MenuItem> HostingView::evaluateMenu(const View& declaredAt) {
-    const auto& entries = declaredAt.as<MenuContent>().entries;
+std::vector<platform::MenuItem> HostingView::evaluateMenu(const std::function<View()>& entries) {
     if (!entries) return {};
     const auto content = std::make_shared<View>(entries());
     Reconciler(link, tasks).update(*content, nullptr);
@@ -48,18 +48,18 @@ std::vector<platform::MenuItem> HostingView::evaluateMenu(const View& declaredAt
     return items;
 }
 
-void HostingView::openMenu(const LayoutItem& item) {
+void HostingView::openMenu(const LayoutItem& item, const std::function<View()>& entries) {
     if (window == nullptr) return;
     menu.reset();
-    menu = platform.menus.popUpBelow(convertToScreen(item.frame), evaluateMenu(*item.view));
+    menu = platform.menus.popUpBelow(convertToScreen(item.frame), evaluateMenu(entries));
 }
 
 bool HostingView::openContextMenu(const platform::NSEvent& event) {
     const auto item = frames.frontmost(convertFromWindow(event.locationInWindow), isContextMenu);
     if (!item || window == nullptr) return false;
     menu.reset();
-    menu =
-        platform.menus.popUpAt(window->convertPointToScreen(event.locationInWindow), evaluateMenu(*frames[*item].view));
+    menu = platform.menus.popUpAt(window->convertPointToScreen(event.locationInWindow),
+                                  evaluateMenu(*frames[*item].node->contextMenu()));
     return true;
 }
 
@@ -68,19 +68,18 @@ void HostingView::rightMouseDown(const platform::NSEvent& event) {
     openContextMenu(event);
 }
 
-// Those whose place or presentation has ended go by not being kept.
+// Those whose place is gone, or that are no longer presented, are dropped.
 void HostingView::presentPopovers() {
     auto before = std::exchange(popovers, {});
     if (window == nullptr) return;
-    for (std::size_t index = 0; index < frames.items.size(); ++index) {
-        const LayoutItem& item = frames.items[index];
-        if (item.viewKind != ViewKind::popover) continue;
-        const Popover& declared = *item.view->as<PopoverContent>().popover;
+    for (const std::int32_t index : frames.popovers) {
+        const LayoutItem& item = frames[index];
+        const Popover& declared = *item.node->popover();
         link->isEvaluating = true;
         const bool isPresented = declared.isPresented.get();
         link->isEvaluating = false;
         if (!isPresented) continue;
-        const std::string place = frames.placeOf(static_cast<std::int32_t>(index));
+        const std::string place = frames.placeOf(index);
         const auto known = before.find(place);
         // Dismissed, and presented again in the same turn.
         if (known == before.end() || !known->second->handle)
@@ -117,10 +116,9 @@ void HostingView::dismissed(std::string place) {
     const auto known = popovers.find(place);
     if (known == popovers.end()) return;
     known->second->handle.reset();
-    for (std::size_t index = 0; index < frames.items.size(); ++index) {
-        const LayoutItem& item = frames.items[index];
-        if (item.viewKind != ViewKind::popover || frames.placeOf(static_cast<std::int32_t>(index)) != place) continue;
-        const Binding<bool> isPresented = item.view->as<PopoverContent>().popover->isPresented;
+    for (const std::int32_t index : frames.popovers) {
+        if (frames.placeOf(index) != place) continue;
+        const Binding<bool> isPresented = frames[index].node->popover()->isPresented;
         run([&isPresented] { isPresented.set(false); });
         break;
     }

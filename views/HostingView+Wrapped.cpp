@@ -6,21 +6,13 @@
 
 namespace views {
 
-namespace {
-
-const std::shared_ptr<NSView>& viewOf(const LayoutItem& item) {
-    return item.view->as<RepresentableContent>().made->view;
-}
-
-}  // namespace
-
 void HostingView::placeWrappedViews() {
     std::vector<std::weak_ptr<NSView>> placed;
-    frames.forEach([&](std::int32_t, const LayoutItem& item) {
-        if (item.kind != ItemKind::wrapped) return;
-        viewOf(item)->setFrame(item.frame);
-        placed.push_back(viewOf(item));
-    });
+    for (const std::int32_t index : frames.wrappedViews) {
+        NSView& view = *frames[index].node->wrappedView();
+        view.setFrame(frames[index].frame);
+        placed.push_back(view.weak_from_this());
+    }
     std::swap(placed, wrappedViews);
     moveWrappedViews();
     // One may live on without its place: a menu that is open keeps the tree that declared it.
@@ -43,18 +35,11 @@ void HostingView::setNeedsDisplay() {
     if (window != nullptr) window->setNeedsDisplay();
 }
 
-void HostingView::pressWrappedView(const LayoutItem& item, const platform::NSEvent& event) {
-    const auto view = viewOf(item);
-    view->mouseDown(event);
-}
-
 const NSView* HostingView::wrappedView(std::string_view identifier) const {
-    const NSView* found = nullptr;
-    frames.forEach([&](std::int32_t, const LayoutItem& item) {
-        const bool isNamed = item.identifier != nullptr && item.identifier == identifier;
-        if (isNamed && item.kind == ItemKind::wrapped) found = viewOf(item).get();
-    });
-    return found;
+    for (const std::int32_t index : frames.wrappedViews)
+        if (frames[index].identifier != nullptr && frames[index].identifier == identifier)
+            return frames[index].node->wrappedView();
+    return nullptr;
 }
 
 }  // namespace views

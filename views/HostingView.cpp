@@ -1,19 +1,32 @@
 #include "views/HostingView.h"
 
+#include <algorithm>
 #include <utility>
 
-#include "views/DrawingOfLayout.h"
+#include "views/Canvas.h"
 #include "views/LayoutPass.h"
 #include "views/PresentedPopover.h"
 #include "views/Reconciler.h"
+#include "views/nodes/CompositeNode.h"
 
 namespace views {
 
 namespace {
 
 bool reacts(const LayoutItem& item) {
-    return item.viewKind == ViewKind::button || item.viewKind == ViewKind::tapGesture ||
-           item.viewKind == ViewKind::menu || item.viewKind == ViewKind::representable;
+    return item.node != nullptr && item.node->reacts();
+}
+
+bool hasHelp(const LayoutItem& item) {
+    return item.node != nullptr && item.node->help() != nullptr;
+}
+
+bool scrolls(const LayoutItem& item) {
+    return item.node != nullptr && item.node->scrolls();
+}
+
+bool isDefault(const LayoutItem& item) {
+    return item.control.isDefault() && item.control.isEnabled && reacts(item);
 }
 
 }  // namespace
@@ -73,7 +86,7 @@ void HostingView::evaluate() {
     needsEvaluation = false;
     counts.evaluations += 1;
     link->readsColorScheme = false;
-    auto fresh = std::make_shared<View>(ViewKind::composite, CompositeContent{root, nullptr});
+    auto fresh = std::make_shared<View>(CompositeNode(root));
     Reconciler reconciler(link, tasks);
     const bool looksAlike = reconciler.update(*fresh, tree.get());
     followColorScheme();
@@ -90,7 +103,8 @@ void HostingView::layOut() {
     counts.layouts += 1;
     Reconciler reconciler(link, tasks);
     LayoutPass pass(
-        platform.text, [&](View& reader, CGSize readerSize) { reconciler.expand(reader, readerSize); }, frames);
+        platform.text, [&](View& view, const LayoutPass::Declaration& declare) { reconciler.redeclare(view, declare); },
+        frames);
     pass.layOut(*tree, size);
     followColorScheme();
     placeWrappedViews();
@@ -101,7 +115,7 @@ CGSize HostingView::idealSize() {
     if (needsEvaluation) evaluate();
     Layout scratch;
     return LayoutPass(
-               platform.text, [](View&, CGSize) {}, scratch)
+               platform.text, [](View&, const LayoutPass::Declaration&) {}, scratch)
         .idealSize(*tree);
 }
 
@@ -130,9 +144,11 @@ void HostingView::runTasks() {
 
 const platform::Drawing& HostingView::drawing() {
     if (tree == nullptr) update();
-    if (std::exchange(needsDrawing, false)) {
+    const bool hasKeyboard = showsKeyboard();
+    const bool hadKeyboard = std::exchange(isDrawnWithKeyboard, hasKeyboard);
+    if (std::exchange(needsDrawing, false) || hasKeyboard != hadKeyboard) {
         counts.drawings += 1;
-        draw(frames, platform.text, painted);
+        Canvas(frames, platform.text, pressedItem(), painted).draw();
     }
     return painted;
 }
@@ -144,16 +160,18 @@ void HostingView::handleEvent(const platform::NSEvent& event) {
         void (HostingView::*handler)(const platform::NSEvent&);
     };
     static constexpr Entry handlers[] = {{NSEventType::leftMouseDown, &HostingView::mouseDown},
+                                         {NSEventType::leftMouseDragged, &HostingView::mouseDragged},
                                          {NSEventType::leftMouseUp, &HostingView::mouseUp},
+                                         {NSEventType::scrollWheel, &HostingView::scrollWheel},
+                                         {NSEventType::keyDown, &HostingView::keyDown},
                                          {NSEventType::rightMouseDown, &HostingView::rightMouseDown}};
     for (const Entry& entry : handlers)
         if (entry.type == event.type) (this->*entry.handler)(event);
 }
 
 std::string HostingView::toolTipAt(CGPoint point) const {
-    const auto item = frames.frontmost(convertFromWindow(point),
-                                       [](const LayoutItem& each) { return each.viewKind == ViewKind::help; });
-    return item ? frames[*item].view->as<TextContent>().text : std::string();
+    const auto item = frames.frontmost(convertFromWindow(point), hasHelp);
+    return item ? *frames[*item].node->help() : std::string();
 }
 
 std::optional<std::int32_t> HostingView::reactingItem(CGPoint point) const {
@@ -165,21 +183,57 @@ void HostingView::mouseDown(const platform::NSEvent& event) {
     const bool isControlClick = (event.modifierFlags & platform::NSEventModifierFlags::control) != 0;
     if (isControlClick && openContextMenu(event)) return;
     const auto item = reactingItem(convertFromWindow(event.locationInWindow));
-    if (!item) return;
-    if (frames[*item].viewKind == ViewKind::menu)
-        openMenu(frames[*item]);
-    else if (frames[*item].viewKind == ViewKind::representable)
-        pressWrappedView(frames[*item], event);
-    else
-        press = Press{frames.placeOf(*item)};
+    if (item && frames[*item].control.isEnabled) frames[*item].node->mouseDown(*this, frames[*item], event);
+}
+
+void HostingView::beginPress(const LayoutItem& item) {
+    const auto index = static_cast<std::int32_t>(&item - &frames[0]);
+    press = Press{frames.placeOf(index), true, item.control.isBordered()};
+    if (press->isShown) setNeedsDisplay();
 }
 
 // The place is compared, not the item: the tree may have been rebuilt since the press.
-void HostingView::mouseUp(const platform::NSEvent& event) {
-    const auto began = std::exchange(press, std::nullopt);
+bool HostingView::isOverPress(const platform::NSEvent& event) const {
     const auto item = reactingItem(convertFromWindow(event.locationInWindow));
-    if (!began || !item || frames.placeOf(*item) != began->place) return;
-    if (const auto* content = std::get_if<ActionContent>(&frames[*item].view->content)) run(content->action);
+    return press && item && frames.placeOf(*item) == press->place;
+}
+
+std::int32_t HostingView::pressedItem() const {
+    if (!press || !press->isShown || !press->isInside) return LayoutItem::none;
+    for (std::size_t index = 0; index < frames.items.size(); ++index)
+        if (reacts(frames.items[index]) && frames.placeOf(static_cast<std::int32_t>(index)) == press->place)
+            return static_cast<std::int32_t>(index);
+    return LayoutItem::none;
+}
+
+void HostingView::mouseDragged(const platform::NSEvent& event) {
+    if (!press || !press->isShown) return;
+    const bool isInside = isOverPress(event);
+    if (std::exchange(press->isInside, isInside) != isInside) setNeedsDisplay();
+}
+
+void HostingView::mouseUp(const platform::NSEvent& event) {
+    if (!press) return;
+    const bool isClick = isOverPress(event);
+    if (press->isShown) setNeedsDisplay();
+    press.reset();
+    if (!isClick) return;
+    const LayoutItem& item = frames[*reactingItem(convertFromWindow(event.locationInWindow))];
+    if (item.control.isEnabled) item.node->clicked(*this);
+}
+
+void HostingView::scrollWheel(const platform::NSEvent& event) {
+    const auto item = frames.frontmost(convertFromWindow(event.locationInWindow), scrolls);
+    if (!item || !frames[*item].node->scrolled(frames[*item], event.scrollingDeltaY)) return;
+    needsLayout = true;
+    scheduleUpdate();
+}
+
+// Of the keys that no field takes, Return alone means something here.
+void HostingView::keyDown(const platform::NSEvent& event) {
+    if (event.characters != "\r") return;
+    const auto item = std::find_if(frames.items.begin(), frames.items.end(), isDefault);
+    if (item != frames.items.end()) item->node->clicked(*this);
 }
 
 void HostingView::run(const std::function<void()>& action) {

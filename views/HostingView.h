@@ -19,10 +19,12 @@
 #include "views/Context.h"
 #include "views/Layout.h"
 #include "views/RenderCounts.h"
+#include "views/TaskSlot.h"
 #include "views/View.h"
 
 namespace views {
 
+struct Popover;
 struct PresentedPopover;
 
 class HostingView : public platform::ContentView {
@@ -39,13 +41,13 @@ public:
     void handleEvent(const platform::NSEvent& event) override;
     std::string toolTipAt(CGPoint point) const override;
     const platform::Drawing& drawing() override;
-    std::uint64_t drawingVersion() const override { return version; }
+    std::uint64_t drawingVersion() const override { return version * 2 + (showsKeyboard() ? 1 : 0); }
 
     // Evaluates and lays out now if that is due; it comes by itself at the end of a turn.
     void update();
     // The frames as of the last update.
     const Layout& layout() const { return frames; }
-    std::vector<AccessibilityElement> elements() const { return accessibilityElements(frames); }
+    std::vector<AccessibilityElement> elements() const { return accessibilityElements(frames, size); }
     // The NSView in the tree that was given this identifier; null when there is none now.
     const NSView* wrappedView(std::string_view identifier) const;
     // The size that the root takes when it is offered nothing, for windows that follow their content.
@@ -53,11 +55,19 @@ public:
     // From the window's AppKit coordinates to view space.
     CGPoint convertFromWindow(CGPoint point) const { return {point.x, size.height - point.y}; }
 
+    // For nodes. An action may change what is shown, run turns, and even end its host.
+    void run(const std::function<void()>& action);
+    // The release on the same place is a click.
+    void beginPress(const LayoutItem& item);
+    void openMenu(const LayoutItem& item, const std::function<View()>& entries);
+
     platform::Platform& platform;
 
 private:
     struct Press {
         std::string place;
+        bool isInside = true;
+        bool isShown = false;
     };
 
     void invalidate();
@@ -66,18 +76,23 @@ private:
     void layOut();
     void followColorScheme();
     void runTasks();
+    // A field looks otherwise while its window has the keyboard; nobody says when that changes.
+    bool showsKeyboard() const { return window != nullptr && !frames.wrappedViews.empty() && window->isKeyWindow(); }
     void mouseDown(const platform::NSEvent& event);
     void mouseUp(const platform::NSEvent& event);
     void rightMouseDown(const platform::NSEvent& event);
-    void run(const std::function<void()>& action);
+    void mouseDragged(const platform::NSEvent& event);
+    void scrollWheel(const platform::NSEvent& event);
+    void keyDown(const platform::NSEvent& event);
     std::optional<std::int32_t> reactingItem(CGPoint point) const;
+    std::int32_t pressedItem() const;
+    bool isOverPress(const platform::NSEvent& event) const;
     // An action that runs, or may yet run from an open menu, needs what it was declared in as it was then.
     bool isTreeNeeded() const { return tree.use_count() > 1; }
 
     // In HostingView+Menus.cpp.
     CGRect convertToScreen(const CGRect& rect) const;
-    std::vector<platform::MenuItem> evaluateMenu(const View& declaredAt);
-    void openMenu(const LayoutItem& item);
+    std::vector<platform::MenuItem> evaluateMenu(const std::function<View()>& entries);
     bool openContextMenu(const platform::NSEvent& event);
     void presentPopovers();
     void present(const std::string& place, const LayoutItem& item, const Popover& declared);
@@ -88,7 +103,6 @@ private:
     void placeWrappedViews();
     void moveWrappedViews();
     void setNeedsDisplay();
-    void pressWrappedView(const LayoutItem& item, const platform::NSEvent& event);
 
     const std::shared_ptr<Composite> root;
     RenderCounts::Counts& counts;
@@ -109,6 +123,7 @@ private:
     bool needsEvaluation = true;
     bool needsLayout = true;
     bool needsDrawing = true;
+    bool isDrawnWithKeyboard = false;
     bool isScheduled = false;
     platform::Lifetime lifetime;
 };

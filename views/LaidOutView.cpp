@@ -2,28 +2,28 @@
 
 #include <utility>
 
-#include "views/DrawingOfLayout.h"
+#include "views/Canvas.h"
 #include "views/LayoutPass.h"
 
 namespace views {
 
 namespace {
 
-void expand(View& reader, CGSize size) {
-    reader.children.clear();
-    reader.children.push_back(reader.as<ReaderContent>().build(size));
+void declareAnew(View& view, const LayoutPass::Declaration& declare) {
+    view.children.clear();
+    declare(view.children);
 }
 
 }  // namespace
 
 LaidOutView::LaidOutView(View theRoot, CGSize size, platform::TextSystem& theText)
     : text(theText), root(std::make_unique<View>(std::move(theRoot))) {
-    LayoutPass(text, expand, layout).layOut(*root, size);
+    LayoutPass(text, declareAnew, layout).layOut(*root, size);
 }
 
 platform::Drawing LaidOutView::drawing() const {
     platform::Drawing result;
-    draw(layout, text, result);
+    Canvas(layout, text, LayoutItem::none, result).draw();
     return result;
 }
 
@@ -42,7 +42,7 @@ std::optional<CGRect> LaidOutView::frameOf(std::string_view id) const {
 
 CGSize idealSize(View root, platform::TextSystem& text) {
     Layout scratch;
-    return LayoutPass(text, expand, scratch).idealSize(root);
+    return LayoutPass(text, declareAnew, scratch).idealSize(root);
 }
 
 }  // namespace views

@@ -9,43 +9,19 @@
 #include <string>
 #include <vector>
 
+#include "views/ControlState.h"
 #include "views/TextStyle.h"
 #include "views/View.h"
 
 namespace views {
 
-enum class ItemKind : std::uint8_t {
-    empty,
-    text,
-    symbol,
-    picture,
-    shape,
-    spacer,
-    divider,
-    wrapped,
-    hStack,
-    vStack,
-    layers,
-    geometryReader,
-    passThrough,
-    padding,
-    fixedFrame,
-    flexibleFrame,
-    fixedSize,
-    clip,
-    scale,
-    background,
-    overlay
-};
-
 struct LayoutItem {
     static constexpr std::int32_t none = -1;
 
-    ItemKind kind = ItemKind::empty;
-    ViewKind viewKind = ViewKind::empty;
-    bool isVertical = false;  // of a spacer and a divider: the axis of the stack around it
+    const LayoutRule* rule = nullptr;
+    const Node* node = nullptr;  // the same rule, unless it is a modifier's
     View* view = nullptr;
-    const Modifier* modifier = nullptr;  // of the kinds that stem from one
+    const Modifier* modifier = nullptr;  // of items that stem from one
     const std::string* key = nullptr;    // identity among repeated siblings
     const char* identifier = nullptr;    // for scripts, tests and assistive tools
     std::int32_t parent = none;
@@ -57,7 +33,11 @@ struct LayoutItem {
     Font font;
     Color color;
     TextStyle textStyle;
-    CGSize natural;  // of text and symbols
+    ControlState control;
+    bool isVertical = false;  // of a spacer and a divider: the axis of the stack around it
+    bool clips = false;       // nothing inside is seen or pressed outside its frame
+    CGSize natural;           // of text and pictures
+    std::size_t kept = 0;     // where the pass keeps the surroundings of content that is declared during layout
 
     ProposedSize offered;  // by the parent, last
     ProposedSize shared;   // of a stack: the proposal that its children's offers were worked out for
@@ -103,6 +83,9 @@ public:
     std::string description() const;
 
     std::vector<LayoutItem> items;
+    // Those that a host has to look after, so that it needn't search.
+    std::vector<std::int32_t> popovers;
+    std::vector<std::int32_t> wrappedViews;
 
 private:
     template <typename Visit>
@@ -115,7 +98,7 @@ private:
     template <typename Accept>
     std::optional<std::int32_t> frontmostFrom(std::int32_t index, CGPoint point, Accept& accepts) const {
         std::optional<std::int32_t> found;
-        if ((*this)[index].kind == ItemKind::clip && !CGRectContainsPoint((*this)[index].frame, point)) return found;
+        if ((*this)[index].clips && !CGRectContainsPoint((*this)[index].frame, point)) return found;
         for (std::int32_t child = (*this)[index].firstChild; child >= 0; child = (*this)[child].nextSibling)
             if (const auto inside = frontmostFrom(child, point, accepts)) found = inside;
         if (found) return found;

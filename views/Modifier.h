@@ -2,8 +2,6 @@
 // the inside out. Those that carry closures or further views (background, popover, ...) are nodes of their own.
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
@@ -12,12 +10,15 @@
 #include "platform/Drawing.h"
 #include "platform/Text.h"
 #include "views/Alignment.h"
+#include "views/LayoutRule.h"
 #include "views/ProposedSize.h"
+#include "views/Surroundings.h"
 
 namespace views {
 
 using platform::Color;
 using platform::ColorRole;
+using platform::CornerStyle;
 using platform::Font;
 using platform::FontWeight;
 using platform::TextTruncation;
@@ -76,6 +77,10 @@ struct ScaleEffect {
     double factor = 1;
     friend bool operator==(const ScaleEffect&, const ScaleEffect&) = default;
 };
+struct Disabled {
+    bool value = true;
+    friend bool operator==(const Disabled&, const Disabled&) = default;
+};
 // The pointer is to a literal.
 struct AccessibilityIdentifier {
     const char* name = "";
@@ -84,44 +89,46 @@ struct AccessibilityIdentifier {
     }
 };
 
-using Modifier =
-    std::variant<EdgeInsets, FixedFrame, FlexibleFrame, FixedSize, Clip, ScaleEffect, Font, Color, LineLimit,
-                 TextTruncation, HorizontalAlignment, LayoutPriority, Opacity, AccessibilityIdentifier>;
+using Modifier = std::variant<EdgeInsets, FixedFrame, FlexibleFrame, FixedSize, Clip, ScaleEffect, Font, Color,
+                              LineLimit, TextTruncation, HorizontalAlignment, Opacity, Disabled, ButtonStyle,
+                              KeyboardShortcut, LayoutPriority, AccessibilityIdentifier>;
 static_assert(std::is_trivially_copyable_v<Modifier>);
 
-// Room for the few modifiers that one view has, without an allocation.
-class ModifierList {
-public:
-    static constexpr std::size_t capacity = 4;
+// Those that change frames or drawing are items of the layout around the rest; each rule is in modifiers/.
+const LayoutRule& ruleOf(const EdgeInsets& padding);
+const LayoutRule& ruleOf(const FixedFrame& frame);
+const LayoutRule& ruleOf(const FlexibleFrame& frame);
+const LayoutRule& ruleOf(const FixedSize& fixed);
+const LayoutRule& ruleOf(const Clip& clip);
+const LayoutRule& ruleOf(const ScaleEffect& effect);
 
-    ModifierList() = default;
-    ModifierList(const ModifierList& other) noexcept { assign(other); }
-    ModifierList& operator=(const ModifierList& other) noexcept {
-        assign(other);
-        return *this;
-    }
-
-    bool isFull() const { return count == capacity; }
-    bool isEmpty() const { return count == 0; }
-    std::size_t size() const { return count; }
-    void append(const Modifier& modifier) {
-        std::memcpy(storage.data() + count * sizeof(Modifier), static_cast<const void*>(&modifier), sizeof(Modifier));
-        count += 1;
-    }
-    const Modifier* begin() const { return reinterpret_cast<const Modifier*>(storage.data()); }
-    const Modifier* end() const { return begin() + count; }
-    const Modifier& operator[](std::size_t index) const { return begin()[index]; }
-
-    friend bool operator==(const ModifierList& a, const ModifierList& b);
-
-private:
-    void assign(const ModifierList& other) noexcept {
-        count = other.count;
-        std::memcpy(storage.data(), other.storage.data(), count * sizeof(Modifier));
-    }
-
-    std::size_t count = 0;
-    alignas(Modifier) std::array<std::byte, capacity * sizeof(Modifier)> storage;
-};
+// Those that go down to what is inside.
+inline void apply(const Font& font, Surroundings& inside) {
+    inside.font = font;
+}
+inline void apply(const Color& color, Surroundings& inside) {
+    inside.color = color;
+}
+inline void apply(const LineLimit& limit, Surroundings& inside) {
+    inside.textStyle.lineLimit = limit.lines;
+}
+inline void apply(const TextTruncation& truncation, Surroundings& inside) {
+    inside.textStyle.truncation = truncation;
+}
+inline void apply(const HorizontalAlignment& alignment, Surroundings& inside) {
+    inside.textStyle.alignment = alignment;
+}
+inline void apply(const Opacity& opacity, Surroundings& inside) {
+    inside.opacity *= opacity.value;
+}
+inline void apply(const Disabled& disabled, Surroundings& inside) {
+    inside.control.isEnabled = inside.control.isEnabled && !disabled.value;
+}
+inline void apply(const ButtonStyle& style, Surroundings& inside) {
+    inside.control.style = style;
+}
+inline void apply(const KeyboardShortcut& shortcut, Surroundings& inside) {
+    inside.control.shortcut = shortcut;
+}
 
 }  // namespace views

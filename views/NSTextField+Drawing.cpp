@@ -1,8 +1,8 @@
 // What a field looks like: the whole text, shortened in its middle, while it isn't edited; else the part around the caret, with selection or caret.
 #include <algorithm>
-#include <cmath>
 
 #include "views/NSTextField.h"
+#include "views/PixelGrid.h"
 
 namespace views {
 
@@ -10,13 +10,10 @@ namespace {
 
 constexpr double lineFragmentPadding = 2;
 constexpr double caretWidth = 1;
+constexpr double opacityWithoutKeyboard = 0.4;
 
 platform::RoundedShape boxed(const platform::CGRect& rect) {
     return {rect, 0, platform::CornerStyle::circular};
-}
-
-double toHalfPoint(double position) {
-    return std::round(position * 2) / 2;
 }
 
 }  // namespace
@@ -61,7 +58,9 @@ void NSTextField::drawShapes(platform::Drawing& into) const {
     const platform::CGRect area = textArea();
     const double left = area.minX() - scrolled;
     const TextFieldEngine& state = editor->state();
+    const bool hasKeyboard = window() != nullptr && window()->isKeyWindow();
     if (state.selectionBegin() == state.selectionEnd()) {
+        if (!hasKeyboard) return;
         const double x = toHalfPoint(left + positionOf(state.caret()));
         into.operations.emplace_back(
             platform::FillShape{boxed(platform::CGRectMake(x, area.minY(), caretWidth, area.height())),
@@ -73,9 +72,9 @@ void NSTextField::drawShapes(platform::Drawing& into) const {
         const double begin = std::max(frame().minX(), toHalfPoint(left + selected.begin));
         const double end = std::min(frame().maxX(), toHalfPoint(left + selected.end));
         if (end > begin)
-            into.operations.emplace_back(
-                platform::FillShape{boxed(platform::CGRectMake(begin, area.minY(), end - begin, area.height())),
-                                    platform::Color::of(platform::ColorRole::selectedText)});
+            into.operations.emplace_back(platform::FillShape{
+                boxed(platform::CGRectMake(begin, area.minY(), end - begin, area.height())),
+                platform::Color::of(platform::ColorRole::selectedText, hasKeyboard ? 1 : opacityWithoutKeyboard)});
     }
 }
 

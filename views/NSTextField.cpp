@@ -17,7 +17,7 @@ void NSTextField::setStringValue(std::string text) {
 }
 
 bool NSTextField::becomeFirstResponder() {
-    editor.emplace(platform, ownText, [this] { setNeedsDisplay(); });
+    editor.emplace(platform, ownText, font, [this] { setNeedsDisplay(); });
     editor->doCommandBySelector("selectAll:");
     setNeedsDisplay();
     return true;
@@ -67,7 +67,7 @@ void NSTextField::doCommand(std::string_view command) {
 }
 
 void NSTextField::afterEditing(const std::string& textBefore) {
-    scrollToCaret();
+    if (!editor->state().isSelectedAsAWhole()) scrollToCaret();
     setNeedsDisplay();
     const auto told = delegate.lock();
     if (told && editor->string() != textBefore) told->controlTextDidChange(this);

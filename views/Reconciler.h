@@ -3,10 +3,12 @@
 // siblings by key.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include "views/Context.h"
+#include "views/TaskSlot.h"
 #include "views/View.h"
 
 namespace views {
@@ -20,20 +22,24 @@ public:
     // lost its state afterwards.
     bool update(View& fresh, View* previous);
 
-    // Makes sure that the geometry reader's child is its content for this size.
-    void expand(View& reader, CGSize size);
+    // The same for the children alone; the views themselves have been compared.
+    bool updateChildren(View& fresh, View* previous);
+
+    // Has the view's children declared anew, with the state of those before.
+    void redeclare(View& view, const std::function<void(std::vector<View>& children)>& declare);
+
+    // Whatever is read meanwhile is read for the view that is being declared.
+    template <typename Declare>
+    void evaluate(Declare declare) {
+        host->isEvaluating = true;
+        declare();
+        host->isEvaluating = false;
+    }
 
     // For trees that look alike: has `kept` act as `fresh` says, and leaves everything where it is.
     static void takeBehaviour(View& kept, View& fresh);
 
-private:
-    bool updateComposite(View& fresh, View* previous);
-    bool updateReader(View& fresh, View* previous);
-    bool updateRepresentable(View& fresh, View* previous);
-    void updateTask(View& fresh, View* previous);
-    bool updateChildren(View& fresh, View* previous);
-
-    std::shared_ptr<HostLink> host;
+    const std::shared_ptr<HostLink> host;
     std::vector<std::weak_ptr<TaskSlot>>& tasks;
 };
 

@@ -1,37 +1,37 @@
 #include "views/View.h"
 
-#include "views/Shapes.h"
+#include <algorithm>
+
+#include "views/nodes/AccessibilityLabelNode.h"
+#include "views/nodes/ContextMenuNode.h"
+#include "views/nodes/DecorationNode.h"
+#include "views/nodes/EmptyNode.h"
+#include "views/nodes/GroupNode.h"
+#include "views/nodes/HelpNode.h"
+#include "views/nodes/PopoverNode.h"
+#include "views/nodes/ShapeNode.h"
+#include "views/nodes/TapGestureNode.h"
+#include "views/nodes/TaskNode.h"
 
 namespace views {
 
-namespace {
-
-ShapeContent plain(Color color) {
-    ShapeContent content;
-    content.style = ShapeStyle::filled;
-    content.color = color;
-    return content;
-}
-
-}  // namespace
-
 bool operator==(const ModifierList& a, const ModifierList& b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t index = 0; index < a.size(); ++index)
-        if (a[index] != b[index]) return false;
-    return true;
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin());
 }
 
-View::View(Color color) : View(ViewKind::shape, plain(color)) {}
+View::View() : View(EmptyNode()) {}
+
+View::View(Color color) : View(ShapeNode(color)) {}
 
 View&& View::with(const Modifier& modifier) {
-    if (modifiers.isFull()) wrap(ViewKind::group, {});
+    if (modifiers.isFull()) wrap(GroupNode());
     modifiers.append(modifier);
     return std::move(*this);
 }
 
-View&& View::wrap(ViewKind outerKind, ViewContent outerContent) {
-    View outer(outerKind, std::move(outerContent));
+template <IsNode T>
+View&& View::wrap(T outerNode) {
+    View outer(std::move(outerNode));
     outer.key = std::exchange(key, {});
     outer.children.push_back(std::move(*this));
     *this = std::move(outer);
@@ -54,49 +54,43 @@ View&& View::frame(const FrameArguments& arguments) && {
 }
 
 View&& View::background(View behind) && {
-    wrap(ViewKind::background, StackContent{});
+    wrap(DecorationNode(DecorationNode::Place::behind, Alignment::center));
     children.push_back(std::move(behind));
     return std::move(*this);
 }
 
 View&& View::overlay(View inFront, Alignment alignment) && {
-    wrap(ViewKind::overlay, StackContent{alignment, 0});
+    wrap(DecorationNode(DecorationNode::Place::inFront, alignment));
     children.push_back(std::move(inFront));
     return std::move(*this);
 }
 
 View&& View::clipShape(const Shape& shape) && {
-    const ShapeContent& form = shape.form();
-    const double radius = form.form == ShapeForm::capsule ? infinity : form.radius;
-    return with(Clip{radius, form.corners});
+    return with(Clip{shape.cornerRadius(), shape.cornerStyle()});
 }
 
 View&& View::onTapGesture(std::function<void()> action) && {
-    return wrap(ViewKind::tapGesture, ActionContent{std::move(action)});
+    return wrap(TapGestureNode(std::move(action)));
 }
 
 View&& View::contextMenu(std::function<View()> menu) && {
-    return wrap(ViewKind::contextMenu, MenuContent{std::move(menu)});
+    return wrap(ContextMenuNode(std::move(menu)));
 }
 
 View&& View::popover(Binding<bool> isPresented, Edge arrowEdge, std::function<View()> popoverContent) && {
-    auto popover = std::make_unique<Popover>();
-    popover->isPresented = std::move(isPresented);
-    popover->arrowEdge = arrowEdge;
-    popover->content = std::move(popoverContent);
-    return wrap(ViewKind::popover, PopoverContent{std::move(popover)});
+    return wrap(PopoverNode(Popover{std::move(isPresented), arrowEdge, std::move(popoverContent)}));
 }
 
 View&& View::help(std::string text) && {
-    return wrap(ViewKind::help, TextContent{std::move(text)});
+    return wrap(HelpNode(std::move(text)));
 }
 
 View&& View::task(std::function<Task()> start) && {
-    return wrap(ViewKind::task, TaskContent{std::move(start), nullptr});
+    return wrap(TaskNode(std::move(start)));
 }
 
 View&& View::accessibilityLabel(std::string label) && {
-    return wrap(ViewKind::accessibilityLabel, TextContent{std::move(label)});
+    return wrap(AccessibilityLabelNode(std::move(label)));
 }
 
 }  // namespace views

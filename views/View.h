@@ -1,6 +1,6 @@
-// A node of the declarative tree: what a window shows, said as a value by the body() of some view. Views are made by
-// the builders (Stacks.h, Text.h, Shapes.h, Controls.h), take modifiers by chaining, and are moved into the view that
-// contains them. A node says nothing of where it stands: see Layout.h.
+// A part of the declarative tree: what a window shows, said as a value by the body() of some view. Views are made by
+// the builders (in nodes/), take modifiers by chaining, and are moved into the view that contains them. A view says
+// nothing of where it is: see Layout.h.
 //
 //     HStack({.spacing = 0}, Text("Orvane").font({.size = 13}).padding(Edge::leading, 4),
 //            Rectangle().fill(color).frame({.width = 1}))
@@ -20,9 +20,10 @@
 
 #include "views/Binding.h"
 #include "views/Composite.h"
-#include "views/Modifier.h"
+#include "views/ModifierList.h"
 #include "views/NSViewRepresentable.h"
-#include "views/ViewContent.h"
+#include "views/NodeBox.h"
+#include "views/Task.h"
 
 namespace views {
 
@@ -30,14 +31,18 @@ class Shape;
 
 class View {
 public:
-    View() = default;
-    explicit View(ViewKind theKind) : kind(theKind) {}
-    View(ViewKind theKind, ViewContent theContent) : kind(theKind), content(std::move(theContent)) {}
+    View();
+    template <IsNode T>
+    explicit View(T theNode) : node(std::move(theNode)) {}
+    template <IsNode T>
+    View(T theNode, View child) : node(std::move(theNode)) {
+        children.push_back(std::move(child));
+    }
     View(Color color);  // NOLINT(google-explicit-constructor)
     template <DeclaresBody T>
-    View(T view);  // NOLINT(google-explicit-constructor)
+    View(T view);  // NOLINT(google-explicit-constructor); in nodes/CompositeNode.h
     template <RepresentsNSView T>
-    View(T view);  // NOLINT(google-explicit-constructor)
+    View(T view);  // NOLINT(google-explicit-constructor); in nodes/RepresentableNode.h
     View(View&&) noexcept = default;
     View& operator=(View&&) noexcept = default;
     View(const View&) = delete;
@@ -67,7 +72,12 @@ public:
     View&& clipShape(const Shape& shape) &&;
     View&& scaleEffect(double factor) && { return with(ScaleEffect{factor}); }
 
-    // Behaviour. The whole frame of a view that reacts takes clicks, so a rectangular content shape adds nothing to it.
+    // Behaviour. What is disabled looks so, takes clicks and does nothing.
+    View&& disabled(bool value) && { return with(Disabled{value}); }
+    View&& buttonStyle(ButtonStyle value) && { return with(value); }
+    // The default button of a window reacts to Return.
+    View&& keyboardShortcut(KeyboardShortcut value) && { return with(value); }
+    // The whole frame of a view that reacts takes clicks, so a rectangular content shape adds nothing to it.
     View&& contentShape() && { return std::move(*this); }
     View&& onTapGesture(std::function<void()> action) &&;
     // The content is evaluated when the menu opens.
@@ -94,37 +104,23 @@ public:
 
     template <typename T>
     T& as() {
-        return *std::get_if<T>(&content);
+        return static_cast<T&>(*node);
     }
     template <typename T>
     const T& as() const {
-        return *std::get_if<T>(&content);
+        return static_cast<const T&>(*node);
     }
 
-    ViewKind kind = ViewKind::empty;
+    NodeBox node;
     ModifierList modifiers;
     std::string key;
-    ViewContent content;
     std::vector<View> children;
 
 private:
     View&& with(const Modifier& modifier);
     // Makes this view the only child so far of a new one.
-    View&& wrap(ViewKind outerKind, ViewContent outerContent);
+    template <IsNode T>
+    View&& wrap(T outerNode);
 };
-
-template <DeclaresBody T>
-View CompositeOf<T>::body() const {
-    return view.body();
-}
-
-template <DeclaresBody T>
-View::View(T view)
-    : View(ViewKind::composite, CompositeContent{std::make_shared<CompositeOf<T>>(std::move(view)), nullptr}) {}
-
-template <RepresentsNSView T>
-View::View(T view)
-    : View(ViewKind::representable,
-           RepresentableContent{std::make_shared<RepresentableOf<T>>(std::move(view)), nullptr}) {}
 
 }  // namespace views

@@ -15,11 +15,7 @@ std::string layOut(View view, CGSize size) {
     kit::FixedText text;
     Layout layout;
     LayoutPass pass(
-        text,
-        [](View& reader, CGSize readerSize) {
-            reader.children.push_back(reader.as<ReaderContent>().build(readerSize));
-        },
-        layout);
+        text, [](View& reader, const LayoutPass::Declaration& declare) { declare(reader.children); }, layout);
     pass.layOut(view, size);
     return layout.description();
 }

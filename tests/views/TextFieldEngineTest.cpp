@@ -52,7 +52,12 @@ protected:
     }
 
     kit::PlainBoundaries boundaries;
-    TextFieldEngine engine{boundaries};
+    // Two Latin letters, then three Hebrew ones, which are seen in the opposite order.
+    static double seenAt(std::string_view, std::size_t offset) {
+        static constexpr double places[] = {0, 1, 2, 0, 4, 0, 3, 0, 5};
+        return places[offset];
+    }
+    TextFieldEngine engine{boundaries, seenAt};
 };
 
 struct Case {
@@ -181,6 +186,16 @@ TEST_F(EngineTest, KeepsItsWordUnderRandomEditing) {
         for (int step = 0; step < 200; ++step) engine.undo();
         ASSERT_EQ(engine.text(), "/Users/" + accented) << "seed " << seed;
     }
+}
+
+TEST_F(EngineTest, LeftAndRightGoBySightWhereTextRunsBothWays) {
+    const Case cases[] = {
+        {"across both", "|ab\u05d0\u05d1\u05d2", "moveRight moveRight moveRight", "ab\u05d0\u05d1|\u05d2"},
+        {"to the end", "ab\u05d0\u05d1|\u05d2", "moveRight moveRight moveRight", "ab\u05d0\u05d1\u05d2|"},
+        {"and back", "ab\u05d0|\u05d1\u05d2", "moveLeft moveLeft moveLeft", "a|b\u05d0\u05d1\u05d2"},
+        {"growing", "ab\u05d0\u05d1|\u05d2", "moveRight*", "ab\u05d0[\u05d1]\u05d2"},
+    };
+    for (const Case& each : cases) EXPECT_EQ(after(each.start, each.commands), each.end) << each.what;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "views/text/TextFieldEngine.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "views/text/Utf8.h"
@@ -11,6 +12,23 @@ namespace {
 
 // Nobody takes more steps back in a path, and each keeps a whole text.
 constexpr std::size_t mostSteps = 200;
+
+// Whether it has a letter of a script that runs from right to left: all begin with one of these pairs of bytes.
+bool mayRunBothWays(std::string_view text) {
+    struct Lead {
+        unsigned char first, last, secondLow, secondHigh;
+    };
+    static constexpr Lead leads[] = {{0xD6, 0xD6, 0x90, 0xBF}, {0xD7, 0xDF, 0x80, 0xBF}, {0xE0, 0xE0, 0xA0, 0xA3},
+                                     {0xEF, 0xEF, 0xAC, 0xBB}, {0xF0, 0xF0, 0x90, 0x90}, {0xF0, 0xF0, 0x9E, 0x9E}};
+    const auto isOne = [](char a, char b) {
+        const auto first = static_cast<unsigned char>(a);
+        const auto second = static_cast<unsigned char>(b);
+        return std::any_of(std::begin(leads), std::end(leads), [&](const Lead& lead) {
+            return first >= lead.first && first <= lead.last && second >= lead.secondLow && second <= lead.secondHigh;
+        });
+    };
+    return std::adjacent_find(text.begin(), text.end(), isOne) != text.end();
+}
 
 }  // namespace
 
@@ -84,18 +102,18 @@ bool TextFieldEngine::perform(std::string_view command) {
     using enum Reach;
     using enum Way;
     static constexpr Motion motions[] = {
-        {"moveLeft:", move, character, backward},
-        {"moveRight:", move, character, forward},
-        {"moveWordLeft:", move, word, backward},
-        {"moveWordRight:", move, word, forward},
+        {"moveLeft:", move, character, left},
+        {"moveRight:", move, character, right},
+        {"moveWordLeft:", move, word, left},
+        {"moveWordRight:", move, word, right},
         {"moveToBeginningOfLine:", move, line, backward},
         {"moveToEndOfLine:", move, line, forward},
         {"moveUp:", move, line, backward},
         {"moveDown:", move, line, forward},
-        {"moveLeftAndModifySelection:", extend, character, backward},
-        {"moveRightAndModifySelection:", extend, character, forward},
-        {"moveWordLeftAndModifySelection:", extend, word, backward},
-        {"moveWordRightAndModifySelection:", extend, word, forward},
+        {"moveLeftAndModifySelection:", extend, character, left},
+        {"moveRightAndModifySelection:", extend, character, right},
+        {"moveWordLeftAndModifySelection:", extend, word, left},
+        {"moveWordRightAndModifySelection:", extend, word, right},
         {"moveToBeginningOfLineAndModifySelection:", extend, line, backward},
         {"moveToEndOfLineAndModifySelection:", extend, line, forward},
         {"moveUpAndModifySelection:", extend, line, backward},
@@ -132,11 +150,44 @@ std::size_t TextFieldEngine::reached(Reach reach, Way way, std::size_t from) con
     return isForward ? now.text.size() : 0;
 }
 
+// Left and right are by sight: in text that runs from right to left they are forward and backward. Text without a letter of such a script isn't asked for places.
+TextFieldEngine::Way TextFieldEngine::along(Way way, std::size_t from) const {
+    if (way == Way::backward || way == Way::forward) return way;
+    const Way usual = way == Way::right ? Way::forward : Way::backward;
+    if (!mayRunBothWays(now.text)) return usual;
+    const std::size_t neighbour = beside(way, from);
+    if (neighbour == from) return usual;
+    return neighbour > from ? Way::forward : Way::backward;
+}
+
+// The nearest place of the caret on that side; the same one at the end of the line.
+std::size_t TextFieldEngine::beside(Way way, std::size_t from) const {
+    constexpr double least = 0.01;
+    const double sign = way == Way::right ? 1 : -1;
+    const double here = caretPosition(now.text, from);
+    std::size_t nearest = from;
+    double leastDistance = std::numeric_limits<double>::infinity();
+    for (std::size_t offset = 0;; offset = boundaries.nextCharacter(now.text, offset)) {
+        const double distance = sign * (caretPosition(now.text, offset) - here);
+        if (distance > least && distance < leastDistance) {
+            leastDistance = distance;
+            nearest = offset;
+        }
+        if (offset >= now.text.size()) return nearest;
+    }
+}
+
+std::size_t TextFieldEngine::target(const Motion& motion, std::size_t from) const {
+    const bool isBySight = motion.way == Way::left || motion.way == Way::right;
+    if (isBySight && motion.reach == Reach::character && mayRunBothWays(now.text)) return beside(motion.way, from);
+    return reached(motion.reach, along(motion.way, from), from);
+}
+
 // A step by one character only gives a selection up, at the end that it steps to.
 void TextFieldEngine::move(const Motion& motion) {
-    const std::size_t edge = motion.way == Way::forward ? selectionEnd() : selectionBegin();
+    const std::size_t edge = along(motion.way, now.caret) == Way::forward ? selectionEnd() : selectionBegin();
     const bool onlyCollapses = motion.reach == Reach::character && selectionBegin() != selectionEnd();
-    placeCaret(onlyCollapses ? edge : reached(motion.reach, motion.way, edge));
+    placeCaret(onlyCollapses ? edge : target(motion, edge));
 }
 
 // As the platform's fields do: by words it halts at the anchor before it goes to the other side, and to the ends of the line it only ever grows.
@@ -144,17 +195,17 @@ void TextFieldEngine::extend(const Motion& motion) {
     openGroup = Group::none;
     const std::size_t begin = selectionBegin();
     const std::size_t end = selectionEnd();
-    const bool isForward = motion.way == Way::forward;
+    const bool isForward = along(motion.way, now.caret) == Way::forward;
     if (now.isUndirected || motion.reach == Reach::line) {
         now.anchor = isForward ? begin : end;
         now.caret = isForward ? end : begin;
         now.isUndirected = false;
     }
-    std::size_t target = reached(motion.reach, motion.way, now.caret);
+    std::size_t next = target(motion, now.caret);
     const bool crosses =
-        isForward ? now.caret < now.anchor && target > now.anchor : now.caret > now.anchor && target < now.anchor;
-    if (motion.reach == Reach::word && crosses) target = now.anchor;
-    now.caret = target;
+        isForward ? now.caret < now.anchor && next > now.anchor : now.caret > now.anchor && next < now.anchor;
+    if (motion.reach == Reach::word && crosses) next = now.anchor;
+    now.caret = next;
 }
 
 void TextFieldEngine::remove(const Motion& motion) {

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/TextBoundaries.h"
@@ -14,7 +16,11 @@ namespace views {
 
 class TextFieldEngine {
 public:
-    explicit TextFieldEngine(platform::TextBoundaries& theBoundaries) : boundaries(theBoundaries) {}
+    // Where a caret in front of that byte is seen, from the left.
+    using CaretPosition = std::function<double(std::string_view text, std::size_t offset)>;
+
+    TextFieldEngine(platform::TextBoundaries& theBoundaries, CaretPosition theCaretPosition)
+        : boundaries(theBoundaries), caretPosition(std::move(theCaretPosition)) {}
 
     const std::string& text() const { return now.text; }
     // Text from outside: the caret goes to its end, and there is nothing to undo.
@@ -28,6 +34,8 @@ public:
     std::size_t selectionBegin() const;
     std::size_t selectionEnd() const;
     std::size_t caret() const { return now.caret; }
+    // By selecting all or from outside: neither end has been moved yet.
+    bool isSelectedAsAWhole() const { return now.isUndirected; }
 
     // Typed text takes the selection's place, and is undone together with what was typed just before. Malformed bytes are replaced.
     void type(std::string_view text);
@@ -51,7 +59,7 @@ private:
     enum class Group { none, typing, deletingBackward, deletingForward };
     enum class Deed { move, extend, remove };
     enum class Reach { character, word, line };
-    enum class Way { backward, forward };
+    enum class Way { backward, forward, left, right };
     struct Motion {
         std::string_view command;
         Deed deed;
@@ -60,6 +68,9 @@ private:
     };
 
     std::size_t reached(Reach reach, Way way, std::size_t from) const;
+    Way along(Way way, std::size_t from) const;
+    std::size_t beside(Way way, std::size_t from) const;
+    std::size_t target(const Motion& motion, std::size_t from) const;
     void move(const Motion& motion);
     void extend(const Motion& motion);
     void remove(const Motion& motion);
@@ -69,6 +80,7 @@ private:
     void exchange(std::vector<Snapshot>& from, std::vector<Snapshot>& to);
 
     platform::TextBoundaries& boundaries;
+    const CaretPosition caretPosition;
     Snapshot now;
     std::vector<Snapshot> undone;
     std::vector<Snapshot> done;

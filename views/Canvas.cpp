@@ -1,0 +1,68 @@
+#include "views/Canvas.h"
+
+#include <algorithm>
+
+#include "views/PixelGrid.h"
+
+namespace views {
+
+void Canvas::draw() {
+    into.operations.clear();
+    if (layout.isEmpty()) return;
+    for (const Stratum stratum : {Stratum::shapes, Stratum::texts}) {
+        now = stratum;
+        const LayoutItem& root = layout[layout.root()];
+        root.rule->draw(*this, root);
+    }
+}
+
+void Canvas::drawChildren(const LayoutItem& item) {
+    for (std::int32_t child = item.firstChild; child >= 0; child = layout[child].nextSibling)
+        layout[child].rule->draw(*this, layout[child]);
+}
+
+CGRect Canvas::drawn(const CGRect& rect) const {
+    if (scale == 1) return rect;
+    return CGRectMake(origin.x + rect.minX() * scale, origin.y + rect.minY() * scale, rect.width() * scale,
+                      rect.height() * scale);
+}
+
+CGRect Canvas::crisp(const CGRect& rect) const {
+    const CGRect exact = drawn(rect);
+    const double x = toHalfPoint(exact.minX());
+    const double y = toHalfPoint(exact.minY());
+    return CGRectMake(x, y, toHalfPoint(exact.maxX()) - x, toHalfPoint(exact.maxY()) - y);
+}
+
+void Canvas::fill(const CGRect& rect, double radius, CornerStyle corners, Color color) {
+    if (rect.width() > 0 && rect.height() > 0 && isVisible(color))
+        add(rect, platform::FillShape{{rect, radius, corners}, color});
+}
+
+void Canvas::drawChildrenClipped(const LayoutItem& item, double radius, CornerStyle corners) {
+    const CGRect rect = drawn(item.frame);
+    const CGRect visible = seen ? platform::CGRectIntersection(*seen, rect) : rect;
+    if (platform::CGRectIsNull(visible) || visible.width() <= 0 || visible.height() <= 0) return;
+    const std::size_t before = into.operations.size();
+    into.operations.emplace_back(
+        platform::BeginClip{rect, std::min({drawn(radius), rect.width() / 2, rect.height() / 2}), corners});
+    const auto around = std::exchange(seen, visible);
+    drawChildren(item);
+    seen = around;
+    if (into.operations.size() == before + 1)
+        into.operations.pop_back();
+    else
+        into.operations.emplace_back(platform::EndClip{});
+}
+
+void Canvas::drawChildrenScaled(const LayoutItem& item, double factor) {
+    const double scaleAround = scale;
+    const CGPoint originAround = origin;
+    origin = {origin.x + scale * (1 - factor) * item.frame.midX(), origin.y + scale * (1 - factor) * item.frame.midY()};
+    scale *= factor;
+    drawChildren(item);
+    scale = scaleAround;
+    origin = originAround;
+}
+
+}  // namespace views

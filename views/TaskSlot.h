@@ -1,0 +1,22 @@
+// A task in its place in the tree: running while the place is on screen.
+// Whoever drops the last reference cancels it.
+#pragma once
+
+#include <functional>
+
+#include "views/Task.h"
+
+namespace views {
+
+struct TaskSlot {
+    std::function<Task()> start;
+    Task running;
+    bool isRunning = false;
+
+    TaskSlot() = default;
+    TaskSlot(const TaskSlot&) = delete;
+    TaskSlot& operator=(const TaskSlot&) = delete;
+    ~TaskSlot() { running.cancel(); }
+};
+
+}  // namespace views

@@ -1,0 +1,18 @@
+#include "views/nodes/SpacerNode.h"
+
+#include <algorithm>
+
+#include "views/LayoutPass.h"
+
+namespace views {
+
+void SpacerNode::append(LayoutPass& pass, View& view, const Opening& opening) {
+    pass.openLeaf(*this, view, opening);
+}
+
+CGSize SpacerNode::measure(LayoutPass& pass, std::int32_t index, const ProposedSize& proposal) const {
+    return pass[index].isVertical ? CGSize{0, std::max(minLength, proposal.height)}
+                                  : CGSize{std::max(minLength, proposal.width), 0};
+}
+
+}  // namespace views
