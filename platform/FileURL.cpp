@@ -4,11 +4,6 @@ namespace platform {
 
 namespace {
 
-std::string_view withoutTrailingSlashes(std::string_view path) {
-    while (path.size() > 1 && path.back() == '/') path.remove_suffix(1);
-    return path;
-}
-
 template <typename Visit>
 void forEachName(std::string_view path, Visit visit) {
     std::size_t begin = 0;
@@ -58,6 +53,19 @@ std::vector<std::string> pathComponents(std::string_view path) {
     std::vector<std::string> components{"/"};
     forEachName(path, [&](std::string_view name) { components.emplace_back(name); });
     return components;
+}
+
+std::string_view withoutTrailingSlashes(std::string_view path) {
+    while (path.size() > 1 && path.back() == '/') path.remove_suffix(1);
+    return path;
+}
+
+std::string appendingPathComponent(std::string_view path, std::string_view name) {
+    std::string whole;
+    whole.reserve(path.size() + 1 + name.size());
+    whole += path;
+    if (whole.empty() || whole.back() != '/') whole += '/';
+    return whole += name;
 }
 
 std::string_view lastPathComponent(std::string_view path) {

@@ -17,6 +17,12 @@ std::string standardizedPath(std::string_view path, std::string_view currentDire
 // "/" first, then one name each; the path is taken as absolute. A trailing slash adds nothing.
 std::vector<std::string> pathComponents(std::string_view path);
 
+// "/" of the root stays.
+std::string_view withoutTrailingSlashes(std::string_view path);
+
+// What stands under that name in the folder.
+std::string appendingPathComponent(std::string_view path, std::string_view name);
+
 // Ignores trailing slashes; "/" of the root, empty of an empty path.
 std::string_view lastPathComponent(std::string_view path);
 

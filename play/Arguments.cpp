@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "platform/FileURL.h"
+
 namespace play {
 
 void badCommand(const std::string& message) {
@@ -66,10 +68,9 @@ platform::CGPoint Arguments::point(std::size_t index) const {
 }
 
 std::string Arguments::path(std::size_t index) const {
-    std::string path = text(index);
+    const std::string& path = text(index);
     if (path.empty() || path.front() != '/') badCommand("not an absolute path: " + path);
-    while (path.size() > 1 && path.back() == '/') path.pop_back();
-    return path;
+    return std::string(platform::withoutTrailingSlashes(path));
 }
 
 std::string Arguments::rest(std::size_t index) const {

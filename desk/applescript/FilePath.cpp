@@ -17,18 +17,6 @@ std::string exchanged(std::string_view text) {
 
 }  // namespace
 
-std::string withoutTrailingSlashes(std::string_view path) {
-    while (path.size() > 1 && path.back() == '/') {
-        path.remove_suffix(1);
-    }
-    return std::string(path);
-}
-
-std::string parentPath(std::string_view path) {
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string_view::npos ? "" : slash == 0 ? "/" : withoutTrailingSlashes(path.substr(0, slash));
-}
-
 std::string_view lastComponent(std::string_view path) {
     return path == "/" ? startupDiskName : path.substr(path.rfind('/') + 1);
 }

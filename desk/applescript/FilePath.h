@@ -7,9 +7,7 @@
 
 namespace desk::applescript {
 
-// "/" stays as it is.
-std::string withoutTrailingSlashes(std::string_view path);
-std::string parentPath(std::string_view path);
+// Of "/" the startup disk's name.
 std::string_view lastComponent(std::string_view path);
 
 // A colon on disk is a slash in Finder, and the other way round.

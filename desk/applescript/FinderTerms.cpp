@@ -3,6 +3,7 @@
 #include "desk/applescript/Coercion.h"
 #include "desk/applescript/Failure.h"
 #include "desk/applescript/FilePath.h"
+#include "platform/FileURL.h"
 
 #include <utility>
 
@@ -38,7 +39,7 @@ Value FinderTerms::application() {
 }
 
 Value FinderTerms::file(Reference::Kind kind, std::string_view posixPath, bool isFolder) {
-    return Value::reference({kind, withoutTrailingSlashes(posixPath), isFolder, 0});
+    return Value::reference({kind, std::string(platform::withoutTrailingSlashes(posixPath)), isFolder, 0});
 }
 
 Value FinderTerms::windows() {

@@ -3,6 +3,7 @@
 #include "desk/applescript/Coercion.h"
 #include "desk/applescript/FilePath.h"
 #include "desk/applescript/TextCase.h"
+#include "platform/FileURL.h"
 
 namespace desk::applescript {
 
@@ -14,7 +15,7 @@ std::string describedItem(const Reference& item) {
     std::string text;
     std::string path = item.path;
     std::string kind = item.isFolder ? "folder" : "item";
-    for (; path != "/" && !path.empty(); path = parentPath(path), kind = "folder") {
+    for (; path != "/" && !path.empty(); path = platform::deletingLastPathComponent(path), kind = "folder") {
         text += kind + " \"" + finderName(lastComponent(path)) + "\" of ";
     }
     return text + "startup disk";

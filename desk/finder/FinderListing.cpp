@@ -43,8 +43,7 @@ void FinderListing::read(const Disk& disk, platform::Collation& collation) {
 }
 
 std::string FinderListing::pathOf(std::size_t row) const {
-    const std::string& above = *folder;
-    return above == "/" ? above + sorted[row].name : above + "/" + sorted[row].name;
+    return platform::appendingPathComponent(*folder, sorted[row].name);
 }
 
 std::optional<std::size_t> FinderListing::rowOf(const std::string& path) const {

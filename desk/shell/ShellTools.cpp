@@ -63,7 +63,7 @@ ShellResult ShellTools::run(const std::vector<std::string>& command) {
 // Into the destination if that is a folder, as cp and mv do.
 std::string ShellTools::placedIn(const std::string& destination, const std::string& source) const {
     if (disk.kind(destination) != platform::FileKind::directory) return destination;
-    return destination + "/" + std::string(platform::lastPathComponent(source));
+    return platform::appendingPathComponent(destination, platform::lastPathComponent(source));
 }
 
 ShellResult ShellTools::cat(const Call& call) {

@@ -98,7 +98,7 @@ std::string Chooser::namesakeOf(const std::string& folder) const {
 std::string Chooser::itemIn(const std::string& folder) const {
     const auto entries = session.machine.disk.list(folder);
     if (!entries || entries->empty()) return {};
-    return (folder == "/" ? "" : folder) + "/" + random.pick(*entries).name;
+    return platform::appendingPathComponent(folder, random.pick(*entries).name);
 }
 
 std::string Chooser::ownFolder() const {
