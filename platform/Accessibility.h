@@ -28,10 +28,6 @@ struct AXUIElement {
     }
 };
 
-enum class AXValueType { illegal = 0, cgPoint = 1, cgSize = 2 };
-inline constexpr AXValueType kAXValueCGPointType = AXValueType::cgPoint;
-inline constexpr AXValueType kAXValueCGSizeType = AXValueType::cgSize;
-
 // A point or a size wrapped for transport; reading it as the other type fails.
 class AXValue {
 public:

@@ -48,10 +48,6 @@ inline bool CGRectIsNull(const CGRect& rect) {
     return std::isinf(rect.origin.x) || std::isinf(rect.origin.y);
 }
 
-inline bool CGRectEqualToRect(const CGRect& a, const CGRect& b) {
-    return a.origin == b.origin && a.size == b.size;
-}
-
 inline bool CGRectContainsPoint(const CGRect& rect, const CGPoint& point) {
     return point.x >= rect.minX() && point.x < rect.maxX() && point.y >= rect.minY() && point.y < rect.maxY();
 }

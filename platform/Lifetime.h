@@ -31,9 +31,6 @@ public:
         };
     }
 
-    // Expires with the object.
-    std::weak_ptr<void> watch() const { return mark; }
-
 private:
     std::shared_ptr<void> mark = std::make_shared<char>();
 };

@@ -33,8 +33,6 @@ public:
         : finder(theFinder), neighbours(theNeighbours) {}
     std::unique_ptr<platform::NSAppleScript> makeScript(LaunchedApplication& sender, const std::string& source);
 
-    // Since the machine was made.
-    std::uint64_t scriptsSent() const { return sent; }
     // The last 20.
     const std::deque<SentScript>& sentScripts() const { return scripts; }
 

@@ -46,7 +46,6 @@ public:
     void blockFor(platform::Duration duration);
     // The same until the condition holds, pulling the driver's steps; false when the driver ended first.
     bool blockUntil(const std::function<bool()>& condition);
-    bool isBlocked() const { return blocked > 0; }
     // The application's code is running or waiting.
     bool isOnStack() const { return turns + nested + blocked > 0; }
 
