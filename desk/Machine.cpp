@@ -18,6 +18,8 @@ constexpr const char* allow = "OK";
 
 Machine::Machine(platform::TextSystem& theText)
     : scheduler(startOfStories),
+      sketchedWindows(windows, displays, processes, activation),
+      processes(sketchedWindows),
       activation(processes, windows),
       launchServices(scheduler, disk, processes, windows, activation),
       input(*this),

@@ -24,6 +24,7 @@
 #include "desk/time/Scheduler.h"
 #include "desk/time/WallClock.h"
 #include "desk/windows/Displays.h"
+#include "desk/windows/SketchedWindows.h"
 #include "desk/windows/WindowStack.h"
 #include "platform/Screens.h"
 #include "platform/Text.h"
@@ -43,6 +44,7 @@ public:
     Disk disk;
     Displays displays;
     WindowStack windows;
+    SketchedWindows sketchedWindows;
     Processes processes;
     Activation activation;
     LaunchServices launchServices;

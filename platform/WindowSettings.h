@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/Drawing.h"
+#include "platform/Geometry.h"
 
 namespace platform {
 
@@ -42,6 +43,8 @@ struct WindowSettings {
     NSWindowAnimationBehavior animationBehavior = NSWindowAnimationBehavior::standard;
     unsigned collectionBehavior = 0;
     Color backgroundColor = Color::of(ColorRole::windowBackground);
+    CGSize minSize;
+    CGSize maxSize{1e6, 1e6};
     std::string title;
 };
 

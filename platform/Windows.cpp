@@ -1,5 +1,7 @@
 #include "platform/Windows.h"
 
+#include <cmath>
+#include <cstdint>
 #include <utility>
 
 #include "platform/Platform.h"
@@ -25,19 +27,51 @@ NSWindow::NSWindow(Platform& thePlatform, const CGRect& contentRect, unsigned st
 NSWindow::NSWindow(Platform& thePlatform, const CGRect& contentRect, WindowSettings settings)
     : platform(thePlatform),
       attributes(std::move(settings)),
-      handle(thePlatform.windows.makeWindow(*this, contentRect)) {}
+      handle(thePlatform.windows.makeWindow(
+          *this, thePlatform.windows.frameRectForContentRect(contentRect, attributes.styleMask))) {}
 
 NSWindow::~NSWindow() {
     if (content) content->didMoveToWindow(nullptr);
 }
 
 void NSWindow::sendEvent(const NSEvent& event) {
+    if (performKeyEquivalent(event)) return;
+    const bool isForContent = contentTakes(event);
     const bool isMouseDown = event.type == NSEventType::leftMouseDown || event.type == NSEventType::rightMouseDown;
     if (isMouseDown) makeKeyWindow();
     if (event.type == NSEventType::keyDown && responder != nullptr)
         responder->keyDown(event);
-    else if (content)
+    else if (isForContent)
         content->handleEvent(event);
+}
+
+bool NSWindow::contentTakes(const NSEvent& event) {
+    if (!content) return false;
+    if (event.type == NSEventType::leftMouseDown) refusesPress = !isKeyWindow() && !content->acceptsFirstMouse(event);
+    const bool isOfPress = event.type == NSEventType::leftMouseDown || event.type == NSEventType::leftMouseDragged ||
+                           event.type == NSEventType::leftMouseUp;
+    return !(isOfPress && refusesPress);
+}
+
+bool NSWindow::performKeyEquivalent(const NSEvent& event) {
+    struct Entry {
+        const char* key;
+        unsigned styleBit;
+        void (NSWindow::*act)();
+    };
+    static constexpr Entry entries[] = {
+        {"w", NSWindowStyleMask::closable, &NSWindow::performClose},
+        {"m", NSWindowStyleMask::miniaturizable, &NSWindow::miniaturize},
+    };
+    namespace Flags = NSEventModifierFlags;
+    constexpr std::uint64_t meaningful = Flags::command | Flags::shift | Flags::option | Flags::control;
+    if (event.type != NSEventType::keyDown || (event.modifierFlags & meaningful) != Flags::command) return false;
+    for (const Entry& entry : entries) {
+        if (event.charactersIgnoringModifiers != entry.key || !has(entry.styleBit)) continue;
+        (this->*entry.act)();
+        return true;
+    }
+    return false;
 }
 
 bool NSWindow::makeFirstResponder(NSResponder* newResponder) {
@@ -53,7 +87,19 @@ bool NSWindow::makeFirstResponder(NSResponder* newResponder) {
 void NSWindow::setFrame(const CGRect& frame, bool /*display*/) {
     const bool resized = frame.size != handle->frame().size;
     handle->setFrame(frame);
-    if (resized && content) content->setSize(frame.size);
+    if (resized && content) content->setSize(contentSize());
+}
+
+CGSize NSWindow::contentSize() const {
+    return platform.windows.contentRectForFrameRect(handle->frame(), attributes.styleMask).size;
+}
+
+void NSWindow::center() {
+    if (platform.screens.screens().empty()) return;
+    const CGRect room = platform.screens.screens().front().visibleFrame;
+    const CGSize size = handle->frame().size;
+    setFrameOrigin({std::floor(room.minX() + (room.width() - size.width) / 2),
+                    std::floor(room.minY() + 2.0 / 3 * (room.height() - size.height))});
 }
 
 void NSWindow::setFrameOrigin(const CGPoint& origin) {
@@ -75,7 +121,28 @@ void NSWindow::orderFrontRegardless() {
 
 void NSWindow::orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo) {
     handle->orderWindow(mode, relativeTo);
+    handle->setMiniaturized(false);
     visibilityChanged();
+}
+
+void NSWindow::performClose() {
+    if (has(NSWindowStyleMask::closable)) close();
+}
+
+void NSWindow::close() {
+    const auto keepAlive = weak_from_this().lock();
+    if (delegate != nullptr) delegate->windowWillClose();
+    orderOut();
+}
+
+void NSWindow::miniaturize() {
+    if (!has(NSWindowStyleMask::miniaturizable) || !isVisible()) return;
+    handle->setMiniaturized(true);
+    visibilityChanged();
+}
+
+void NSWindow::deminiaturize() {
+    if (isMiniaturized()) makeKeyAndOrderFront();
 }
 
 void NSWindow::makeKeyWindow() {
@@ -91,7 +158,7 @@ void NSWindow::setContentView(std::unique_ptr<ContentView> view) {
     if (content) content->didMoveToWindow(nullptr);
     content = std::move(view);
     if (!content) return;
-    content->setSize(handle->frame().size);
+    content->setSize(contentSize());
     content->didMoveToWindow(this);
     visibilityChanged();
     handle->setNeedsDisplay();

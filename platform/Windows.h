@@ -7,61 +7,18 @@
 #include <string>
 #include <utility>
 
+#include "platform/ContentView.h"
 #include "platform/Drawing.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"
+#include "platform/NSWindowDelegate.h"
 #include "platform/Responder.h"
 #include "platform/WindowSettings.h"
+#include "platform/WindowSystem.h"
 
 namespace platform {
 
 struct Platform;
-
-// What fills a window. The window owns it.
-class ContentView {
-public:
-    virtual ~ContentView() = default;
-    // Told when it is set on a window, with null when it is taken off, and when the window's size or visibility on screen changes.
-    virtual void didMoveToWindow(NSWindow* window) = 0;
-    virtual void setSize(CGSize size) = 0;
-    virtual void setOnScreen(bool onScreen) = 0;
-    // Whether a mouse down that only brings the application or window forward elsewhere acts at once here.
-    virtual bool acceptsFirstMouse(const NSEvent& event) = 0;
-    // Mouse and key events that the window hands on.
-    virtual void handleEvent(const NSEvent& event) = 0;
-    // What the view under that point, in the window's AppKit coordinates, says about itself when the mouse rests on it; empty for nothing.
-    virtual std::string toolTipAt(CGPoint /*point*/) const { return {}; }
-    // What is to be painted now, up to date as of the last end of turn; and a number that changes whenever that does.
-    virtual const Drawing& drawing() = 0;
-    virtual std::uint64_t drawingVersion() const = 0;
-};
-
-// The backend's side of one window. It is destroyed with the window.
-class WindowHandle {
-public:
-    virtual ~WindowHandle() = default;
-    virtual std::int64_t windowNumber() const = 0;
-    virtual CGRect frame() const = 0;
-    virtual void setFrame(const CGRect& frame) = 0;
-    virtual int level() const = 0;
-    // Setting the level that the window has already doesn't reorder it.
-    virtual void setLevel(int level) = 0;
-    virtual bool isVisible() const = 0;
-    // Relative to 0: to the front or back of its level. Relative to a window that is gone: to the front of its level.
-    virtual void orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo) = 0;
-    virtual void makeKey() = 0;
-    virtual bool isKey() const = 0;
-    virtual void settingsChanged() = 0;
-    // The content's drawing has changed: the next composed frame shows it.
-    virtual void setNeedsDisplay() = 0;
-};
-
-class WindowSystem {
-public:
-    virtual ~WindowSystem() = default;
-    // The backend sends the window its events through NSWindow::sendEvent.
-    virtual std::unique_ptr<WindowHandle> makeWindow(NSWindow& window, const CGRect& frame) = 0;
-};
 
 // Owned through std::shared_ptr: the backend keeps a window alive while it sends it an event, in which it may be closed and let go.
 class NSWindow : public std::enable_shared_from_this<NSWindow> {
@@ -74,15 +31,18 @@ public:
     virtual ~NSWindow();
 
     // Every event for this window arrives here first. The inherited operation makes the window key on a mouse down if it can become key, hands keys to the first
-    // responder, and everything else, and keys without one, to the content view.
+    // responder, and everything else, and keys without one, to the content view. A left press on a window that wasn't key, with all that follows up to its release, reaches
+    // only a content that accepts it. Command-W and Command-M are the window's own if its style has the button.
     virtual void sendEvent(const NSEvent& event);
-    virtual bool canBecomeKey() const { return (attributes.styleMask & NSWindowStyleMask::titled) != 0; }
-    virtual bool canBecomeMain() const { return (attributes.styleMask & NSWindowStyleMask::titled) != 0; }
+    virtual bool canBecomeKey() const { return has(NSWindowStyleMask::titled); }
+    virtual bool canBecomeMain() const { return has(NSWindowStyleMask::titled); }
 
     std::int64_t windowNumber() const { return handle->windowNumber(); }
     CGRect frame() const { return handle->frame(); }
     void setFrame(const CGRect& frame, bool display);
     void setFrameOrigin(const CGPoint& origin);
+    // In the middle of the first screen, somewhat above. Without a screen it stays.
+    void center();
     CGPoint convertPointToScreen(const CGPoint& point) const;
 
     int level() const { return handle->level(); }
@@ -93,8 +53,18 @@ public:
     void orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo);
     // Does nothing to a window that can't become key or isn't on screen.
     void makeKeyWindow();
+    // A minimised window comes back.
     void makeKeyAndOrderFront();
     bool isKeyWindow() const { return handle->isKey(); }
+
+    // What its buttons do; nothing to a window whose style hasn't the button.
+    void performClose();
+    void miniaturize();
+    void deminiaturize();
+    bool isMiniaturized() const { return handle->isMiniaturized(); }
+    // Tells the delegate, then orders the window out. Its owner lets it go, whatever isReleasedWhenClosed says.
+    void close();
+    void setDelegate(NSWindowDelegate* newDelegate) { delegate = newDelegate; }
 
     // Asks the present one to resign, then the new one to become it; false when either refuses, and there is then the old one or none. Null for none.
     bool makeFirstResponder(NSResponder* responder);
@@ -116,6 +86,9 @@ public:
     void setAnimationBehavior(NSWindowAnimationBehavior value) { change(&WindowSettings::animationBehavior, value); }
     void setCollectionBehavior(unsigned value) { change(&WindowSettings::collectionBehavior, value); }
     void setBackgroundColor(Color value) { change(&WindowSettings::backgroundColor, value); }
+    // Of frames that the user gives it.
+    void setMinSize(CGSize value) { change(&WindowSettings::minSize, value); }
+    void setMaxSize(CGSize value) { change(&WindowSettings::maxSize, value); }
     void setTitle(std::string value) { change(&WindowSettings::title, std::move(value)); }
 
     Platform& platform;
@@ -129,12 +102,18 @@ private:
         attributes.*field = std::move(value);
         handle->settingsChanged();
     }
+    bool has(unsigned styleBit) const { return (attributes.styleMask & styleBit) != 0; }
+    CGSize contentSize() const;
+    bool performKeyEquivalent(const NSEvent& event);
+    bool contentTakes(const NSEvent& event);
     void visibilityChanged();
 
     WindowSettings attributes;
     std::unique_ptr<WindowHandle> handle;
     std::unique_ptr<ContentView> content;
     NSResponder* responder = nullptr;
+    NSWindowDelegate* delegate = nullptr;
+    bool refusesPress = false;  // of the left button, until the next one
 };
 
 class NSPanel : public NSWindow {

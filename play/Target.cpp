@@ -63,14 +63,50 @@ CGPoint nearestPoint(ScriptPlayer& player, const desk::ServerWindow& window, con
     return wanted;
 }
 
+// Finder's by number or `front`, an application's ordinary one by title.
+std::int64_t namedWindow(ScriptPlayer& player, const Arguments& words) {
+    const std::string& name = words.text(0);
+    const bool isNumber = !name.empty() && name.find_first_not_of("0123456789") == std::string::npos;
+    if (isNumber || name == "front") return player.finderWindow(words, 0);
+    for (const desk::ServerWindow* shown : player.machine().windows.onScreen()) {
+        if (shown->window == nullptr || !shown->window->canBecomeMain()) continue;
+        if (shown->window->settings().title == name) return shown->number;
+    }
+    missingTarget("no window " + name);
+}
+
+// From the window's top left corner, y downward.
+struct WindowPart {
+    std::string_view name;
+    CGPoint (*place)(platform::CGSize size);
+    PartTest isSuch = nullptr;  // in a folder window
+};
+constexpr WindowPart windowParts[] = {
+    {"titlebar",
+     [](platform::CGSize size) {
+         return CGPoint{size.width / 2, desk::windowTitleBarHeight / 2};
+     },
+     isTitleBar},
+    {"content",
+     [](platform::CGSize size) {
+         return CGPoint{size.width / 2, (desk::windowTitleBarHeight + size.height) / 2};
+     },
+     isStillContent},
+    {"close", [](platform::CGSize) { return desk::centerOf(desk::WindowButton::close); }},
+    {"minimize", [](platform::CGSize) { return desk::centerOf(desk::WindowButton::minimize); }},
+    {"zoom", [](platform::CGSize) { return desk::centerOf(desk::WindowButton::zoom); }},
+    {"corner", [](platform::CGSize size) {
+         return CGPoint{size.width - 1, size.height - 1};
+     }}};
+
 Target windowPart(ScriptPlayer& player, const Arguments& words) {
-    const desk::ServerWindow& window = visibleWindow(player, player.finderWindow(words, 0));
-    const CGRect& frame = window.frame;
-    const double titleBar = frame.maxY() - desk::windowTitleBarHeight;
-    const CGPoint title{frame.midX(), titleBar + desk::windowTitleBarHeight / 2};
-    const CGPoint content{frame.midX(), (frame.minY() + titleBar) / 2};
-    if (words.is(1, "titlebar")) return {nearestPoint(player, window, title, isTitleBar), 3};
-    if (words.is(1, "content")) return {nearestPoint(player, window, content, isStillContent), 3};
+    const desk::ServerWindow& window = visibleWindow(player, namedWindow(player, words));
+    for (const WindowPart& part : windowParts) {
+        if (!words.is(1, part.name)) continue;
+        const CGPoint place = part.place(window.frame.size);
+        const CGPoint point{window.frame.minX() + place.x, window.frame.maxY() - place.y};
+        return {part.isSuch == nullptr ? point : nearestPoint(player, window, point, part.isSuch), 3};
+    }
     badCommand("unknown part of a window: " + words.text(1));
 }
 

@@ -24,15 +24,9 @@ bool isTitled(const ServerWindow& window) {
 }
 
 // The window that looks active: the frontmost process's main one.
-std::int64_t activeWindow(Machine& machine, const std::vector<const ServerWindow*>& frontToBack) {
+std::int64_t activeWindow(Machine& machine) {
     const Process* frontmost = machine.processes.frontmost();
-    if (frontmost == nullptr) return 0;
-    if (machine.finder.isRunning() && frontmost->processIdentifier == machine.finder.pid())
-        return machine.finder.mainWindow();
-    for (const ServerWindow* window : frontToBack)
-        if (window->owner == frontmost->processIdentifier && (window->window == nullptr || isTitled(*window)))
-            return window->number;
-    return 0;
+    return frontmost == nullptr ? 0 : machine.activation.mainWindow(frontmost->processIdentifier);
 }
 
 // With the look of a framed window: shadow, round corners.
@@ -77,7 +71,7 @@ std::vector<Layer> DesktopLayers::read(Machine& machine) {
 void DesktopLayers::addWindows(Machine& machine, std::vector<Layer>& layers) {
     const std::vector<const ServerWindow*> frontToBack = machine.windows.onScreen();
     const std::vector<const ServerWindow*> visible = visibleWindows(frontToBack, machine.displays.screens());
-    const std::int64_t active = activeWindow(machine, frontToBack);
+    const std::int64_t active = activeWindow(machine);
     std::set<std::int64_t> numbers;
     for (const ServerWindow* window : visible) numbers.insert(window->number);
     std::erase_if(finderDrawings, [&](const auto& entry) { return !numbers.contains(entry.first); });
@@ -107,7 +101,8 @@ Layer DesktopLayers::applicationWindow(Machine& machine, const ServerWindow& win
     layer.content = content;
     const platform::ColorScheme scheme = machine.appearance.colorScheme.get();
     DrawingBuilder behind(machine.text, scheme);
-    drawPlainWindow(behind, window.frame.size, window.window->settings().title, lookOf(isActive));
+    drawPlainWindow(behind, window.frame.size, window.window->settings().title, lookOf(isActive),
+                    window.window->settings().styleMask);
     layer.background = std::make_shared<platform::Drawing>(std::move(behind.drawing));
     DrawingBuilder edge(machine.text, scheme);
     drawWindowEdge(edge, window.frame.size);

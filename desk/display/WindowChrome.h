@@ -14,9 +14,12 @@ inline constexpr double windowCornerRadius = 10;
 
 enum class WindowLook { active, inactive };
 
-void drawTrafficLights(DrawingBuilder& builder, platform::CGSize size, WindowLook look);
+// Buttons that the style hasn't are dimmed.
+void drawTrafficLights(DrawingBuilder& builder, platform::CGSize size, WindowLook look,
+                       unsigned styleMask = everyWindowButton);
 // Background, title bar with a centred title, buttons.
-void drawPlainWindow(DrawingBuilder& builder, platform::CGSize size, std::string_view title, WindowLook look);
+void drawPlainWindow(DrawingBuilder& builder, platform::CGSize size, std::string_view title, WindowLook look,
+                     unsigned styleMask = everyWindowButton);
 // The last thing drawn of a window.
 void drawWindowEdge(DrawingBuilder& builder, platform::CGSize size);
 

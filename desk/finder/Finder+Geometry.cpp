@@ -115,16 +115,11 @@ void Finder::leaveFullScreen(FinderWindow& window) {
 }
 
 bool Finder::zoom(std::int64_t number) {
-    FinderWindow* window = folderWindow(number);
-    const ServerWindow* shown = neighbours.windows.find(number);
-    const platform::NSScreen* screen = shown == nullptr ? nullptr : screenOf(number);
-    if (window == nullptr || window->fullScreen || screen == nullptr) return false;
-    // The height alone can have been changed to make room for what stands above it.
-    const bool isZoomed = window->frameBeforeZoom && shown->frame.width() == screen->visibleFrame.width();
-    const CGRect wanted = isZoomed ? *window->frameBeforeZoom : screen->visibleFrame;
-    window->frameBeforeZoom = isZoomed ? std::nullopt : std::optional(shown->frame);
-    moveTo(number, wanted);
-    return true;
+    const FinderWindow* window = folderWindow(number);
+    if (window == nullptr || window->fullScreen) return false;
+    const auto frame = neighbours.windows.zoomedFrame(number, neighbours.displays.screens());
+    if (frame) moveTo(number, *frame);
+    return frame.has_value();
 }
 
 void Finder::refitFullScreenWindows() {

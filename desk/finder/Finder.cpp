@@ -7,8 +7,7 @@
 #include "desk/disk/Disk.h"
 #include "desk/finder/FinderAccessibility.h"
 #include "desk/finder/FinderBrowser.h"
-#include "desk/finder/FinderKeys.h"
-#include "desk/finder/FinderMouse.h"
+#include "desk/finder/FinderKeeper.h"
 #include "desk/processes/KnownApplications.h"
 #include "desk/processes/Processes.h"
 #include "desk/time/Scheduler.h"
@@ -43,8 +42,7 @@ Finder::Finder(const FinderNeighbours& theNeighbours)
     : neighbours(theNeighbours),
       tree(std::make_unique<FinderAccessibility>(*this, theNeighbours)),
       inside(std::make_unique<FinderBrowser>(*this, theNeighbours)),
-      hand(std::make_unique<FinderMouse>(*this, theNeighbours)),
-      keyboard(std::make_unique<FinderKeys>(*this)),
+      keeper(std::make_unique<FinderKeeper>(*this, theNeighbours)),
       nextNumber(firstFinderWindowNumber) {
     subscriptions.push_back(neighbours.windows.changed.subscribe([this] { stackChanged(); }));
     subscriptions.push_back(neighbours.displays.changed.subscribe([this] { refitFullScreenWindows(); }));
@@ -58,7 +56,7 @@ void Finder::launch() {
     process.bundleIdentifier = "com.apple.finder";
     process.bundlePath = finderPath;
     process.name = "Finder";
-    process.hasOwnProgram = true;
+    process.keeper = keeper.get();
     processIdentifier = neighbours.processes.add(std::move(process));
 }
 
@@ -74,7 +72,7 @@ void Finder::quit() {
         inside->forget(window.number);
         neighbours.windows.remove(window.number);
     }
-    hand->letGo();
+    keeper->letGo();
     announcedMainWindow = 0;
     knownMainWindow.reset();
     const std::int32_t gone = std::exchange(processIdentifier, 0);
@@ -190,8 +188,7 @@ bool Finder::restore(std::int64_t number) {
 void Finder::setMinimized(FinderWindow& window, bool minimized) {
     if (std::exchange(window.minimized, minimized) == minimized) return;
     const std::int64_t number = window.number;
-    neighbours.windows.find(number)->minimized = minimized;
-    neighbours.windows.changed();
+    neighbours.windows.setMinimized(number, minimized);
     if (!minimized) {
         neighbours.windows.setSpace(number, neighbours.windows.currentSpace());
         bringForward(number);

@@ -22,8 +22,7 @@ namespace desk {
 
 class FinderAccessibility;
 class FinderBrowser;
-class FinderKeys;
-class FinderMouse;
+class FinderKeeper;
 
 class Finder {
 public:
@@ -82,8 +81,6 @@ public:
     std::string home() const;
 
     FinderAccessibility& accessibility() { return *tree; }
-    FinderMouse& mouse() { return *hand; }
-    FinderKeys& keys() { return *keyboard; }
     FinderBrowser& browser() { return *inside; }
 
 private:
@@ -114,8 +111,7 @@ private:
     FinderNeighbours neighbours;
     std::unique_ptr<FinderAccessibility> tree;
     std::unique_ptr<FinderBrowser> inside;
-    std::unique_ptr<FinderMouse> hand;
-    std::unique_ptr<FinderKeys> keyboard;
+    std::unique_ptr<FinderKeeper> keeper;
     mutable std::vector<FinderWindow> list;  // by number
     std::int32_t processIdentifier = 0;
     std::int64_t nextNumber;

@@ -6,120 +6,91 @@
 
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderBrowser.h"
-#include "desk/processes/Activation.h"
+#include "desk/windows/WindowFrame.h"
+#include "desk/windows/WindowKeeper.h"
 #include "desk/windows/WindowStack.h"
 
 namespace desk {
 
 using platform::CGPoint;
 using platform::CGRect;
+using platform::NSEvent;
+using platform::NSEventType;
 
 namespace {
 
 namespace Flags = platform::NSEventModifierFlags;
 
-constexpr platform::CGSize leastSize{320, 200};
-constexpr double stillHand = 4;  // a hand that clicks moves the mouse as far as this
-
-CGPoint gripOf(const ServerWindow& shown, const CGPoint& mouse) {
-    return {shown.frame.origin.x - mouse.x, shown.frame.origin.y - mouse.y};
-}
-
 }  // namespace
 
-void FinderMouse::mouseDown(std::int64_t number, const MousePress& press) {
+void FinderMouse::handle(std::int64_t window, const NSEvent& event) {
+    struct Entry {
+        NSEventType type;
+        void (FinderMouse::*handler)(std::int64_t window, const NSEvent& event);
+    };
+    static constexpr Entry handlers[] = {{NSEventType::leftMouseDown, &FinderMouse::mouseDown},
+                                         {NSEventType::leftMouseDragged, &FinderMouse::mouseDragged},
+                                         {NSEventType::leftMouseUp, &FinderMouse::mouseUp},
+                                         {NSEventType::scrollWheel, &FinderMouse::scrollWheel}};
+    for (const Entry& entry : handlers)
+        if (entry.type == event.type) (this->*entry.handler)(window, event);
+}
+
+void FinderMouse::mouseDown(std::int64_t number, const NSEvent& press) {
+    struct Entry {
+        FinderPart part;
+        void (FinderMouse::*handler)(const FinderWindow& window, const NSEvent& press, const FinderHit& hit);
+    };
+    static constexpr Entry handlers[] = {
+        {FinderPart::back, &FinderMouse::pressButton},         {FinderPart::forward, &FinderMouse::pressButton},
+        {FinderPart::place, &FinderMouse::pressButton},        {FinderPart::row, &FinderMouse::pressRow},
+        {FinderPart::emptyList, &FinderMouse::pressBelowRows}, {FinderPart::scroller, &FinderMouse::pressScroller}};
     held.reset();
-    if (finder.find(number) == nullptr) return;
-    bringForward(number);
-    if (const ServerWindow* shown = neighbours.windows.find(number)) graspFrame(*shown, press);
+    const FinderWindow* window = finder.find(number);
+    if (window == nullptr || window->kind != FinderWindowKind::folder) return;
+    const FinderHit hit = finder.browser().layout(*window).hit(inside(number, press.locationInWindow));
+    for (const Entry& entry : handlers)
+        if (entry.part == hit.part) return (this->*entry.handler)(*window, press, hit);
 }
 
-void FinderMouse::bringForward(std::int64_t number) {
-    // Raised before the activation too, so that this is the window which the activation finds in front.
-    neighbours.windows.raise(number);
-    if (!finder.isFrontmost()) {
-        neighbours.activation.activate(finder.pid(), false);
-        neighbours.windows.raise(number);
-    }
-    finder.mainWindowMayHaveChanged();
+CGPoint FinderMouse::inside(std::int64_t number, const CGPoint& point) const {
+    return insideWindow(neighbours.windows.find(number)->frame, point);
 }
 
-// Every window's own parts come first: a button, an edge, the title bar.
-void FinderMouse::graspFrame(const ServerWindow& shown, const MousePress& press) {
-    const FinderWindow* window = finder.find(shown.number);
-    if (window == nullptr) return;
-    const CGPoint point = insideWindow(shown.frame, press.point);
-    const WindowEdges edges = window->fullScreen ? WindowEdges{} : windowEdgesAt(point, shown.frame.size);
-    const auto hold = [&](auto grasp) { held = Hold{shown.number, press.point, grasp}; };
-    if (const auto button = windowButtonAt(point, shown.frame.size)) return hold(*button);
-    if (edges.any()) return hold(Resize{edges, shown.frame});
-    if (window->kind == FinderWindowKind::folder) return graspContent(shown, *window, press);
-    if (point.y <= windowTitleBarHeight) hold(Move{gripOf(shown, press.point)});
+void FinderMouse::pressButton(const FinderWindow& window, const NSEvent& press, const FinderHit& hit) {
+    held = Hold{window.number, press.locationInWindow, hit};
 }
 
-void FinderMouse::graspContent(const ServerWindow& shown, const FinderWindow& window, const MousePress& press) {
-    const CGPoint point = insideWindow(shown.frame, press.point);
-    const FinderLayout layout = finder.browser().layout(window);
-    const FinderHit hit = layout.hit(point);
-    const auto hold = [&](auto grasp) { held = Hold{shown.number, press.point, grasp}; };
-    switch (hit.part) {
-    case FinderPart::titleBar:
-        if (window.fullScreen) break;
-        if (press.isSecondOfDouble())
-            finder.zoom(shown.number);
-        else
-            hold(Move{gripOf(shown, press.point)});
-        break;
-    case FinderPart::back:
-    case FinderPart::forward:
-    case FinderPart::place:
-        hold(hit);
-        break;
-    case FinderPart::row:
-        pressRow(shown.number, hit.index, press);
-        break;
-    case FinderPart::emptyList:
-        pressBelowRows(window, press, layout.inWholeList(point));
-        break;
-    case FinderPart::scroller:
-        pressScroller(window, press, point.y);
-        break;
-    case FinderPart::sidebar:
-    case FinderPart::header:
-    case FinderPart::status:
-        break;
-    }
-}
-
-void FinderMouse::pressRow(std::int64_t number, std::size_t row, const MousePress& press) {
+void FinderMouse::pressRow(const FinderWindow& window, const NSEvent& press, const FinderHit& hit) {
     FinderBrowser& browser = finder.browser();
-    if ((press.modifiers & Flags::command) != 0)
-        browser.toggleRow(number, row);
-    else if ((press.modifiers & Flags::shift) != 0)
-        browser.selectRow(number, row, Selecting::extending);
-    else if (press.isSecondOfDouble())
-        browser.openSelection(number);
+    if ((press.modifierFlags & Flags::command) != 0)
+        browser.toggleRow(window.number, hit.index);
+    else if ((press.modifierFlags & Flags::shift) != 0)
+        browser.selectRow(window.number, hit.index, Selecting::extending);
+    else if (isSecondOfDouble(press))
+        browser.openSelection(window.number);
     else
-        browser.selectRow(number, row, Selecting::alone);
+        browser.selectRow(window.number, hit.index, Selecting::alone);
 }
 
-void FinderMouse::pressBelowRows(const FinderWindow& window, const MousePress& press, const CGPoint& inWholeList) {
-    const bool keeps = (press.modifiers & (Flags::command | Flags::shift)) != 0;
-    held = Hold{window.number, press.point, Band{inWholeList, keeps ? window.selection : std::vector<std::string>{}}};
+void FinderMouse::pressBelowRows(const FinderWindow& window, const NSEvent& press, const FinderHit& /*hit*/) {
+    const bool keeps = (press.modifierFlags & (Flags::command | Flags::shift)) != 0;
+    const CGPoint from = finder.browser().layout(window).inWholeList(inside(window.number, press.locationInWindow));
+    held =
+        Hold{window.number, press.locationInWindow, Band{from, keeps ? window.selection : std::vector<std::string>{}}};
     if (!keeps) finder.browser().selectNothing(window.number);
 }
 
-void FinderMouse::openBand(const ServerWindow& shown, const Band& band, const CGPoint& point) {
-    const FinderWindow* window = finder.find(shown.number);
-    if (window == nullptr) return;
+void FinderMouse::openBand(const FinderWindow& window, const Band& band, const CGPoint& point) {
     FinderBrowser& browser = finder.browser();
-    const CGPoint to = browser.layout(*window).inWholeList(insideWindow(shown.frame, point));
+    const CGPoint to = browser.layout(window).inWholeList(inside(window.number, point));
     const CGPoint origin{std::min(band.from.x, to.x), std::min(band.from.y, to.y)};
-    browser.openBand(shown.number, {origin, {std::abs(to.x - band.from.x), std::abs(to.y - band.from.y)}}, band.kept);
+    browser.openBand(window.number, {origin, {std::abs(to.x - band.from.x), std::abs(to.y - band.from.y)}}, band.kept);
 }
 
-void FinderMouse::pressScroller(const FinderWindow& window, const MousePress& press, double y) {
+void FinderMouse::pressScroller(const FinderWindow& window, const NSEvent& press, const FinderHit& /*hit*/) {
     FinderBrowser& browser = finder.browser();
+    const double y = inside(window.number, press.locationInWindow).y;
     const FinderLayout layout = browser.layout(window);
     const CGRect knob = layout.knob().value_or(CGRect{});
     if (y <= knob.minY())
@@ -127,76 +98,32 @@ void FinderMouse::pressScroller(const FinderWindow& window, const MousePress& pr
     else if (y > knob.maxY())
         browser.scrollBy(window.number, layout.list().height());
     else
-        held = Hold{window.number, press.point, Scroll{layout.scrolled()}};
+        held = Hold{window.number, press.locationInWindow, Scroll{layout.scrolled()}};
 }
 
-void FinderMouse::scrollAlong(const Scroll& scroll, const CGPoint& point) {
-    const FinderWindow* window = finder.find(held->window);
-    if (window == nullptr) return;
+void FinderMouse::scrollAlong(const FinderWindow& window, const Scroll& scroll, const CGPoint& point) {
     FinderBrowser& browser = finder.browser();
-    const double moved = browser.layout(*window).scrolledByKnob(held->point.y - point.y);
-    browser.scrollTo(held->window, scroll.scrolled + moved);
+    const double moved = browser.layout(window).scrolledByKnob(held->point.y - point.y);
+    browser.scrollTo(window.number, scroll.scrolled + moved);
 }
 
-// All of the title bar moves the window, also where something stands in it that a click would press.
-void FinderMouse::dragTitleBarInstead(const ServerWindow& shown, const CGPoint& point) {
-    const FinderWindow* window = finder.find(shown.number);
-    const bool isPressed =
-        std::holds_alternative<WindowButton>(held->grasp) || std::holds_alternative<FinderHit>(held->grasp);
-    const bool isInTitleBar = insideWindow(shown.frame, held->point).y <= windowTitleBarHeight;
-    const bool hasMoved = std::hypot(point.x - held->point.x, point.y - held->point.y) > stillHand;
-    if (window != nullptr && !window->fullScreen && isPressed && isInTitleBar && hasMoved)
-        held->grasp = Move{gripOf(shown, held->point)};
+void FinderMouse::mouseDragged(std::int64_t /*number*/, const NSEvent& event) {
+    const FinderWindow* window = held ? finder.find(held->window) : nullptr;
+    if (window == nullptr) return held.reset();
+    if (const auto* band = std::get_if<Band>(&held->grasp)) openBand(*window, *band, event.locationInWindow);
+    if (const auto* scroll = std::get_if<Scroll>(&held->grasp)) scrollAlong(*window, *scroll, event.locationInWindow);
 }
 
-void FinderMouse::mouseDragged(const CGPoint& point) {
-    if (!held) return;
-    const ServerWindow* shown = neighbours.windows.find(held->window);
-    if (shown == nullptr) return held.reset();
-    dragTitleBarInstead(*shown, point);
-    CGRect frame = shown->frame;
-    if (const auto* band = std::get_if<Band>(&held->grasp)) return openBand(*shown, *band, point);
-    if (const auto* scroll = std::get_if<Scroll>(&held->grasp)) return scrollAlong(*scroll, point);
-    if (const auto* move = std::get_if<Move>(&held->grasp))
-        frame.origin = {point.x + move->grip.x, point.y + move->grip.y};
-    else if (const auto* resize = std::get_if<Resize>(&held->grasp))
-        frame =
-            resizedFrame(resize->frame, resize->edges, {point.x - held->point.x, point.y - held->point.y}, leastSize);
-    else
-        return;
-    if (!finder.setFrame(held->window, frame)) held.reset();
-}
-
-void FinderMouse::mouseUp(const CGPoint& point) {
-    mouseDragged(point);
+void FinderMouse::mouseUp(std::int64_t number, const NSEvent& event) {
+    mouseDragged(number, event);
     const std::optional<Hold> released = std::exchange(held, std::nullopt);
-    const ServerWindow* shown = released ? neighbours.windows.find(released->window) : nullptr;
-    if (shown == nullptr) return;
-    const CGPoint inside = insideWindow(shown->frame, point);
-    if (const auto* button = std::get_if<WindowButton>(&released->grasp)) {
-        if (windowButtonAt(inside, shown->frame.size) == *button) act(*shown, *button);
-    } else if (std::holds_alternative<Band>(released->grasp)) {
-        finder.browser().closeBand(released->window);
-    } else if (const auto* hit = std::get_if<FinderHit>(&released->grasp)) {
-        const FinderWindow* window = finder.find(shown->number);
-        if (window != nullptr && finder.browser().layout(*window).hit(inside) == *hit) act(shown->number, *hit);
-    }
-}
-
-void FinderMouse::act(const ServerWindow& shown, WindowButton button) {
-    const FinderWindow* window = finder.find(shown.number);
+    const FinderWindow* window = released ? finder.find(released->window) : nullptr;
     if (window == nullptr) return;
-    switch (button) {
-    case WindowButton::close:
-        finder.close(shown.number);
-        break;
-    case WindowButton::minimize:
-        finder.minimize(shown.number);
-        break;
-    case WindowButton::zoom:
-        finder.setFullScreen(shown.number, !window->fullScreen);
-        break;
-    }
+    if (std::holds_alternative<Band>(released->grasp)) return finder.browser().closeBand(window->number);
+    const auto* hit = std::get_if<FinderHit>(&released->grasp);
+    if (hit == nullptr) return;
+    const CGPoint point = inside(window->number, event.locationInWindow);
+    if (finder.browser().layout(*window).hit(point) == *hit) act(window->number, *hit);
 }
 
 void FinderMouse::act(std::int64_t number, const FinderHit& hit) {
@@ -209,17 +136,8 @@ void FinderMouse::act(std::int64_t number, const FinderHit& hit) {
         browser.goTo(number, FinderPlace(browser.places()[hit.index]));
 }
 
-void FinderMouse::scrollWheel(std::int64_t number, double deltaY) {
-    finder.browser().scrollBy(number, -deltaY);
-}
-
-CursorShape FinderMouse::cursorAt(std::int64_t number, const CGPoint& point) const {
-    const ServerWindow* shown = neighbours.windows.find(number);
-    const FinderWindow* window = finder.find(number);
-    if (shown == nullptr || window == nullptr) return CursorShape::arrow;
-    if (const auto* resize = held ? std::get_if<Resize>(&held->grasp) : nullptr) return cursorFor(resize->edges);
-    if (window->fullScreen) return CursorShape::arrow;
-    return cursorFor(windowEdgesAt(insideWindow(shown->frame, point), shown->frame.size));
+void FinderMouse::scrollWheel(std::int64_t number, const NSEvent& event) {
+    finder.browser().scrollBy(number, -event.scrollingDeltaY);
 }
 
 }  // namespace desk

@@ -1,9 +1,7 @@
-// A person's mouse on Finder's windows, from the press to the release (AppKit screen points). A press raises the window and activates Finder; what lies under it decides what moving
-// and releasing mean then. It changes nothing itself: it asks Finder, as the keyboard and the menus do.
+// A person's mouse on what Finder's windows show, from the press to the release (AppKit screen points). What lies under the press decides what moving and releasing mean then.
+// It changes nothing itself: it asks Finder's browser, as the keyboard and the menus do.
 //
-//   title bar                   moves the window with the mouse, not clamped by the menu bar; the second press of a double click zooms it
-//   edge or corner              resizes it
-//   window button, arrow, place acts on a release over the same one; dragged from the title bar, the first two move the window like the rest of it
+//   arrow, place                acts on a release over the same one
 //   row                         selects it; with Command toggles, with Shift extends; the second press of a double click opens it
 //   list below the rows         selects nothing, or what the rectangle touches that is dragged open from there
 //   scroller                    scrolls with the mouse; beside the knob by a page
@@ -18,45 +16,24 @@
 
 #include "desk/finder/FinderLayout.h"
 #include "desk/finder/FinderNeighbours.h"
-#include "desk/windows/WindowFrame.h"
+#include "platform/Events.h"
 #include "platform/Geometry.h"
 
 namespace desk {
 
 class Finder;
 struct FinderWindow;
-struct ServerWindow;
-
-struct MousePress {
-    platform::CGPoint point;
-    int clickCount = 1;
-    std::uint64_t modifiers = 0;
-
-    // Who goes on clicking clicks double again.
-    bool isSecondOfDouble() const { return clickCount > 0 && clickCount % 2 == 0; }
-};
 
 class FinderMouse {
 public:
     FinderMouse(Finder& theFinder, const FinderNeighbours& theNeighbours)
         : finder(theFinder), neighbours(theNeighbours) {}
 
-    void mouseDown(std::int64_t number, const MousePress& press);
-    void mouseDragged(const platform::CGPoint& point);
-    void mouseUp(const platform::CGPoint& point);
-    CursorShape cursorAt(std::int64_t number, const platform::CGPoint& point) const;
-    void scrollWheel(std::int64_t number, double deltaY);
+    void handle(std::int64_t window, const platform::NSEvent& event);
     // Whatever is held has no effect any more.
     void letGo() { held.reset(); }
 
 private:
-    struct Move {
-        platform::CGPoint grip;  // from the mouse to the frame's origin
-    };
-    struct Resize {
-        WindowEdges edges;
-        platform::CGRect frame;  // at the press
-    };
     struct Scroll {
         double scrolled;  // at the press
     };
@@ -67,20 +44,21 @@ private:
     struct Hold {
         std::int64_t window;
         platform::CGPoint point;  // of the press
-        std::variant<Move, Resize, Scroll, Band, WindowButton, FinderHit> grasp;
+        std::variant<Scroll, Band, FinderHit> grasp;
     };
 
-    void bringForward(std::int64_t number);
-    void graspFrame(const ServerWindow& shown, const MousePress& press);
-    void graspContent(const ServerWindow& shown, const FinderWindow& window, const MousePress& press);
-    void pressRow(std::int64_t number, std::size_t row, const MousePress& press);
-    void pressScroller(const FinderWindow& window, const MousePress& press, double y);
-    void dragTitleBarInstead(const ServerWindow& shown, const platform::CGPoint& point);
-    void pressBelowRows(const FinderWindow& window, const MousePress& press, const platform::CGPoint& inWholeList);
-    void openBand(const ServerWindow& shown, const Band& band, const platform::CGPoint& point);
-    void scrollAlong(const Scroll& scroll, const platform::CGPoint& point);
-    void act(const ServerWindow& shown, WindowButton button);
+    void mouseDown(std::int64_t number, const platform::NSEvent& press);
+    void mouseDragged(std::int64_t number, const platform::NSEvent& event);
+    void mouseUp(std::int64_t number, const platform::NSEvent& event);
+    void scrollWheel(std::int64_t number, const platform::NSEvent& event);
+    void pressButton(const FinderWindow& window, const platform::NSEvent& press, const FinderHit& hit);
+    void pressRow(const FinderWindow& window, const platform::NSEvent& press, const FinderHit& hit);
+    void pressScroller(const FinderWindow& window, const platform::NSEvent& press, const FinderHit& hit);
+    void pressBelowRows(const FinderWindow& window, const platform::NSEvent& press, const FinderHit& hit);
+    void openBand(const FinderWindow& window, const Band& band, const platform::CGPoint& point);
+    void scrollAlong(const FinderWindow& window, const Scroll& scroll, const platform::CGPoint& point);
     void act(std::int64_t number, const FinderHit& hit);
+    platform::CGPoint inside(std::int64_t number, const platform::CGPoint& point) const;
 
     Finder& finder;
     FinderNeighbours neighbours;

@@ -25,7 +25,6 @@ struct FinderWindow {
     bool minimized = false;
     bool fullScreen = false;
     platform::CGRect frameBeforeFullScreen;
-    std::optional<platform::CGRect> frameBeforeZoom;
     int spaceBeforeFullScreen = 1;
     std::string subject;  // of an info panel: the path of the item it tells about
 };

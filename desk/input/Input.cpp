@@ -4,9 +4,6 @@
 #include <utility>
 
 #include "desk/Machine.h"
-#include "desk/finder/FinderKeys.h"
-#include "desk/finder/FinderMouse.h"
-#include "desk/input/OtherWindowMouse.h"
 #include "desk/input/SpaceKeys.h"
 #include "desk/menus/MenuBar.h"
 #include "desk/system/Dock.h"
@@ -31,16 +28,12 @@ ButtonEvents eventsOf(MouseButton button) {
     return {NSEventType::leftMouseDown, NSEventType::leftMouseDragged, NSEventType::leftMouseUp};
 }
 
-bool isPassive(const platform::NSWindow& window) {
-    return (window.settings().styleMask & platform::NSWindowStyleMask::nonactivatingPanel) != 0;
-}
-
 }  // namespace
 
 Input::Input(Machine& theMachine)
     : machine(theMachine),
       bar(std::make_unique<MenuBar>(theMachine)),
-      otherWindows(std::make_unique<OtherWindowMouse>(theMachine)) {}
+      frames(theMachine.windows, theMachine.processes) {}
 
 Input::~Input() = default;
 
@@ -55,28 +48,22 @@ void Input::mouseDown(const CGPoint& point, MouseButton button, int clickCount, 
     pressAlertButton(point);
     if (target.owner != 0 && target.owner != ownerOf(key)) key = 0;
     press = Press{target, button, clickCount, isAlerts};
-    if (button == MouseButton::left)
-        pressLeft(target, {point, clickCount, modifiers});
-    else
-        bringForward(target);
-    deliverMouse(eventsOf(button).down, target, clickCount);
+    const NSEvent event = eventHere(eventsOf(button).down, clickCount);
+    const bool isLeft = button == MouseButton::left;
+    if (target.owner != 0)
+        machine.processes.keeperOf(target.owner).bringForward(target.window);
+    else if (isLeft && !isAlerts)
+        pressLeftOnFurniture(point);
+    deliver(event, target, isLeft && frames.press(target.window, event));
 }
 
-void Input::pressLeft(const Target& target, const MousePress& mouse) {
-    if (target.window != 0 && target.owner == machine.finder.pid())
-        return machine.finder.mouse().mouseDown(target.window, mouse);
-    bringForward(target);
-    const ServerWindow* window = machine.windows.find(target.window);
-    if (window != nullptr && window->window == nullptr) otherWindows->mouseDown(*window, mouse.point);
-    if (target.owner != 0 || press->isAlerts) return;
-    bar->mouseDown(mouse.point);
-    pressedDockItem = dockItemAt(machine, mouse.point);
+void Input::pressLeftOnFurniture(const CGPoint& point) {
+    bar->mouseDown(point);
+    pressedDockItem = dockItemAt(machine, point);
 }
 
-void Input::releaseLeft(const Target& target, const CGPoint& point) {
+void Input::releaseLeftOnFurniture(const CGPoint& point) {
     const auto dockItem = std::exchange(pressedDockItem, std::nullopt);
-    if (target.owner != 0 && target.owner == machine.finder.pid()) return machine.finder.mouse().mouseUp(point);
-    otherWindows->mouseUp(point);
     if (dockItem && dockItem == dockItemAt(machine, point)) openDockItem(machine, dockItems(machine)[*dockItem]);
 }
 
@@ -85,20 +72,17 @@ void Input::mouseDragged(const CGPoint& point) {
     bar->mouseMoved(point);
     const Press held = press.value_or(Press{{}, MouseButton::left, 0, false});
     if (!held.isAlerts && menusTake(eventsOf(held.button).dragged, held.clickCount)) return;
-    const bool isFinders = held.target.owner != 0 && held.target.owner == machine.finder.pid();
-    if (isFinders && held.button == MouseButton::left)
-        machine.finder.mouse().mouseDragged(point);
-    else
-        otherWindows->mouseDragged(point);
-    deliverMouse(eventsOf(held.button).dragged, held.target, held.clickCount);
+    const bool isForFrame = held.button == MouseButton::left && frames.drag(point);
+    deliver(eventHere(eventsOf(held.button).dragged, held.clickCount), held.target, isForFrame);
 }
 
 void Input::mouseUp(const CGPoint& point, MouseButton button) {
     location = point;
     const Press held = std::exchange(press, std::nullopt).value_or(Press{{}, button, 1, false});
     if (held.isAlerts || !menusTake(eventsOf(button).up, held.clickCount)) {
-        if (button == MouseButton::left) releaseLeft(held.target, point);
-        deliverMouse(eventsOf(button).up, held.target, held.clickCount);
+        const bool isLeft = button == MouseButton::left;
+        if (isLeft) releaseLeftOnFurniture(point);
+        deliver(eventHere(eventsOf(button).up, held.clickCount), held.target, isLeft && frames.release(point));
     }
     modifiersHeld = 0;
 }
@@ -118,17 +102,13 @@ void Input::scrollWheel(const CGPoint& point, double /*deltaX*/, double deltaY) 
     NSEvent event = eventHere(NSEventType::scrollWheel, 0);
     event.scrollingDeltaY = deltaY;
     if (menusTake(event)) return;
-    const Target target = targetAt(point);
-    if (target.window != 0 && target.owner == machine.finder.pid())
-        machine.finder.mouse().scrollWheel(target.window, deltaY);
-    deliver(std::move(event), target);
+    deliver(event, targetAt(point));
 }
 
 CursorShape Input::cursorAt(const CGPoint& point) const {
     if (isOnAlert(point) || machine.menus.covers(point)) return CursorShape::arrow;
     const Target target = press && !press->isAlerts ? press->target : targetAt(point);
-    const bool isFinders = target.window != 0 && target.owner == machine.finder.pid();
-    return isFinders ? machine.finder.mouse().cursorAt(target.window, point) : CursorShape::arrow;
+    return frames.cursorAt(target.window, point);
 }
 
 void Input::pressAlertButton(const CGPoint& point) {
@@ -164,23 +144,6 @@ bool Input::isMenuBarOrDock(const CGPoint& point) const {
     });
 }
 
-// What a press does to the order of windows and processes, apart from what its target makes of it.
-void Input::bringForward(const Target& target) {
-    if (target.owner == 0) return;
-    LaunchedApplication* launched = machine.applications.find(target.owner);
-    const platform::NSWindow* window = launched == nullptr ? nullptr : launched->window(target.window);
-    if (window != nullptr && isPassive(*window)) return;
-    machine.processes.activate(target.owner);
-    if (target.owner == machine.finder.pid())
-        machine.finder.raise(target.window);
-    else
-        machine.windows.raise(target.window);
-}
-
-void Input::deliverMouse(NSEventType type, const Target& target, int clickCount) {
-    deliver(eventHere(type, clickCount), target);
-}
-
 NSEvent Input::eventHere(NSEventType type, int clickCount) const {
     NSEvent event;
     event.type = type;
@@ -191,12 +154,9 @@ NSEvent Input::eventHere(NSEventType type, int clickCount) const {
     return event;
 }
 
-void Input::deliver(NSEvent event, const Target& target) {
+void Input::deliver(const NSEvent& event, const Target& target, bool isForFrame) {
+    if (target.owner != 0 && !isForFrame) machine.processes.keeperOf(target.owner).handle(target.window, event);
     offerToOthers(event, target.owner);
-    LaunchedApplication* owner = machine.applications.find(target.owner);
-    if (owner == nullptr) return;
-    event.window = owner->window(target.window);
-    owner->loop().postEvent(std::move(event));
 }
 
 void Input::offerToOthers(const NSEvent& event, std::int32_t owner) {
@@ -236,9 +196,7 @@ void Input::deliverKey(NSEventType type, const KeyStroke& stroke) {
     if (menusTake(event)) return;
     const Process* frontmost = machine.processes.frontmost();
     const Target inFront{0, frontmost == nullptr ? 0 : frontmost->processIdentifier};
-    const bool isFinders = key == 0 && inFront.owner != 0 && inFront.owner == machine.finder.pid();
-    if (isFinders && type == NSEventType::keyDown) machine.finder.keys().keyDown(event);
-    deliver(std::move(event), key != 0 ? Target{key, ownerOf(key)} : inFront);
+    deliver(event, key != 0 ? Target{key, ownerOf(key)} : inFront);
 }
 
 std::int32_t Input::ownerOf(std::int64_t window) const {
@@ -251,7 +209,12 @@ void Input::makeKey(std::int64_t window) {
 }
 
 void Input::windowOrderedOut(std::int64_t window) {
-    if (key == window) key = 0;
+    if (key != window) return;
+    key = 0;
+    const Process* frontmost = machine.processes.frontmost();
+    if (frontmost == nullptr || frontmost->processIdentifier != ownerOf(window)) return;
+    const ServerWindow* next = machine.windows.find(machine.activation.mainWindow(frontmost->processIdentifier));
+    if (next != nullptr && next->window != nullptr) next->window->makeKeyWindow();
 }
 
 void Input::frontmostChanged() {

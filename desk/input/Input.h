@@ -8,7 +8,7 @@
 #include <string>
 
 #include "desk/system/AlertLayout.h"
-#include "desk/windows/WindowFrame.h"
+#include "desk/windows/WindowFrameMouse.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"
 
@@ -16,8 +16,6 @@ namespace desk {
 
 class Machine;
 class MenuBar;
-class OtherWindowMouse;
-struct MousePress;
 
 enum class MouseButton { left, right };
 
@@ -77,12 +75,10 @@ private:
     bool isMenuBarOrDock(const platform::CGPoint& point) const;
     std::optional<AlertLayout> alertLayout() const;
     void pressAlertButton(const platform::CGPoint& point);
-    void pressLeft(const Target& target, const MousePress& mouse);
-    void releaseLeft(const Target& target, const platform::CGPoint& point);
-    void bringForward(const Target& target);
-    void deliverMouse(platform::NSEventType type, const Target& target, int clickCount);
+    void pressLeftOnFurniture(const platform::CGPoint& point);
+    void releaseLeftOnFurniture(const platform::CGPoint& point);
     void deliverKey(platform::NSEventType type, const KeyStroke& stroke);
-    void deliver(platform::NSEvent event, const Target& target);
+    void deliver(const platform::NSEvent& event, const Target& target, bool isForFrame = false);
     // Whether a menu or a popover has taken it.
     bool menusTake(platform::NSEventType type, int clickCount = 0);
     bool menusTake(const platform::NSEvent& event);
@@ -92,7 +88,7 @@ private:
 
     Machine& machine;
     std::unique_ptr<MenuBar> bar;
-    std::unique_ptr<OtherWindowMouse> otherWindows;
+    WindowFrameMouse frames;
     std::optional<std::size_t> pressedDockItem;
     platform::CGPoint location;
     std::uint64_t modifiersHeld = 0;  // from a press to its release

@@ -20,6 +20,7 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
       events(neighbours.input),
       applicationPort(neighbours.clock, neighbours.processes, neighbours.activation, application),
       windows(neighbours.windows, neighbours.input, application),
+      keeper(application, neighbours.windows, neighbours.displays, neighbours.processes),
       menus(neighbours.menus, neighbours.windows, application),
       images(neighbours.disk),
       files(neighbours.disk),
@@ -49,7 +50,9 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
                    bundle,
                    pasteboard,
                    uuids,
-                   *slots} {}
+                   *slots} {
+    neighbours.processes.setKeeper(application.processIdentifier(), keeper);
+}
 
 void ApplicationPorts::processEnded() {
     for (const auto& [number, window] : application.windows()) {

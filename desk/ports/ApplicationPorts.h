@@ -8,6 +8,7 @@
 
 #include "desk/ports/AccessibilityPort.h"
 #include "desk/ports/AppleEventsPort.h"
+#include "desk/ports/ApplicationWindows.h"
 #include "desk/ports/BundlePort.h"
 #include "desk/ports/DefaultsPort.h"
 #include "desk/ports/EventsPort.h"
@@ -77,6 +78,7 @@ private:
     EventsPort events;
     NSApplicationPort applicationPort;
     WindowPort windows;
+    ApplicationWindows keeper;
     MenusPort menus;
     ImagesPort images;
     IcuTextBoundaries textBoundaries;

@@ -29,8 +29,9 @@ PanelHandle::PanelHandle(WindowStack& theWindows, Input& theInput, LaunchedAppli
 PanelHandle::~PanelHandle() {
     application.ownWindows.erase(number);
     application.loop().forgetWindow(&window);
-    windows.remove(number);
+    windows.order(number, NSWindowOrderingMode::out, 0);
     input.windowOrderedOut(number);
+    windows.remove(number);
 }
 
 const ServerWindow* PanelHandle::entry() const {
@@ -63,6 +64,16 @@ bool PanelHandle::isVisible() const {
 void PanelHandle::orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo) {
     windows.order(number, mode, relativeTo);
     if (mode == NSWindowOrderingMode::out) input.windowOrderedOut(number);
+}
+
+void PanelHandle::setMiniaturized(bool miniaturized) {
+    windows.setMinimized(number, miniaturized);
+    if (miniaturized) input.windowOrderedOut(number);
+}
+
+bool PanelHandle::isMiniaturized() const {
+    const ServerWindow* shown = entry();
+    return shown != nullptr && shown->minimized;
 }
 
 void PanelHandle::makeKey() {

@@ -25,6 +25,8 @@ public:
     void setLevel(int level) override;
     bool isVisible() const override;
     void orderWindow(platform::NSWindowOrderingMode mode, std::int64_t relativeTo) override;
+    void setMiniaturized(bool miniaturized) override;
+    bool isMiniaturized() const override;
     void makeKey() override;
     bool isKey() const override;
     void settingsChanged() override;

@@ -15,6 +15,8 @@ public:
         : windows(theWindows), input(theInput), application(theApplication) {}
     std::unique_ptr<platform::WindowHandle> makeWindow(platform::NSWindow& window,
                                                        const platform::CGRect& frame) override;
+    platform::CGRect frameRectForContentRect(const platform::CGRect& content, unsigned styleMask) const override;
+    platform::CGRect contentRectForFrameRect(const platform::CGRect& frame, unsigned styleMask) const override;
 
 private:
     WindowStack& windows;

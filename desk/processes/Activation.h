@@ -26,10 +26,10 @@ public:
     // A window of another process no longer has the keyboard, though the frontmost process may be the same as before.
     platform::Signal<> keyboardTaken;
 
-private:
     // 0 when the process has no window on screen that can be main.
     std::int64_t mainWindow(std::int32_t processIdentifier) const;
 
+private:
     Processes& processes;
     WindowStack& windows;
 };

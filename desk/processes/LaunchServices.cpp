@@ -77,7 +77,7 @@ void LaunchServices::openApplication(const std::string& applicationPath) {
     if (!runs && startProgram && startProgram(applicationPath)) return;
     const std::int32_t owner = processes.openApplication(applicationPath);
     const Process& process = *processes.find(owner);
-    if (!process.hasOwnProgram && !hasWindow(owner))
+    if (process.keeper == nullptr && !hasWindow(owner))
         addWindow(owner, process.name, frameOfOtherWindow, platform::NSWindowOrderingMode::above);
     activation.activate(owner, true);
 }

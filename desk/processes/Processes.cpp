@@ -80,6 +80,16 @@ void Processes::activate(std::int32_t processIdentifier) {
     if (std::exchange(frontmostIdentifier, processIdentifier) != processIdentifier) frontmostChanged();
 }
 
+WindowKeeper& Processes::keeperOf(std::int32_t processIdentifier) const {
+    const Process* process = find(processIdentifier);
+    return process == nullptr || process->keeper == nullptr ? sketched : *process->keeper;
+}
+
+void Processes::setKeeper(std::int32_t processIdentifier, WindowKeeper& keeper) {
+    for (Process& process : list)
+        if (process.processIdentifier == processIdentifier) process.keeper = &keeper;
+}
+
 void Processes::setPolicy(std::int32_t processIdentifier, NSApplicationActivationPolicy policy) {
     for (Process& process : list)
         if (process.processIdentifier == processIdentifier) process.policy = policy;

@@ -12,18 +12,21 @@
 
 namespace desk {
 
+class WindowKeeper;
+
 struct Process {
     std::int32_t processIdentifier = 0;
     std::optional<std::string> bundleIdentifier;
     std::string bundlePath;
     std::string name;
     platform::NSApplicationActivationPolicy policy = platform::NSApplicationActivationPolicy::regular;
-    // Else the desk sketches its windows.
-    bool hasOwnProgram = false;
+    WindowKeeper* keeper = nullptr;  // none: the desk only sketches its windows
 };
 
 class Processes {
 public:
+    explicit Processes(WindowKeeper& theSketched) : sketched(theSketched) {}
+
     // In order of launch.
     const std::vector<Process>& running() const { return list; }
     const Process* find(std::int32_t processIdentifier) const;
@@ -37,12 +40,16 @@ public:
     // The process of the application at that path, started if there is none.
     std::int32_t openApplication(const std::string& bundlePath);
     void activate(std::int32_t processIdentifier);
+    // Who has its windows; a sketched one's, and one's that is gone, are kept by the one keeper of these.
+    WindowKeeper& keeperOf(std::int32_t processIdentifier) const;
+    void setKeeper(std::int32_t processIdentifier, WindowKeeper& keeper);
     void setPolicy(std::int32_t processIdentifier, platform::NSApplicationActivationPolicy policy);
 
     // Delivered inside activate() and remove() when the frontmost process has changed.
     platform::Signal<> frontmostChanged;
 
 private:
+    WindowKeeper& sketched;
     std::vector<Process> list;
     std::vector<std::int32_t> activationOrder;  // latest first
     std::int32_t frontmostIdentifier = 0;

@@ -86,8 +86,8 @@ std::vector<DockItem> dockItems(const Machine& machine) {
     for (const std::string& path : {std::string(browserPath), std::string(terminalPath), editor.value_or("")})
         if (isInApplications(machine, path)) items.push_back({nameOfApplication(path), path});
     addRunning(machine, items);
-    for (const FinderWindow* window : machine.finder.windows())
-        if (window->minimized) items.push_back({window->name, {}, false, window->number});
+    for (const ServerWindow* window : machine.windows.all())
+        if (window->minimized) items.push_back({window->title, {}, false, window->number});
     return items;
 }
 
@@ -108,8 +108,8 @@ std::optional<std::size_t> dockItemAt(const Machine& machine, const CGPoint& poi
 
 void openDockItem(Machine& machine, const DockItem& item) {
     if (item.window != 0) {
-        machine.activation.activate(machine.finder.pid(), false);
-        machine.finder.restore(item.window);
+        if (const ServerWindow* window = machine.windows.find(item.window))
+            machine.processes.keeperOf(window->owner).restore(item.window);
     } else if (item.path == finderPath) {
         openFinder(machine);
     } else {

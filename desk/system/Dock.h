@@ -1,4 +1,4 @@
-// The Dock at the lower edge of a screen: the applications that always stand in it, those that run besides, and Finder's minimised windows at its right end. What is drawn and what a
+// The Dock at the lower edge of a screen: the applications that always stand in it, those that run besides, and minimised windows at its right end. What is drawn and what a
 // click hits come from here; it holds nothing itself.
 #pragma once
 

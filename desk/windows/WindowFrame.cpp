@@ -54,18 +54,17 @@ WindowEdges windowEdgesAt(const CGPoint& point, CGSize size) {
     return edges;
 }
 
-CGRect resizedFrame(const CGRect& frame, WindowEdges edges, const CGPoint& by, CGSize least) {
-    double left = frame.minX();
-    double right = frame.maxX();
-    double bottom = frame.minY();
-    double top = frame.maxY();
-    const double width = std::min(least.width, frame.width());
-    const double height = std::min(least.height, frame.height());
-    if (edges.left) left = std::min(left + by.x, right - width);
-    if (edges.right) right = std::max(right + by.x, left + width);
-    if (edges.bottom) bottom = std::min(bottom + by.y, top - height);
-    if (edges.top) top = std::max(top + by.y, bottom + height);
-    return {{left, bottom}, {right - left, top - bottom}};
+CGRect resizedFrame(const CGRect& frame, WindowEdges edges, const CGPoint& by, CGSize least, CGSize most) {
+    // A frame beyond a limit may stay as it is.
+    const auto within = [](double wanted, double now, double fewest, double greatest) {
+        return std::clamp(wanted, std::min(fewest, now), std::max(greatest, now));
+    };
+    const double wider = edges.left ? -by.x : edges.right ? by.x : 0;
+    const double higher = edges.bottom ? -by.y : edges.top ? by.y : 0;
+    const double width = within(frame.width() + wider, frame.width(), least.width, most.width);
+    const double height = within(frame.height() + higher, frame.height(), least.height, most.height);
+    return {{edges.left ? frame.maxX() - width : frame.minX(), edges.bottom ? frame.maxY() - height : frame.minY()},
+            {width, height}};
 }
 
 CursorShape cursorFor(WindowEdges edges) {

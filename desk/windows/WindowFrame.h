@@ -3,9 +3,11 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <optional>
 
 #include "platform/Geometry.h"
+#include "platform/WindowSettings.h"
 
 namespace desk {
 
@@ -16,6 +18,16 @@ inline constexpr double windowButtonsWidth = 78;
 
 enum class WindowButton { close, minimize, zoom };
 inline constexpr std::array windowButtons{WindowButton::close, WindowButton::minimize, WindowButton::zoom};
+
+// The bit of the style that a window with that button has.
+constexpr unsigned styleBitOf(WindowButton button) {
+    constexpr std::array bits{platform::NSWindowStyleMask::closable, platform::NSWindowStyleMask::miniaturizable,
+                              platform::NSWindowStyleMask::resizable};
+    return bits[static_cast<std::size_t>(button)];
+}
+inline constexpr unsigned everyWindowButton = platform::NSWindowStyleMask::closable |
+                                              platform::NSWindowStyleMask::miniaturizable |
+                                              platform::NSWindowStyleMask::resizable;
 
 platform::CGPoint centerOf(WindowButton button);
 // None in a window that is too narrow for a title bar beside them.
@@ -34,9 +46,9 @@ struct WindowEdges {
 // The edges that a press there would drag: one, the two of a corner, or none. A window too small to be of use by hand has none.
 WindowEdges windowEdgesAt(const platform::CGPoint& point, platform::CGSize size);
 
-// The frame with these edges moved by that much, the others where they were. It becomes no smaller than `least`, or than it is already.
+// The frame with these edges moved by that much, the others where they were. It becomes no smaller than `least` and no larger than `most`, or than it is already.
 platform::CGRect resizedFrame(const platform::CGRect& frame, WindowEdges edges, const platform::CGPoint& by,
-                              platform::CGSize least);
+                              platform::CGSize least, platform::CGSize most);
 
 enum class CursorShape { arrow, resizeLeftRight, resizeUpDown, resizeNorthWestSouthEast, resizeNorthEastSouthWest };
 CursorShape cursorFor(WindowEdges edges);

@@ -111,6 +111,28 @@ void WindowStack::raiseAll(std::int32_t owner) {
     if (moved) changed();
 }
 
+void WindowStack::setMinimized(std::int64_t number, bool minimized) {
+    ServerWindow* window = find(number);
+    if (window == nullptr || std::exchange(window->minimized, minimized) == minimized) return;
+    changed();
+}
+
+std::optional<platform::CGRect> WindowStack::zoomedFrame(std::int64_t number,
+                                                         const std::vector<platform::NSScreen>& screens,
+                                                         platform::CGSize most) {
+    ServerWindow* window = find(number);
+    const auto* screen = window == nullptr ? nullptr : platform::screenShowingMost(screens, window->frame);
+    if (screen == nullptr) return std::nullopt;
+    platform::CGRect room = screen->visibleFrame;
+    room.size = {std::min(room.width(), most.width), std::min(room.height(), most.height)};
+    room.origin.y = screen->visibleFrame.maxY() - room.height();
+    // The height alone can have been changed to make room for what stands above it.
+    const bool isZoomed = window->frameBeforeZoom && window->frame.width() == room.width();
+    const platform::CGRect wanted = isZoomed ? *window->frameBeforeZoom : room;
+    window->frameBeforeZoom = isZoomed ? std::nullopt : std::optional(window->frame);
+    return wanted;
+}
+
 void WindowStack::switchToSpace(int newSpace) {
     if (space == newSpace) return;
     std::vector<std::int64_t> affected;

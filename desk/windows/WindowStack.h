@@ -5,12 +5,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "platform/Geometry.h"
 #include "platform/Published.h"
+#include "platform/Screens.h"
 #include "platform/Windows.h"
 
 namespace desk {
@@ -28,7 +30,8 @@ struct ServerWindow {
     int space = 1;
     std::string title;
     platform::NSWindow* window = nullptr;  // of a launched application; none for Finder's and other processes' windows
-    bool isAuxiliary = false;              // never the main one of those without `window`
+    std::optional<platform::CGRect> frameBeforeZoom;
+    bool isAuxiliary = false;  // never the main one of those without `window`
 
     bool canBeMain() const { return window == nullptr ? !isAuxiliary : window->canBecomeMain(); }
 };
@@ -53,6 +56,10 @@ public:
     void raiseAll(std::int32_t owner);
     // To the back of its level.
     void lower(std::int64_t number);
+    void setMinimized(std::int64_t number, bool minimized);
+    // The frame that a zoom gives the window now: as large as it may be and its screen has room for, or as it was before. Empty without a screen.
+    std::optional<platform::CGRect> zoomedFrame(std::int64_t number, const std::vector<platform::NSScreen>& screens,
+                                                platform::CGSize most = {1e6, 1e6});
 
     int currentSpace() const { return space; }
     // The contents of windows that come on screen or go from it are told.

@@ -5,6 +5,7 @@
 #include "desk/processes/Processes.h"
 #include "desk/windows/Displays.h"
 #include "desk/windows/WindowStack.h"
+#include "tests/kit/Desk.h"
 
 namespace {
 
@@ -143,7 +144,9 @@ TEST(DisplaysTest, TheFirstDisplayAddedReplacesTheDefaultOne) {
 }
 
 TEST(ProcessesTest, AfterAQuitTheNextRegularProcessInActivationOrderIsFrontmost) {
-    desk::Processes processes;
+    kit::Desk desk;
+    desk.machine.finder.quit();
+    desk::Processes& processes = desk.machine.processes;
     const auto add = [&](const char* name) { return processes.add({0, name, "", "", {}}); };
     const auto a = add("a");
     const auto agent = add("agent");

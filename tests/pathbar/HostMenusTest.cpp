@@ -57,6 +57,7 @@ protected:
     void SetUp() override {
         panel->setContentView(
             std::make_unique<NSHostingView<Root>>(probe.platform, Root{&model, &log, ObservedObject<Model>(model)}));
+        panel->makeKeyWindow();
         desk.machine.settle();
     }
     const desk::OpenMenu* menu() const { return desk.machine.menus.menu(); }

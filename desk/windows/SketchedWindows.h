@@ -1,0 +1,35 @@
+// The windows of processes of which the desk shows nothing but windows: they have all three buttons and can be moved and resized; Command-W and Command-M mean what they do everywhere.
+// Their content takes presses and does nothing.
+#pragma once
+
+#include "desk/windows/WindowKeeper.h"
+
+namespace desk {
+
+class Activation;
+class Displays;
+class Processes;
+class WindowStack;
+
+class SketchedWindows final : public WindowKeeper {
+public:
+    SketchedWindows(WindowStack& theWindows, Displays& theDisplays, Processes& theProcesses, Activation& theActivation)
+        : windows(theWindows), displays(theDisplays), processes(theProcesses), activation(theActivation) {}
+
+    WindowTraits traits(std::int64_t window) const override;
+    void bringForward(std::int64_t window) override;
+    void close(std::int64_t window) override;
+    void minimize(std::int64_t window) override;
+    void restore(std::int64_t window) override;
+    void zoom(std::int64_t window) override;
+    void setFrame(std::int64_t window, const platform::CGRect& frame) override;
+    void handle(std::int64_t window, const platform::NSEvent& event) override;
+
+private:
+    WindowStack& windows;
+    Displays& displays;
+    Processes& processes;
+    Activation& activation;
+};
+
+}  // namespace desk
