@@ -34,6 +34,12 @@ CGRect Canvas::crisp(const CGRect& rect) const {
     return CGRectMake(x, y, toHalfPoint(exact.maxX()) - x, toHalfPoint(exact.maxY()) - y);
 }
 
+bool Canvas::isSeen(const CGRect& rect) const {
+    if (!seen) return true;
+    const CGRect rest = platform::CGRectIntersection(*seen, rect);
+    return !platform::CGRectIsNull(rest) && rest.width() > 0 && rest.height() > 0;
+}
+
 void Canvas::fill(const CGRect& rect, double radius, CornerStyle corners, Color color) {
     if (rect.width() > 0 && rect.height() > 0 && isVisible(color))
         add(rect, platform::FillShape{{rect, radius, corners}, color});
@@ -41,8 +47,8 @@ void Canvas::fill(const CGRect& rect, double radius, CornerStyle corners, Color 
 
 void Canvas::drawChildrenClipped(const LayoutItem& item, double radius, CornerStyle corners) {
     const CGRect rect = drawn(item.frame);
+    if (!isSeen(rect)) return;
     const CGRect visible = seen ? platform::CGRectIntersection(*seen, rect) : rect;
-    if (platform::CGRectIsNull(visible) || visible.width() <= 0 || visible.height() <= 0) return;
     const std::size_t before = into.operations.size();
     into.operations.emplace_back(
         platform::BeginClip{rect, std::min({drawn(radius), rect.width() / 2, rect.height() / 2}), corners});

@@ -34,8 +34,7 @@ public:
 
     template <typename Operation>
     void add(const CGRect& rect, Operation operation) {
-        if (!seen || !platform::CGRectIsNull(platform::CGRectIntersection(*seen, rect)))
-            into.operations.emplace_back(std::move(operation));
+        if (isSeen(rect)) into.operations.emplace_back(std::move(operation));
     }
     void fill(const CGRect& rect, double radius, CornerStyle corners, Color color);
 
@@ -48,6 +47,8 @@ public:
     static bool isVisible(const Color& color) { return color.role != ColorRole::clear && color.opacity > 0; }
 
 private:
+    bool isSeen(const CGRect& rect) const;
+
     const Layout& layout;
     const std::int32_t pressedItem;
     Stratum now = Stratum::shapes;

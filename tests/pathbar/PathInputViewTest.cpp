@@ -187,10 +187,34 @@ TEST_F(PathInputViewTest, ShowsThePartOfALongPathAroundTheCaret) {
     EXPECT_EQ(drawnText().rect.minX(), 2) << "from its beginning";
     press("\uF703");
     EXPECT_NEAR(drawnText().rect.minX(), 2 + 195 - 420, 1e-9);
+    press("a", platform::NSEventModifierFlags::command);
+    EXPECT_NEAR(drawnText().rect.minX(), 2 + 195 - 420, 1e-9) << "selecting all leaves it where it is";
     press("\uF700");
     EXPECT_EQ(drawnText().rect.minX(), 2);
     panel->makeFirstResponder(nullptr);
     EXPECT_NE(drawnText().text.find("…"), std::string::npos);
+}
+
+TEST_F(PathInputViewTest, WithoutTheKeyboardItHasAPaleSelectionAndNoCaret) {
+    const auto opacities = [&] {
+        std::vector<double> all;
+        for (const auto& operation : host->drawing().operations)
+            if (const auto* fill = std::get_if<platform::FillShape>(&operation)) all.push_back(fill->color.opacity);
+        return all;
+    };
+    const auto other = std::make_shared<kit::KeyPanel>(machine.platform, platform::CGRectMake(0, 0, 9, 9));
+    other->orderFrontRegardless();
+    show();
+    const std::uint64_t version = host->drawingVersion();
+    EXPECT_EQ(opacities(), std::vector<double>{1});
+    other->makeKeyWindow();
+    EXPECT_NE(host->drawingVersion(), version);
+    EXPECT_EQ(opacities(), std::vector<double>{0.4});
+    panel->makeKeyWindow();
+    press("\uF703");
+    EXPECT_EQ(opacities(), std::vector<double>{1}) << "the caret";
+    other->makeKeyWindow();
+    EXPECT_TRUE(opacities().empty());
 }
 
 TEST_F(PathInputViewTest, AnUntouchedFieldIsDrawnOnce) {
