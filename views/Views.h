@@ -47,3 +47,4 @@
 #include "views/nodes/StackNode.h"
 #include "views/nodes/SymbolNode.h"
 #include "views/nodes/TextNode.h"
+#include "views/nodes/ToggleNode.h"
