@@ -35,6 +35,7 @@ protected:
         auto made = std::make_unique<NSHostingView<Form>>(probe.platform, Form{&log});
         host = made.get();
         panel->setContentView(std::move(made));
+        panel->makeKeyWindow();
         desk.run(0.1);
     }
 
