@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "desk/display/FinderContent.h"
 #include "desk/finder/FinderBrowser.h"
+#include "desk/finder/FinderContent.h"
 #include "desk/text/IcuCollation.h"
 #include "tests/kit/Desk.h"
 

@@ -25,9 +25,9 @@ Machine::Machine(platform::TextSystem& theText)
       input(*this),
       menus(*this),
       toolTips(*this),
+      text(theText),
       finder(neighboursOfFinder()),
       scripting(finder, neighboursOfFinder()),
-      text(theText),
       applications(scheduler, processes, [this](LaunchedApplication& application) { return makePorts(application); }),
       start(startOfStories) {
     subscriptions.push_back(processes.frontmostChanged.subscribe([this] { frontmostHasChanged(); }));
@@ -38,7 +38,7 @@ Machine::Machine(platform::TextSystem& theText)
 }
 
 FinderNeighbours Machine::neighboursOfFinder() {
-    return {scheduler, disk, displays, windows, processes, permissions, faults, activation, launchServices};
+    return {scheduler, disk, displays, windows, processes, permissions, faults, activation, launchServices, text};
 }
 
 std::unique_ptr<ApplicationBackend> Machine::makePorts(LaunchedApplication& application) {

@@ -53,13 +53,13 @@ public:
     Input input;
     MenuLayer menus;
     ToolTips toolTips;
+    platform::TextSystem& text;
     Finder finder;
     FinderScripting scripting;
     platform::Appearance appearance;
     // Stored user defaults by domain: a bundle identifier, or the path of a bundle without one. They outlive processes.
     std::map<std::string, platform::Dictionary> defaults;
     std::optional<std::string> clipboard;
-    platform::TextSystem& text;
     Applications applications;
 
     // From now on its time is the host's; see Scheduler.

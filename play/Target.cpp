@@ -4,7 +4,8 @@
 #include <cctype>
 
 #include "desk/finder/FinderBrowser.h"
-#include "desk/system/AlertLayout.h"
+#include "desk/finder/FinderHit.h"
+#include "desk/system/ShownAlert.h"
 #include "desk/windows/WindowFrame.h"
 #include "play/BarParts.h"
 #include "play/Commands.h"
@@ -47,11 +48,11 @@ CGPoint nearestPoint(ScriptPlayer& player, const desk::ServerWindow& window, con
     const desk::FinderWindow* folder = machine.finder.find(window.number);
     const auto isSeen = [&](const CGPoint& point) { return machine.windows.windowAt(point) == &window; };
     if (folder == nullptr || !isSeen(wanted)) return wanted;
-    const desk::FinderLayout layout = machine.finder.browser().layout(*folder);
+    const views::LaidOutView parts = machine.finder.browser().parts(*folder);
     const platform::CGSize size = window.frame.size;
     const auto fits = [&](const CGPoint& point) {
         const CGPoint inside = desk::insideWindow(window.frame, point);
-        return isSuch(layout.hit(inside).part) && !desk::windowButtonAt(inside, size) &&
+        return isSuch(desk::hitAt(parts, inside).part) && !desk::windowButtonAt(inside, size) &&
                !desk::windowEdgesAt(inside, size).any() && isSeen(point);
     };
     const double most = std::max(size.width, size.height);
@@ -130,8 +131,8 @@ Target labelled(ScriptPlayer& player, const Arguments& words) {
     const auto alert = machine.alert();
     const auto screen = machine.displays.screens().begin();
     if (alert && screen != machine.displays.screens().end()) {
-        const desk::AlertLayout layout = desk::layoutOf(*alert, *screen);
-        if (const auto* button = layout.buttonLabelled(label)) return {middleOf(button->frame), 2};
+        const desk::ShownAlert shown(*alert, *screen, {}, machine.text);
+        if (const auto button = shown.buttonLabelled(label)) return {middleOf(*button), 2};
     }
     if (const auto point = popoverControl(machine, label)) return {*point, 2};
     missingTarget("nothing is labelled " + label);

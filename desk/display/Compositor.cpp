@@ -9,7 +9,7 @@
 #include "desk/Machine.h"
 #include "desk/display/CornerRounder.h"
 #include "desk/display/Scene.h"
-#include "desk/display/WindowChrome.h"
+#include "desk/look/WindowFrameView.h"
 
 namespace desk {
 

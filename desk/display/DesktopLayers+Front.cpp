@@ -2,13 +2,13 @@
 #include <algorithm>
 
 #include "desk/Machine.h"
-#include "desk/display/DeskDrawings.h"
 #include "desk/display/DesktopLayers.h"
+#include "desk/look/WindowFrameView.h"
 #include "desk/menus/MenuBar.h"
 #include "desk/menus/MenuView.h"
 #include "desk/menus/ToolTipView.h"
-#include "desk/system/AlertLayout.h"
 #include "desk/system/Dock.h"
+#include "desk/system/ShownAlert.h"
 
 namespace desk {
 
@@ -94,11 +94,8 @@ void DesktopLayers::addAlert(Machine& machine, std::vector<Layer>& layers) {
     const std::optional<SystemAlert> alert = machine.alert();
     const std::optional<platform::NSScreen> screen = machine.displays.mainScreen();
     if (!alert || !screen) return;
-    const AlertLayout layout = layoutOf(*alert, *screen);
-    DrawingBuilder builder(machine.text, machine.appearance.colorScheme.get());
-    drawAlert(builder, *alert, layout);
-    layers.push_back(
-        floating(alertId, layout.frame, std::move(builder.drawing), windowCornerRadius, WindowShadow::Depth::front));
+    const ShownAlert shown(*alert, *screen, {machine.appearance.colorScheme.get()}, machine.text);
+    layers.push_back(floating(alertId, shown.frame(), shown.drawing(), windowCornerRadius, WindowShadow::Depth::front));
 }
 
 }  // namespace desk

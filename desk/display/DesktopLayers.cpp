@@ -5,11 +5,11 @@
 #include <set>
 
 #include "desk/Machine.h"
-#include "desk/display/DeskDrawings.h"
-#include "desk/display/FinderWindowDrawing.h"
 #include "desk/display/Visibility.h"
-#include "desk/display/WindowChrome.h"
+#include "desk/finder/FinderWindowView.h"
+#include "desk/look/SketchedWindowView.h"
 #include "platform/FileURL.h"
+#include "views/LaidOutView.h"
 
 namespace desk {
 
@@ -40,21 +40,28 @@ Layer framed(const ServerWindow& window, bool isActive) {
     return layer;
 }
 
+SharedDrawing shared(platform::Drawing drawing) {
+    return std::make_shared<platform::Drawing>(std::move(drawing));
+}
+
+Shades shadesOf(const Machine& machine) {
+    return {machine.appearance.colorScheme.get()};
+}
+
 // An info panel of Finder, or a window of a process of which nothing but its name is known.
-platform::Drawing foreignDrawing(Machine& machine, const ServerWindow& window, bool isActive) {
-    DrawingBuilder builder(machine.text, machine.appearance.colorScheme.get());
+views::View foreignView(Machine& machine, const ServerWindow& window, bool isActive) {
+    const Shades shades = shadesOf(machine);
+    PlainWindow plain{window.title, window.frame.size, lookOf(isActive)};
     const FinderWindow* panel = machine.finder.find(window.number);
     if (panel != nullptr && !panel->subject.empty()) {
-        const FinderItem item = finderItem(machine.disk, panel->subject, machine.clock.now());
-        drawInfoPanel(builder, window.frame.size, panel->name, item,
-                      platform::deletingLastPathComponent(panel->subject), lookOf(isActive));
-        return std::move(builder.drawing);
+        plain.title = panel->name;
+        return infoPanelView(plain, finderItem(machine.disk, panel->subject, machine.clock.now()),
+                             platform::deletingLastPathComponent(panel->subject), shades);
     }
     const Process* owner = machine.processes.find(window.owner);
     const std::string name = owner == nullptr ? window.title : owner->name;
     const std::string note = owner != nullptr && owner->bundleIdentifier ? *owner->bundleIdentifier : name;
-    drawOtherWindow(builder, window.frame.size, window.title, name, note, lookOf(isActive));
-    return std::move(builder.drawing);
+    return sketchedWindowView(plain, name, note, shades);
 }
 
 }  // namespace
@@ -99,14 +106,12 @@ Layer DesktopLayers::applicationWindow(Machine& machine, const ServerWindow& win
     }
     Layer layer = framed(window, isActive);
     layer.content = content;
-    const platform::ColorScheme scheme = machine.appearance.colorScheme.get();
-    DrawingBuilder behind(machine.text, scheme);
-    drawPlainWindow(behind, window.frame.size, window.window->settings().title, lookOf(isActive),
-                    window.window->settings().styleMask);
-    layer.background = std::make_shared<platform::Drawing>(std::move(behind.drawing));
-    DrawingBuilder edge(machine.text, scheme);
-    drawWindowEdge(edge, window.frame.size);
-    layer.foreground = std::make_shared<platform::Drawing>(std::move(edge.drawing));
+    const platform::CGSize size = window.frame.size;
+    const platform::WindowSettings& settings = window.window->settings();
+    const PlainWindow plain{settings.title, size, lookOf(isActive), settings.styleMask};
+    const Shades shades = shadesOf(machine);
+    layer.background = shared(views::LaidOutView(plainWindowView(plain, shades), size, machine.text).drawing());
+    layer.foreground = shared(views::LaidOutView(windowEdgeView(shades), size, machine.text).drawing());
     return layer;
 }
 
@@ -114,7 +119,8 @@ Layer DesktopLayers::foreignWindow(Machine& machine, const ServerWindow& window,
     Layer layer = framed(window, isActive);
     const FinderWindow* folder = machine.finder.find(window.number);
     if (folder == nullptr || folder->kind == FinderWindowKind::infoPanel) {
-        layer.background = std::make_shared<platform::Drawing>(foreignDrawing(machine, window, isActive));
+        layer.background = shared(
+            views::LaidOutView(foreignView(machine, window, isActive), window.frame.size, machine.text).drawing());
         return layer;
     }
     layer.background = finderDrawing(machine, *folder, isActive);
@@ -132,9 +138,8 @@ SharedDrawing DesktopLayers::finderDrawing(Machine& machine, const FinderWindow&
     const auto kept = finderDrawings.find(window.number);
     if (kept != finderDrawings.end() && kept->second.scheme == scheme && kept->second.content == content)
         return kept->second.drawing;
-    DrawingBuilder builder(machine.text, scheme);
-    drawFinderWindow(builder, content);
-    auto drawing = std::make_shared<platform::Drawing>(std::move(builder.drawing));
+    const views::LaidOutView laidOut(finderWindowView(content, {scheme}), content.size, machine.text);
+    SharedDrawing drawing = shared(laidOut.drawing());
     finderDrawings.insert_or_assign(window.number, FinderDrawing{std::move(content), scheme, drawing});
     return drawing;
 }

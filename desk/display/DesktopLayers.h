@@ -6,9 +6,8 @@
 #include <map>
 #include <vector>
 
-#include "desk/display/DrawingBuilder.h"
-#include "desk/display/FinderContent.h"
 #include "desk/display/Layer.h"
+#include "desk/finder/FinderContent.h"
 
 namespace desk {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desk/display/WindowChrome.h"
+#include "desk/look/WindowFrameView.h"
 #include "platform/Windows.h"
 
 namespace desk {

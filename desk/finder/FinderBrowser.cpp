@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "desk/finder/Finder.h"
+#include "desk/finder/FinderWindowView.h"
 #include "desk/processes/LaunchServices.h"
 #include "desk/text/IcuCollation.h"
 #include "desk/time/Scheduler.h"
@@ -50,13 +51,17 @@ const std::vector<FinderPlace>& FinderBrowser::places() {
     return knownPlaces;
 }
 
-FinderLayout FinderBrowser::layout(const FinderWindow& window) {
+platform::CGSize FinderBrowser::sizeOf(const FinderWindow& window) const {
     const ServerWindow* shown = neighbours.windows.find(window.number);
-    const auto volumes = static_cast<std::size_t>(
-        std::count_if(places().begin(), places().end(), [](const FinderPlace& place) { return place.isVolume; }));
-    return {shown == nullptr ? platform::CGSize{} : shown->frame.size,
-            {listing(window).count(), places().size() - volumes, volumes},
-            view(window).scrolled};
+    return shown == nullptr ? platform::CGSize{} : shown->frame.size;
+}
+
+FinderLayout FinderBrowser::layout(const FinderWindow& window) {
+    return {sizeOf(window), listing(window).count(), view(window).scrolled};
+}
+
+views::LaidOutView FinderBrowser::parts(const FinderWindow& window) {
+    return {finderWindowView(finderOutline(*this, window), {}), sizeOf(window), neighbours.text};
 }
 
 std::optional<std::size_t> FinderBrowser::selectedRow(const FinderWindow& window, const std::string& path) {

@@ -1,5 +1,5 @@
 // What a person finds and does inside folder windows: the list and how far it is scrolled, selecting by rows, opening, the way back and forward. Everything goes through Finder's own
-// operations, so that Accessibility hears of it. Where things lie says FinderLayout; what was pressed is FinderMouse's and FinderKeys' affair. A number that is no folder window's is ignored.
+// operations, so that Accessibility hears of it. What was pressed is FinderMouse's and FinderKeys' affair. A number that is no folder window's is ignored.
 #pragma once
 
 #include <cstddef>
@@ -17,6 +17,7 @@
 #include "desk/finder/FinderWindow.h"
 #include "platform/Collation.h"
 #include "platform/Time.h"
+#include "views/LaidOutView.h"
 
 namespace desk {
 
@@ -34,7 +35,10 @@ public:
 
     // As the disk is now. The window is one of Finder's folder windows.
     const FinderListing& listing(const FinderWindow& window);
+    platform::CGSize sizeOf(const FinderWindow& window) const;
     FinderLayout layout(const FinderWindow& window);
+    // The window as it stands, with what is needed to know what a press hits: see FinderHit.h.
+    views::LaidOutView parts(const FinderWindow& window);
     const std::vector<FinderPlace>& places();
 
     void selectRow(std::int64_t number, std::size_t row, Selecting how);

@@ -62,7 +62,7 @@ void FinderKeeper::setFrame(std::int64_t window, const platform::CGRect& frame) 
 bool FinderKeeper::hasContentInTitleBar(std::int64_t window, const platform::CGPoint& point) const {
     const FinderWindow* shown = finder.find(window);
     if (shown == nullptr || shown->kind != FinderWindowKind::folder) return false;
-    return finder.browser().layout(*shown).hit(point).part != FinderPart::titleBar;
+    return hitAt(finder.browser().parts(*shown), point).part != FinderPart::titleBar;
 }
 
 void FinderKeeper::handle(std::int64_t window, const platform::NSEvent& event) {

@@ -1,5 +1,5 @@
-// Where the parts of a folder window lie, in points from its top left corner, y downward: what is drawn, and what a press hits. It knows how many rows there are, not what they
-// hold; window buttons and edges are those of every window (desk/WindowFrame.h).
+// How a folder window is divided, and which rows of its list can be seen: points from the window's top left corner, y downward. It knows how many rows there are, not what they hold;
+// what stands in the parts, and what a press hits, the window's view says (FinderWindowView.h).
 #pragma once
 
 #include <cstddef>
@@ -10,39 +10,19 @@
 
 namespace desk {
 
-enum class FinderPart { titleBar, back, forward, sidebar, place, header, row, emptyList, scroller, status };
-
-struct FinderHit {
-    FinderPart part = FinderPart::titleBar;
-    std::size_t index = 0;  // of the place or the row
-    friend bool operator==(const FinderHit&, const FinderHit&) = default;
-};
-
-// How many there are.
-struct FinderCounts {
-    std::size_t rows = 0;
-    std::size_t favourites = 0;
-    std::size_t volumes = 0;
-};
-
 class FinderLayout {
 public:
-    // Scrolled by more than there is means scrolled to the end.
-    FinderLayout(platform::CGSize theSize, FinderCounts theCounts, double wantedScroll = 0);
+    static constexpr double scrollerWidth = 10;
 
-    platform::CGSize size() const { return whole; }
+    // Scrolled by more than there is means scrolled to the end.
+    FinderLayout(platform::CGSize theSize, std::size_t theRows, double wantedScroll = 0);
+
     // 0 in a window that is too narrow for a sidebar.
     double sidebarWidth() const { return sidebar; }
-    platform::CGRect back() const;
-    platform::CGRect forward() const;
     platform::CGRect header() const;
     // The part of the list that can be seen.
     platform::CGRect list() const;
     platform::CGRect status() const;
-
-    enum class Section { favourites, volumes };
-    platform::CGRect sectionTitle(Section section) const;
-    platform::CGRect place(std::size_t index) const;
 
     platform::CGRect row(std::size_t index) const;
     // Those in sight, entirely or in part; rows beyond the last entry are stripes.
@@ -60,13 +40,9 @@ public:
     // How far the list scrolls as the knob moves by that much.
     double scrolledByKnob(double distance) const;
 
-    FinderHit hit(const platform::CGPoint& point) const;
-
 private:
-    std::optional<std::size_t> placeAt(const platform::CGPoint& point) const;
-
     platform::CGSize whole;
-    FinderCounts counts;
+    std::size_t rows;
     double sidebar;
     double offset;
 };

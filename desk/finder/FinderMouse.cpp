@@ -48,7 +48,7 @@ void FinderMouse::mouseDown(std::int64_t number, const NSEvent& press) {
     held.reset();
     const FinderWindow* window = finder.find(number);
     if (window == nullptr || window->kind != FinderWindowKind::folder) return;
-    const FinderHit hit = finder.browser().layout(*window).hit(inside(number, press.locationInWindow));
+    const FinderHit hit = hitAt(finder.browser().parts(*window), inside(number, press.locationInWindow));
     for (const Entry& entry : handlers)
         if (entry.part == hit.part) return (this->*entry.handler)(*window, press, hit);
 }
@@ -123,7 +123,7 @@ void FinderMouse::mouseUp(std::int64_t number, const NSEvent& event) {
     const auto* hit = std::get_if<FinderHit>(&released->grasp);
     if (hit == nullptr) return;
     const CGPoint point = inside(window->number, event.locationInWindow);
-    if (finder.browser().layout(*window).hit(point) == *hit) act(window->number, *hit);
+    if (hitAt(finder.browser().parts(*window), point) == *hit) act(window->number, *hit);
 }
 
 void FinderMouse::act(std::int64_t number, const FinderHit& hit) {

@@ -14,7 +14,7 @@
 #include <variant>
 #include <vector>
 
-#include "desk/finder/FinderLayout.h"
+#include "desk/finder/FinderHit.h"
 #include "desk/finder/FinderNeighbours.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"

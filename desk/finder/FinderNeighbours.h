@@ -1,6 +1,10 @@
 // The parts of the machine that Finder uses.
 #pragma once
 
+namespace platform {
+class TextSystem;
+}  // namespace platform
+
 namespace desk {
 
 class Activation;
@@ -23,6 +27,7 @@ struct FinderNeighbours {
     Faults& faults;
     Activation& activation;
     LaunchServices& launchServices;
+    platform::TextSystem& text;
 };
 
 }  // namespace desk

@@ -112,21 +112,21 @@ CursorShape Input::cursorAt(const CGPoint& point) const {
 }
 
 void Input::pressAlertButton(const CGPoint& point) {
-    const auto alert = alertLayout();
-    const AlertButton* button = alert ? alert->buttonAt(point) : nullptr;
-    if (button != nullptr) machine.pressAlertButton(button->label);
+    const auto alert = shownAlert();
+    const auto button = alert ? alert->buttonAt(point) : std::nullopt;
+    if (button) machine.pressAlertButton(*button);
 }
 
-std::optional<AlertLayout> Input::alertLayout() const {
+std::optional<ShownAlert> Input::shownAlert() const {
     const auto alert = machine.alert();
     const auto& screens = machine.displays.screens();
     if (!alert || screens.empty()) return std::nullopt;
-    return layoutOf(*alert, screens.front());
+    return ShownAlert(*alert, screens.front(), {machine.appearance.colorScheme.get()}, machine.text);
 }
 
 bool Input::isOnAlert(const CGPoint& point) const {
-    const auto alert = alertLayout();
-    return alert && platform::CGRectContainsPoint(alert->frame, point);
+    const auto alert = shownAlert();
+    return alert && platform::CGRectContainsPoint(alert->frame(), point);
 }
 
 Input::Target Input::targetAt(const CGPoint& point) const {

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "desk/system/AlertLayout.h"
+#include "desk/system/ShownAlert.h"
 #include "desk/windows/WindowFrameMouse.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"
@@ -73,7 +73,7 @@ private:
 
     Target targetAt(const platform::CGPoint& point) const;
     bool isMenuBarOrDock(const platform::CGPoint& point) const;
-    std::optional<AlertLayout> alertLayout() const;
+    std::optional<ShownAlert> shownAlert() const;
     void pressAlertButton(const platform::CGPoint& point);
     void pressLeftOnFurniture(const platform::CGPoint& point);
     void releaseLeftOnFurniture(const platform::CGPoint& point);

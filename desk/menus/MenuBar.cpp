@@ -43,7 +43,7 @@ std::optional<MenuBar::Place> MenuBar::titleAt(const CGPoint& point) const {
                                         options.frame.width(), options.menuBar);
         if (options.menuBar <= 0 || !platform::CGRectContainsPoint(strip, point)) continue;
         const views::LaidOutView bar = shown(strip);
-        if (const std::string* title = bar.idAt(insideWindow(strip, point)))
+        if (const std::string* title = bar.idAt(insideLaidOut(strip, point)))
             return Place{strip, std::stoul(*title), onScreen(strip, *bar.frameOf(*title))};
     }
     return std::nullopt;

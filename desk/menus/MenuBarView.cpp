@@ -41,6 +41,7 @@ View menuBarView(const MenuBarContent& content, double height, const Shades& sha
                          views::Text(content.clock).fixedSize().padding(Edge::trailing, 14))
         .font(menuBarFont)
         .lineLimit(1)
+        .truncationMode(platform::TextTruncation::middle)
         .frame({.height = height})
         .background(shades(0xF4F4F6, 0x1C1C1E, 0.86));
 }

@@ -35,10 +35,11 @@ View rowView(const OpenMenu& menu, std::size_t row, double height) {
                          views::Image(item.symbol)
                              .frame({.width = symbolColumn > 0 ? symbolWidth : 0})
                              .padding(Edge::trailing, symbolColumn > 0 ? symbolColumn - symbolWidth : 0),
-                         views::Text(item.title), views::Spacer(0))
+                         views::Text(item.title))
+        .frame({.maxWidth = views::infinity, .alignment = views::Alignment::leading})
         .font(menuFont)
         .lineLimit(1)
-        .truncationMode(views::TextTruncation::middle)
+        .truncationMode(platform::TextTruncation::middle)
         .foregroundStyle(isHighlighted  ? ColorRole::white
                          : item.enabled ? ColorRole::primary
                                         : ColorRole::tertiary)

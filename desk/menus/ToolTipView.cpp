@@ -7,6 +7,8 @@ namespace desk {
 views::View toolTipView(const std::string& text, const Shades& shades) {
     constexpr double rounding = 3;
     return views::Text(text)
+        .lineLimit(1)
+        .truncationMode(platform::TextTruncation::middle)
         .font({11, platform::FontWeight::regular})
         .lineLimit(1)
         .truncationMode(views::TextTruncation::middle)

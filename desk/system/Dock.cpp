@@ -52,7 +52,7 @@ std::string idAt(const Machine& machine, const CGPoint& point) {
     const auto strip = stripAt(machine, point);
     if (!strip) return {};
     const views::LaidOutView dock = shownDock(machine, strip->size);
-    const std::string* id = dock.idAt(insideWindow(*strip, point));
+    const std::string* id = dock.idAt(insideLaidOut(*strip, point));
     return id == nullptr ? std::string() : *id;
 }
 

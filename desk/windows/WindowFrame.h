@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 
@@ -56,6 +57,10 @@ CursorShape cursorFor(WindowEdges edges);
 // From the screen to the window with that frame, and back.
 inline platform::CGPoint insideWindow(const platform::CGRect& frame, const platform::CGPoint& point) {
     return {point.x - frame.minX(), frame.maxY() - point.y};
+}
+// For what is laid out from the top, where a rectangle has its top edge and lacks its bottom one.
+inline platform::CGPoint insideLaidOut(const platform::CGRect& frame, const platform::CGPoint& point) {
+    return {point.x - frame.minX(), std::nextafter(frame.maxY() - point.y, 0)};
 }
 // AppKit's rectangles have their bottom edge and lack their top one, so with y downward it is the other way round.
 inline bool containsInside(const platform::CGRect& part, const platform::CGPoint& point) {

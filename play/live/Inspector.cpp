@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "desk/display/DrawingBuilder.h"
 #include "play/Session.h"
 #include "play/live/LiveCounters.h"
+#include "views/LaidOutView.h"
+#include "views/Views.h"
 
 namespace play {
 
@@ -108,17 +109,20 @@ std::vector<desk::Layer> Inspector::layers() {
     const std::vector<std::string> text = lines();
     const double height = static_cast<double>(text.size()) * lineHeight + 2 * inset;
     const CGRect& room = screen->visibleFrame;
-    desk::DrawingBuilder builder(session.machine.text, platform::ColorScheme::dark);
-    builder.fill(CGRectMake(0, 0, width, height), Color::hex(0x101418, 0.88), 8);
-    double y = inset;
-    for (const std::string& line : text) {
-        builder.text(line, font, Color::hex(0xD8E4D8), CGRectMake(inset, y, width - 2 * inset, lineHeight));
-        y += lineHeight;
-    }
+    views::View page = views::VStack({.spacing = 0});
+    for (const std::string& line : text)
+        page.addChildren(views::HStack({}, views::Text(line), views::Spacer(0)).frame({.height = lineHeight}));
+    page = std::move(page)
+               .font(font)
+               .foregroundStyle(Color::hex(0xD8E4D8))
+               .lineLimit(1)
+               .padding(inset)
+               .background(views::RoundedRectangle(8).fill(Color::hex(0x101418, 0.88)));
     desk::Layer layer;
     layer.id = inspectorId;
     layer.frame = CGRectMake(room.maxX() - width - margin, room.minY() + margin, width, height);
-    layer.background = std::make_shared<platform::Drawing>(std::move(builder.drawing));
+    layer.background = std::make_shared<platform::Drawing>(
+        views::LaidOutView(std::move(page), layer.frame.size, session.machine.text).drawing());
     return {layer};
 }
 

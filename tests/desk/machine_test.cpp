@@ -269,9 +269,10 @@ TEST_F(MachineTest, TheSystemPromptIsAnsweredByItsButtons) {
     ASSERT_TRUE(desk.machine.alert());
     EXPECT_EQ(desk.machine.alert()->buttons, (std::vector<std::string>{"Don't Allow", "OK"}));
     EXPECT_FALSE(desk.machine.pressAlertButton("Maybe"));
-    const auto layout = desk::layoutOf(*desk.machine.alert(), desk.machine.displays.screens().front());
-    const auto& button = layout.buttonLabelled("Don't Allow")->frame;
-    desk.click({button.midX(), button.midY()});
+    const desk::ShownAlert shown(*desk.machine.alert(), desk.machine.displays.screens().front(), {}, desk.machine.text);
+    const auto button = shown.buttonLabelled("Don't Allow");
+    ASSERT_TRUE(button);
+    desk.click({button->midX(), button->midY()});
     EXPECT_FALSE(desk.machine.alert());
     EXPECT_EQ(desk.machine.permissions.automation, desk::AutomationPermission::denied);
     ASSERT_TRUE(result);

@@ -79,7 +79,7 @@ protected:
 
     // Of the list in the window, whose size is known.
     CGPoint middleOfRow(std::size_t row) {
-        const desk::FinderLayout layout({800, 500}, {});
+        const desk::FinderLayout layout({800, 500}, 0);
         const CGPoint corner{200, 700};
         return {corner.x + layout.row(row).midX(), corner.y - layout.row(row).midY()};
     }

@@ -1,5 +1,5 @@
 // What a folder window of Finder shows at one moment, as plain words: taken from Finder and the disk, compared to tell whether the window looks different, and drawn by
-// FinderWindowDrawing. Of the list it holds no more than what is in sight.
+// FinderWindowView. Of the list it holds no more than what is in sight.
 #pragma once
 
 #include <cstddef>
@@ -8,10 +8,9 @@
 #include <vector>
 
 #include "desk/disk/Disk.h"
-#include "desk/display/WindowChrome.h"
-#include "desk/finder/FinderLayout.h"
 #include "desk/finder/FinderPlaces.h"
 #include "desk/finder/FinderWindow.h"
+#include "desk/look/WindowFrameView.h"
 #include "platform/Geometry.h"
 #include "platform/Time.h"
 
@@ -48,6 +47,8 @@ struct FinderContent {
     friend bool operator==(const FinderContent&, const FinderContent&) = default;
 };
 
+// Without the items: enough to know where everything lies.
+FinderContent finderOutline(FinderBrowser& browser, const FinderWindow& window);
 FinderContent finderContent(FinderBrowser& browser, const Disk& disk, const FinderWindow& window, WindowLook look,
                             platform::Date now);
 

@@ -1,4 +1,4 @@
-#include "desk/display/FinderContent.h"
+#include "desk/finder/FinderContent.h"
 
 #include <algorithm>
 #include <string_view>
@@ -34,23 +34,29 @@ FinderItem describe(const Disk& disk, const std::string& path, const DiskEntry& 
 
 }  // namespace
 
-FinderContent finderContent(FinderBrowser& browser, const Disk& disk, const FinderWindow& window, WindowLook look,
-                            platform::Date now) {
+FinderContent finderOutline(FinderBrowser& browser, const FinderWindow& window) {
     const FinderListing& list = browser.listing(window);
-    const FinderLayout layout = browser.layout(window);
     FinderContent content;
     content.title = window.name;
     content.path = window.target.value_or("");
-    content.size = layout.size();
-    content.look = look;
+    content.size = browser.sizeOf(window);
     content.places = browser.places();
     content.itemCount = list.count();
     content.selectedCount = window.selection.size();
-    content.scrolled = layout.scrolled();
+    content.scrolled = browser.layout(window).scrolled();
     content.band = browser.band(window);
     content.isReadable = list.isReadable();
     content.canGoBack = browser.canGoBack(window.number);
     content.canGoForward = browser.canGoForward(window.number);
+    return content;
+}
+
+FinderContent finderContent(FinderBrowser& browser, const Disk& disk, const FinderWindow& window, WindowLook look,
+                            platform::Date now) {
+    FinderContent content = finderOutline(browser, window);
+    content.look = look;
+    const FinderListing& list = browser.listing(window);
+    const FinderLayout layout = browser.layout(window);
     const std::size_t end = std::min(layout.firstRow() + layout.rowsInSight(), list.count());
     std::unordered_map<std::string, std::size_t> inSight;
     for (std::size_t row = layout.firstRow(); row < end; ++row) {
