@@ -25,7 +25,8 @@ void Desktop_Compose(benchmark::State& state) {
     play::Session session;
     openWindows(session);
     for (auto _ : state)
-        benchmark::DoNotOptimize(session.compositor.compose(session.machine, static_cast<double>(state.range(0))));
+        benchmark::DoNotOptimize(
+            session.compositor.compose(session.desktop.read(), static_cast<double>(state.range(0))));
 }
 BENCHMARK(Desktop_Compose)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 

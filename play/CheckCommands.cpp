@@ -29,13 +29,14 @@ void screenshot(ScriptPlayer& player, const Arguments& arguments) {
     auto& session = player.session();
     QImage picture;
     if (arguments.count() == 1) {
-        picture = session.compositor.compose(session.machine, scale);
+        picture = session.compositor.compose(session.desktop.read(), scale);
     } else {
         arguments.requireCount(3, 3);
         if (!arguments.is(1, "bar")) badCommand("unknown word: " + arguments.text(1));
         const std::int64_t panel = panelNumber(session, player.finderWindow(arguments, 2));
         if (panel == 0) missingTarget("window " + arguments.text(2) + " has no bar");
-        picture = session.compositor.composeWindow(session.machine, panel, scale);
+        if (const auto content = session.desktop.contentOf(panel))
+            picture = session.compositor.composeWindow(*content, session.machine.appearance.colorScheme.get(), scale);
     }
     if (!desk::savePng(picture, arguments.text(0))) badCommand("the file can't be written: " + arguments.text(0));
 }

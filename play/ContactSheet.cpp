@@ -70,7 +70,7 @@ QImage pictureOf(const SheetState& state) {
     const platform::CGRect screen = session.machine.displays.screens().front().frame;
     const QRectF pixels(area.minX() * sheetScale, (screen.maxY() - area.maxY()) * sheetScale, area.width() * sheetScale,
                         area.height() * sheetScale);
-    const QImage whole = session.compositor.compose(session.machine, sheetScale);
+    const QImage whole = session.compositor.compose(session.desktop.read(), sheetScale);
     return whole.copy(pixels.toRect().intersected(whole.rect()));
 }
 

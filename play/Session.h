@@ -6,6 +6,7 @@
 
 #include "app/BrindleApp.h"
 #include "desk/Machine.h"
+#include "desk/desktop/DesktopLayers.h"
 #include "desk/display/Compositor.h"
 #include "desk/display/QtTextSystem.h"
 
@@ -22,6 +23,7 @@ public:
     // Declared in the order in which they lean on each other.
     desk::QtTextSystem text;
     desk::Machine machine{text};
+    desk::DesktopLayers desktop{machine};
     desk::Compositor compositor;
 
     // What scripts say in the Info dictionary of each copy that is launched, over what its own says; null takes a key away.

@@ -6,7 +6,6 @@
 #include <cmath>
 #include <set>
 
-#include "desk/Machine.h"
 #include "desk/display/CornerRounder.h"
 #include "desk/display/Scene.h"
 #include "desk/look/WindowFrameView.h"
@@ -41,9 +40,9 @@ QImage emptyPicture(platform::CGSize size, double scale, const QColor& color) {
     return image;
 }
 
-Palette paletteOf(const Machine& machine) {
+Palette paletteOf(platform::ColorScheme scheme) {
     Palette palette;
-    palette.scheme = machine.appearance.colorScheme.get();
+    palette.scheme = scheme;
     return palette;
 }
 
@@ -63,20 +62,18 @@ bool savePng(const QImage& image, const std::string& file) {
     return !image.isNull() && image.save(QString::fromStdString(file), "PNG");
 }
 
-QImage Compositor::compose(Machine& machine, double scale) {
+QImage Compositor::compose(const DesktopContents& contents, double scale) {
     DesktopFrame frame;
-    update(machine, frame, scale);
+    update(contents, frame, scale);
     return frame.image;
 }
 
-QRegion Compositor::update(Machine& machine, DesktopFrame& frame, double scale, const std::vector<Layer>& onTop) {
-    std::vector<CGRect> screens;
-    for (const platform::NSScreen& screen : machine.displays.screens()) screens.push_back(screen.frame);
-    std::vector<Layer> layers = desktopLayers.read(machine);
-    layers.insert(layers.end(), onTop.begin(), onTop.end());
+QRegion Compositor::update(DesktopContents contents, DesktopFrame& frame, double scale) {
+    const std::vector<CGRect>& screens = contents.screens;
+    std::vector<Layer>& layers = contents.layers;
     dropPicturesBut(layers);
 
-    const Palette palette = paletteOf(machine);
+    const Palette palette = paletteOf(contents.scheme);
     const CGRect box = boundingBox(screens);
     QRegion damage;
     if (frame.image.isNull() || frame.scale != scale || frame.palette != palette || frame.screens != screens) {
@@ -93,12 +90,12 @@ QRegion Compositor::update(Machine& machine, DesktopFrame& frame, double scale, 
     }
     frame.layers = std::move(layers);
     if (frame.image.isNull() || damage.isEmpty()) return {};
-    paintLayers(machine, frame, damage);
+    paintLayers(frame, damage);
     ++paints.updates;
     return damage;
 }
 
-void Compositor::paintLayers(Machine& machine, DesktopFrame& frame, const QRegion& region) {
+void Compositor::paintLayers(DesktopFrame& frame, const QRegion& region) {
     const CGRect box = boundingBox(frame.screens);
     QPainter target(&frame.image);
     Scene scene{frame.image, target, frame.palette, frame.scale, {box.minX(), box.maxY()}};
@@ -121,17 +118,16 @@ void Compositor::paintLayers(Machine& machine, DesktopFrame& frame, const QRegio
     for (std::size_t i = 0; i < frame.layers.size(); ++i) {
         if (parts[i].isEmpty()) continue;
         target.setClipRegion(parts[i]);
-        paintLayer(machine, scene, frame.layers[i]);
+        paintLayer(scene, frame.layers[i]);
     }
 }
 
-void Compositor::paintLayer(Machine& machine, Scene& scene, const Layer& layer) {
+void Compositor::paintLayer(Scene& scene, const Layer& layer) {
     if (layer.popover) {
         paintPopover(scene, layer);
         return;
     }
-    const QImage* content =
-        layer.content ? picture(machine, layer.content->window, scene.palette, scene.scale) : nullptr;
+    const QImage* content = layer.content ? picture(*layer.content, scene.palette, scene.scale) : nullptr;
     if (layer.content && content == nullptr) return;
     const QRect frame = scene.pixels(layer.frame);
     const auto paintDrawing = [&](const SharedDrawing& drawing) {
@@ -147,8 +143,8 @@ void Compositor::paintLayer(Machine& machine, Scene& scene, const Layer& layer) 
     paintDrawing(layer.foreground);
 }
 
-QImage Compositor::composeWindow(Machine& machine, std::int64_t number, double scale) {
-    const QImage* kept = picture(machine, number, paletteOf(machine), scale);
+QImage Compositor::composeWindow(const Layer::Content& content, platform::ColorScheme scheme, double scale) {
+    const QImage* kept = picture(content, paletteOf(scheme), scale);
     return kept == nullptr ? QImage() : *kept;
 }
 
@@ -159,29 +155,20 @@ void Compositor::dropPicturesBut(const std::vector<Layer>& layers) {
 }
 
 // Empty when the window is too small or too large for a picture.
-const QImage* Compositor::picture(Machine& machine, std::int64_t number, const Palette& palette, double scale) {
-    const ServerWindow* window = machine.windows.find(number);
-    if (window == nullptr || window->window == nullptr || window->window->contentView() == nullptr) return nullptr;
-    platform::ContentView& content = *window->window->contentView();
-    const platform::WindowSettings& settings = window->window->settings();
-    const double titleBar = (settings.styleMask & platform::NSWindowStyleMask::titled) != 0 ? windowTitleBarHeight : 0;
-    const platform::CGSize size{window->frame.width(), window->frame.height() - titleBar};
-    const platform::Drawing& drawing = content.drawing();
-    const std::uint64_t version = content.drawingVersion();
-
-    Picture& kept = pictures[number];
-    const QSize pixels(static_cast<int>(std::lround(size.width * scale)),
-                       static_cast<int>(std::lround(size.height * scale)));
-    if (kept.image.size() == pixels && kept.version == version && kept.palette == palette && kept.scale == scale &&
-        kept.background == settings.backgroundColor)
+const QImage* Compositor::picture(const Layer::Content& content, const Palette& palette, double scale) {
+    Picture& kept = pictures[content.window];
+    const QSize pixels(static_cast<int>(std::lround(content.size.width * scale)),
+                       static_cast<int>(std::lround(content.size.height * scale)));
+    if (kept.image.size() == pixels && kept.version == content.version && kept.palette == palette &&
+        kept.scale == scale && kept.background == content.background)
         return &kept.image;
 
-    kept = {version, palette, scale, settings.backgroundColor,
-            emptyPicture(size, scale, palette.resolve(settings.backgroundColor))};
+    kept = {content.version, palette, scale, content.background,
+            emptyPicture(content.size, scale, palette.resolve(content.background))};
     if (kept.image.isNull()) return nullptr;
-    ++(settings.isPanel ? paints.barPaints : paints.windowPaints);
+    ++(content.isPanel ? paints.barPaints : paints.windowPaints);
     QPainter target(&kept.image);
-    painter.paint(target, drawing, palette, scale);
+    painter.paint(target, content.view->drawing(), palette, scale);
     return &kept.image;
 }
 

@@ -1,6 +1,5 @@
-// Paints what the screens of a Machine show into one picture, or brings an earlier picture up to date by painting what has changed. Windows of launched
-// applications are painted when their drawing has changed and copied otherwise; pictures of windows that can't be seen are dropped. It changes nothing on
-// the machine.
+// Paints what the screens show into one picture, or brings an earlier picture up to date by painting what has changed. Windows of launched
+// applications are painted when their drawing has changed and copied otherwise; pictures of windows that can't be seen are dropped.
 #pragma once
 
 #include <QImage>
@@ -10,9 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "desk/display/DesktopLayers.h"
+#include "desk/display/DesktopContents.h"
 #include "desk/display/DesktopPicture.h"
-#include "desk/display/Layer.h"
 #include "desk/display/Painter.h"
 #include "desk/display/Palette.h"
 #include "desk/display/WindowShadow.h"
@@ -20,7 +18,6 @@
 
 namespace desk {
 
-class Machine;
 struct Scene;
 
 // PNG; false when it couldn't be written.
@@ -39,12 +36,12 @@ class Compositor {
 public:
     // `scale` is pixels a point. The picture covers the bounding box of all screens, dark where no screen is; a single dark point without any screen; null
     // when it would be too large to hold.
-    QImage compose(Machine& machine, double scale);
-    // Makes the frame show the present moment, `onTop` before all else, and answers which of its pixels were painted anew: none when nothing has changed, all of
+    QImage compose(const DesktopContents& contents, double scale);
+    // Makes the frame show these contents, and answers which of its pixels were painted anew: none when nothing has changed, all of
     // a frame that is new or has another scale.
-    QRegion update(Machine& machine, DesktopFrame& frame, double scale, const std::vector<Layer>& onTop = {});
-    // One window of a launched application alone, on nothing; null for any other number.
-    QImage composeWindow(Machine& machine, std::int64_t number, double scale);
+    QRegion update(DesktopContents contents, DesktopFrame& frame, double scale);
+    // The content of one window of a launched application alone, on nothing.
+    QImage composeWindow(const Layer::Content& content, platform::ColorScheme scheme, double scale);
 
     // Since the start.
     struct Counts {
@@ -64,16 +61,15 @@ private:
         QImage image;
     };
 
-    void paintLayers(Machine& machine, DesktopFrame& frame, const QRegion& region);
-    void paintLayer(Machine& machine, Scene& scene, const Layer& layer);
+    void paintLayers(DesktopFrame& frame, const QRegion& region);
+    void paintLayer(Scene& scene, const Layer& layer);
     void paintPopover(Scene& scene, const Layer& layer);
     void dropPicturesBut(const std::vector<Layer>& layers);
-    const QImage* picture(Machine& machine, std::int64_t number, const Palette& palette, double scale);
+    const QImage* picture(const Layer::Content& content, const Palette& palette, double scale);
 
     Painter painter;
     DesktopPicture desktop;
     WindowShadow shadow;
-    DesktopLayers desktopLayers;
     std::map<std::int64_t, Picture> pictures;
     Counts paints;
 };

@@ -12,11 +12,6 @@ bool same(const SharedDrawing& a, const SharedDrawing& b) {
     return a == b || (a != nullptr && b != nullptr && *a == *b);
 }
 
-bool same(const std::optional<PopoverPlace>& a, const std::optional<PopoverPlace>& b) {
-    if (!a || !b) return a.has_value() == b.has_value();
-    return a->body == b->body && a->tip == b->tip && a->edge == b->edge;
-}
-
 std::vector<std::int64_t> commonIds(const std::vector<Layer>& of,
                                     const std::unordered_map<std::int64_t, const Layer*>& in) {
     std::vector<std::int64_t> ids;
@@ -41,7 +36,7 @@ platform::CGRect Layer::extent() const {
 
 bool Layer::looksLike(const Layer& other) const {
     return id == other.id && frame == other.frame && content == other.content && cornerRadius == other.cornerRadius &&
-           shadow == other.shadow && isOpaque == other.isOpaque && same(popover, other.popover) &&
+           shadow == other.shadow && isOpaque == other.isOpaque && popover == other.popover &&
            same(background, other.background) && same(foreground, other.foreground);
 }
 

@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "desk/display/WindowShadow.h"
-#include "desk/menus/Placement.h"
+#include "desk/look/PopoverPlace.h"
+#include "platform/ContentView.h"
 #include "platform/Drawing.h"
 #include "platform/Geometry.h"
 
@@ -20,10 +21,14 @@ struct Layer {
     std::int64_t id = 0;       // the window's number; below 0 for what is no window
     platform::CGRect frame;    // AppKit space
     SharedDrawing background;  // none when there is nothing to draw
-    // The content of an application's window: as wide as the frame, at its bottom.
+    // The content of an application's window: as wide as the frame, at its bottom. Only the latest layers may be asked for what the view draws.
     struct Content {
         std::int64_t window;
+        platform::ContentView* view;
         std::uint64_t version;
+        platform::CGSize size;
+        platform::Color background;
+        bool isPanel;
         friend bool operator==(const Content&, const Content&) = default;
     };
     std::optional<Content> content;

@@ -54,8 +54,8 @@ platform::Duration frameTime(const QWindow& window) {
 
 }  // namespace
 
-DeskWindow::DeskWindow(Machine& theMachine, Compositor& theCompositor, int theScreenCount)
-    : machine(theMachine), compositor(theCompositor), screenCount(theScreenCount), store(this) {
+DeskWindow::DeskWindow(Machine& theMachine, DesktopLayers& theLayers, Compositor& theCompositor, int theScreenCount)
+    : machine(theMachine), layers(theLayers), compositor(theCompositor), screenCount(theScreenCount), store(this) {
     setTitle(QStringLiteral("Orvane"));
     setMinimumSize(QSize(320 * screenCount, 240));
     resize(QSize(1440, 900));
@@ -76,8 +76,10 @@ void DeskWindow::timerEvent(QTimerEvent* event) {
 
 void DeskWindow::paintNow() {
     lastFrame = machine.scheduler.now();
-    const QRegion pixels =
-        compositor.update(machine, frame, devicePixelRatio(), onTop ? onTop() : std::vector<Layer>());
+    DesktopContents contents = layers.read();
+    if (onTop)
+        for (Layer& layer : onTop()) contents.layers.push_back(std::move(layer));
+    const QRegion pixels = compositor.update(std::move(contents), frame, devicePixelRatio());
     if (pixels.isEmpty()) return;
     flush(pixels);
     if (painted) painted(frame);

@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+#include "desk/desktop/DesktopLayers.h"
 #include "desk/display/Compositor.h"
 #include "desk/input/Input.h"
 #include "platform/Geometry.h"
@@ -20,7 +21,7 @@ class Machine;
 
 class DeskWindow final : public QWindow {
 public:
-    DeskWindow(Machine& theMachine, Compositor& theCompositor, int theScreenCount);
+    DeskWindow(Machine& theMachine, DesktopLayers& theLayers, Compositor& theCompositor, int theScreenCount);
 
     // What stands before everything on the desktop; asked for each picture.
     std::function<std::vector<Layer>()> onTop;
@@ -63,6 +64,7 @@ private:
     void typeText(const QString& text);
 
     Machine& machine;
+    DesktopLayers& layers;
     Compositor& compositor;
     int screenCount;
     QBackingStore store;

@@ -2,6 +2,7 @@
 // screen that they may cover.
 #pragma once
 
+#include "desk/look/PopoverPlace.h"
 #include "platform/Geometry.h"
 #include "platform/Menus.h"
 
@@ -13,16 +14,6 @@ namespace desk {
 platform::CGRect placeMenuBelow(const platform::CGRect& anchor, platform::CGSize size, const platform::CGRect& room);
 // The top left corner at the point; to the left of it, or further up, as far as the room's edges ask.
 platform::CGRect placeMenuAt(const platform::CGPoint& point, platform::CGSize size, const platform::CGRect& room);
-
-inline constexpr double popoverArrowLength = 11;
-inline constexpr double popoverArrowWidth = 26;
-inline constexpr double popoverCornerRadius = 10;
-
-struct PopoverPlace {
-    platform::CGRect body;    // what holds the content
-    platform::CGPoint tip;    // of the arrow, on or beside the anchor's edge
-    platform::RectEdge edge;  // of the anchor, where the popover stands
-};
 
 // Centred on the anchor's edge, or on the opposite one where only that leaves room, and moved along it as the room asks.
 PopoverPlace placePopover(const platform::CGRect& anchor, platform::RectEdge wanted, platform::CGSize size,

@@ -26,7 +26,9 @@ constexpr StandIn standIns[] = {{Qt::Key_F9, "ctrl+left"}, {Qt::Key_F10, "ctrl+r
 }  // namespace
 
 LiveDesk::LiveDesk(const LiveOptions& options)
-    : window(session.machine, session.compositor, options.screens), counters(session), inspector(session, counters) {
+    : window(session.machine, session.desktop, session.compositor, options.screens),
+      counters(session),
+      inspector(session, counters) {
     session.machine.useRealTime(loop);
     loop.atRest = [this] { haveRested(); };
     window.closed = [this] { loop.end(); };

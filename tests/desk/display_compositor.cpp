@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "desk/desktop/DesktopLayers.h"
 #include "desk/display/Compositor.h"
 #include "desk/display/QtTextSystem.h"
 #include "tests/desk/Probe.h"
@@ -74,11 +75,12 @@ protected:
         return made;
     }
 
-    QImage compose() { return compositor.compose(desk.machine, 1); }
+    QImage compose() { return compositor.compose(layers.read(), 1); }
     // At an AppKit point of a picture of the one default screen.
     static QColor at(const QImage& image, int x, int y) { return image.pixelColor(x, image.height() - 1 - y); }
 
     kit::Desk desk{std::make_unique<desk::QtTextSystem>()};
+    desk::DesktopLayers layers{desk.machine};
     desk::Compositor compositor;
     kit::Probe* probe = nullptr;
 };
@@ -87,7 +89,7 @@ TEST_F(Composed, PictureCoversAllScreensAndIsDarkBetween) {
     auto& displays = desk.machine.displays;
     displays.add({CGRectMake(0, 0, 400, 300), 60, 24, 0});
     displays.add({CGRectMake(-200, 150, 200, 250), 60, 0, 0});
-    const QImage image = compositor.compose(desk.machine, 2);
+    const QImage image = compositor.compose(layers.read(), 2);
     EXPECT_EQ(image.size(), QSize(1200, 800));
     EXPECT_EQ(image.pixelColor(100, 700), noScreen);  // below the left screen
     EXPECT_EQ(image.pixelColor(600, 100), noScreen);  // above the right one
@@ -108,7 +110,7 @@ TEST_F(Composed, WindowsStayWithinTheScreens) {
 
 TEST_F(Composed, WithoutScreensThereIsAPointOfDarkness) {
     desk.machine.displays.removeAll();
-    EXPECT_EQ(compositor.compose(desk.machine, 2).size(), QSize(2, 2));
+    EXPECT_EQ(compositor.compose(layers.read(), 2).size(), QSize(2, 2));
 }
 
 TEST_F(Composed, TooLargeAPictureIsNone) {
@@ -196,13 +198,14 @@ TEST_F(Composed, CoveredAndAbsentBarsKeepNoPicture) {
 
 TEST_F(Composed, OneBarAloneStandsOnNothing) {
     const Bar made = bar(CGRectMake(100, 300, 400, 44), 0x00FF00);
-    const QImage image = compositor.composeWindow(desk.machine, made.panel->windowNumber(), 2);
+    const QImage image =
+        compositor.composeWindow(*layers.contentOf(made.panel->windowNumber()), platform::ColorScheme::light, 2);
     EXPECT_EQ(image.size(), QSize(800, 88));
     EXPECT_EQ(image.pixelColor(400, 44), QColor(0x00, 0xFF, 0x00));
     EXPECT_EQ(image.pixelColor(400, 4).alpha(), 0);
     desk.twoWindows();
-    EXPECT_TRUE(compositor.composeWindow(desk.machine, 101, 2).isNull());
-    EXPECT_TRUE(compositor.composeWindow(desk.machine, 7, 2).isNull());
+    EXPECT_FALSE(layers.contentOf(101));
+    EXPECT_FALSE(layers.contentOf(7));
 }
 
 TEST_F(Composed, MenuBarAndDockTakeTheirRoomAndGoInFullScreen) {
@@ -281,16 +284,16 @@ TEST_F(Composed, PictureBroughtUpToDateIsThePictureMadeAnew) {
         [&] { machine.finder.quit(); }};
     for (const double scale : {1.0, 1.5}) {
         desk::DesktopFrame frame;
-        compositor.update(machine, frame, scale);
-        EXPECT_TRUE(compositor.update(machine, frame, scale).isEmpty());
+        compositor.update(layers.read(), frame, scale);
+        EXPECT_TRUE(compositor.update(layers.read(), frame, scale).isEmpty());
     }
     desk::DesktopFrame frame;
-    compositor.update(machine, frame, 1.5);
+    compositor.update(layers.read(), frame, 1.5);
     for (std::size_t i = 0; i < changes.size(); ++i) {
         changes[i]();
         machine.settle();
-        compositor.update(machine, frame, 1.5);
-        EXPECT_TRUE(isSame(frame.image, desk::Compositor().compose(machine, 1.5))) << "after change " << i;
+        compositor.update(layers.read(), frame, 1.5);
+        EXPECT_TRUE(isSame(frame.image, desk::Compositor().compose(layers.read(), 1.5))) << "after change " << i;
     }
 }
 

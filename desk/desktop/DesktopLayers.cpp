@@ -1,11 +1,11 @@
 // The windows of all processes.
-#include "desk/display/DesktopLayers.h"
+#include "desk/desktop/DesktopLayers.h"
 
 #include <algorithm>
 #include <set>
 
 #include "desk/Machine.h"
-#include "desk/display/Visibility.h"
+#include "desk/desktop/Visibility.h"
 #include "desk/finder/FinderWindowView.h"
 #include "desk/look/SketchedWindowView.h"
 #include "platform/FileURL.h"
@@ -66,16 +66,34 @@ views::View foreignView(Machine& machine, const ServerWindow& window, bool isAct
 
 }  // namespace
 
-std::vector<Layer> DesktopLayers::read(Machine& machine) {
-    std::vector<Layer> layers;
-    addWindows(machine, layers);
-    for (std::size_t i = 0; i < machine.displays.screens().size(); ++i) addScreenFurniture(machine, i, layers);
-    addMenus(machine, layers);
-    addAlert(machine, layers);
-    return layers;
+DesktopContents DesktopLayers::read() {
+    DesktopContents contents;
+    contents.scheme = machine.appearance.colorScheme.get();
+    for (const platform::NSScreen& screen : machine.displays.screens()) contents.screens.push_back(screen.frame);
+    addWindows(contents.layers);
+    for (std::size_t i = 0; i < contents.screens.size(); ++i) addScreenFurniture(i, contents.layers);
+    addMenus(contents.layers);
+    addAlert(contents.layers);
+    return contents;
 }
 
-void DesktopLayers::addWindows(Machine& machine, std::vector<Layer>& layers) {
+std::optional<Layer::Content> DesktopLayers::contentOf(std::int64_t number) {
+    const ServerWindow* window = machine.windows.find(number);
+    if (window == nullptr || window->window == nullptr || window->window->contentView() == nullptr) return std::nullopt;
+    platform::ContentView& view = *window->window->contentView();
+    // What is drawn is brought up to date first: the version is that of what was asked for last.
+    view.drawing();
+    const platform::WindowSettings& settings = window->window->settings();
+    const double titleBar = isTitled(*window) ? windowTitleBarHeight : 0;
+    return Layer::Content{number,
+                          &view,
+                          view.drawingVersion(),
+                          {window->frame.width(), window->frame.height() - titleBar},
+                          settings.backgroundColor,
+                          settings.isPanel};
+}
+
+void DesktopLayers::addWindows(std::vector<Layer>& layers) {
     const std::vector<const ServerWindow*> frontToBack = machine.windows.onScreen();
     const std::vector<const ServerWindow*> visible = visibleWindows(frontToBack, machine.displays.screens());
     const std::int64_t active = activeWindow(machine);
@@ -86,26 +104,22 @@ void DesktopLayers::addWindows(Machine& machine, std::vector<Layer>& layers) {
         const ServerWindow& window = **entry;
         const bool isActive = window.number == active;
         if (window.window == nullptr)
-            layers.push_back(foreignWindow(machine, window, isActive));
+            layers.push_back(foreignWindow(window, isActive));
         else if (window.window->contentView() != nullptr)
-            layers.push_back(applicationWindow(machine, window, isActive));
+            layers.push_back(applicationWindow(window, isActive));
     }
 }
 
-Layer DesktopLayers::applicationWindow(Machine& machine, const ServerWindow& window, bool isActive) {
-    platform::ContentView& view = *window.window->contentView();
-    // What is drawn is brought up to date first: the version is that of what was asked for last.
-    view.drawing();
-    const Layer::Content content{window.number, view.drawingVersion()};
+Layer DesktopLayers::applicationWindow(const ServerWindow& window, bool isActive) {
     if (!isTitled(window)) {
         Layer layer;
         layer.id = window.number;
         layer.frame = window.frame;
-        layer.content = content;
+        layer.content = contentOf(window.number);
         return layer;
     }
     Layer layer = framed(window, isActive);
-    layer.content = content;
+    layer.content = contentOf(window.number);
     const platform::CGSize size = window.frame.size;
     const platform::WindowSettings& settings = window.window->settings();
     const PlainWindow plain{settings.title, size, lookOf(isActive), settings.styleMask};
@@ -115,7 +129,7 @@ Layer DesktopLayers::applicationWindow(Machine& machine, const ServerWindow& win
     return layer;
 }
 
-Layer DesktopLayers::foreignWindow(Machine& machine, const ServerWindow& window, bool isActive) {
+Layer DesktopLayers::foreignWindow(const ServerWindow& window, bool isActive) {
     Layer layer = framed(window, isActive);
     const FinderWindow* folder = machine.finder.find(window.number);
     if (folder == nullptr || folder->kind == FinderWindowKind::infoPanel) {
@@ -123,7 +137,7 @@ Layer DesktopLayers::foreignWindow(Machine& machine, const ServerWindow& window,
             views::LaidOutView(foreignView(machine, window, isActive), window.frame.size, machine.text).drawing());
         return layer;
     }
-    layer.background = finderDrawing(machine, *folder, isActive);
+    layer.background = finderDrawing(*folder, isActive);
     if (folder->fullScreen) {
         layer.cornerRadius = 0;
         layer.shadow.reset();
@@ -131,7 +145,7 @@ Layer DesktopLayers::foreignWindow(Machine& machine, const ServerWindow& window,
     return layer;
 }
 
-SharedDrawing DesktopLayers::finderDrawing(Machine& machine, const FinderWindow& window, bool isActive) {
+SharedDrawing DesktopLayers::finderDrawing(const FinderWindow& window, bool isActive) {
     FinderContent content =
         finderContent(machine.finder.browser(), machine.disk, window, lookOf(isActive), machine.clock.now());
     const platform::ColorScheme scheme = machine.appearance.colorScheme.get();

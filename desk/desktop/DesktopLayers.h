@@ -4,9 +4,10 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <vector>
 
-#include "desk/display/Layer.h"
+#include "desk/display/DesktopContents.h"
 #include "desk/finder/FinderContent.h"
 
 namespace desk {
@@ -18,8 +19,12 @@ struct ShownPopover;
 
 class DesktopLayers {
 public:
+    explicit DesktopLayers(Machine& theMachine) : machine(theMachine) {}
+
     // Windows that can't be seen, wholly behind another or on no screen, are left out.
-    std::vector<Layer> read(Machine& machine);
+    DesktopContents read();
+    // Of a launched application's window; empty for any other number.
+    std::optional<Layer::Content> contentOf(std::int64_t number);
 
 private:
     struct FinderDrawing {
@@ -28,15 +33,16 @@ private:
         SharedDrawing drawing;
     };
 
-    void addWindows(Machine& machine, std::vector<Layer>& layers);
-    static void addScreenFurniture(Machine& machine, std::size_t screen, std::vector<Layer>& layers);
-    static void addMenus(Machine& machine, std::vector<Layer>& layers);
-    static void addAlert(Machine& machine, std::vector<Layer>& layers);
+    void addWindows(std::vector<Layer>& layers);
+    void addScreenFurniture(std::size_t screen, std::vector<Layer>& layers);
+    void addMenus(std::vector<Layer>& layers);
+    void addAlert(std::vector<Layer>& layers);
 
-    static Layer applicationWindow(Machine& machine, const ServerWindow& window, bool isActive);
-    Layer foreignWindow(Machine& machine, const ServerWindow& window, bool isActive);
-    SharedDrawing finderDrawing(Machine& machine, const FinderWindow& window, bool isActive);
+    Layer applicationWindow(const ServerWindow& window, bool isActive);
+    Layer foreignWindow(const ServerWindow& window, bool isActive);
+    SharedDrawing finderDrawing(const FinderWindow& window, bool isActive);
 
+    Machine& machine;
     std::map<std::int64_t, FinderDrawing> finderDrawings;
 };
 

@@ -1,4 +1,4 @@
-#include "desk/display/Visibility.h"
+#include "desk/desktop/Visibility.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "desk/Machine.h"
-#include "desk/display/DesktopLayers.h"
+#include "desk/desktop/DesktopLayers.h"
 #include "desk/look/WindowFrameView.h"
 #include "desk/menus/MenuBar.h"
 #include "desk/menus/MenuView.h"
@@ -53,7 +53,7 @@ Layer floating(std::int64_t id, const CGRect& frame, platform::Drawing drawing, 
 
 }  // namespace
 
-void DesktopLayers::addScreenFurniture(Machine& machine, std::size_t screen, std::vector<Layer>& layers) {
+void DesktopLayers::addScreenFurniture(std::size_t screen, std::vector<Layer>& layers) {
     const DisplayOptions& options = machine.displays.options()[screen];
     const CGRect& frame = options.frame;
     if (isFullScreen(machine, frame)) return;
@@ -68,7 +68,7 @@ void DesktopLayers::addScreenFurniture(Machine& machine, std::size_t screen, std
     }
 }
 
-void DesktopLayers::addMenus(Machine& machine, std::vector<Layer>& layers) {
+void DesktopLayers::addMenus(std::vector<Layer>& layers) {
     const Shades shades{machine.appearance.colorScheme.get()};
     std::int64_t popoverId = firstPopoverId;
     for (const ShownPopover& shown : machine.menus.popovers()) {
@@ -90,7 +90,7 @@ void DesktopLayers::addMenus(Machine& machine, std::vector<Layer>& layers) {
     }
 }
 
-void DesktopLayers::addAlert(Machine& machine, std::vector<Layer>& layers) {
+void DesktopLayers::addAlert(std::vector<Layer>& layers) {
     const std::optional<SystemAlert> alert = machine.alert();
     const std::optional<platform::NSScreen> screen = machine.displays.mainScreen();
     if (!alert || !screen) return;
