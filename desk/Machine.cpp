@@ -11,9 +11,6 @@ namespace {
 // 2024-06-03 09:00:00 UTC.
 constexpr platform::Date startOfStories{std::chrono::seconds(1'717'405'200)};
 
-constexpr const char* dontAllow = "Don't Allow";
-constexpr const char* allow = "OK";
-
 }  // namespace
 
 Machine::Machine(platform::TextSystem& theText)
@@ -44,7 +41,7 @@ FinderNeighbours Machine::neighboursOfFinder() {
 std::unique_ptr<ApplicationBackend> Machine::makePorts(LaunchedApplication& application) {
     const PortNeighbours neighbours{clock,          disk,       displays,    windows,   processes, activation,
                                     launchServices, faults,     permissions, input,     menus,     finder,
-                                    scripting,      appearance, defaults,    clipboard, text};
+                                    scripting,      appearance, defaults,    clipboard, text,      journal};
     return std::make_unique<ApplicationPorts>(neighbours, application);
 }
 
@@ -73,31 +70,6 @@ void Machine::settle() {
 void Machine::advance(platform::Duration duration) {
     scheduler.advance(duration);
     applications.reap();
-}
-
-double Machine::secondsSinceStart() const {
-    return platform::inSeconds(scheduler.now() - start);
-}
-
-std::optional<SystemAlert> Machine::alert() const {
-    if (!permissions.automationPromptIsUp) return std::nullopt;
-    const auto sender = std::find_if(applications.all().begin(), applications.all().end(),
-                                     [](const auto& candidate) { return !candidate->isDead(); });
-    const Process* process =
-        sender == applications.all().end() ? nullptr : processes.find((*sender)->processIdentifier());
-    const std::string name = process == nullptr ? "An application" : "“" + process->name + "”";
-    return SystemAlert{name +
-                           " wants access to control “Finder”. Allowing control will provide access to documents and "
-                           "data in “Finder”, and to perform actions within that app.",
-                       "",
-                       {dontAllow, allow}};
-}
-
-bool Machine::pressAlertButton(const std::string& label) {
-    if (!permissions.automationPromptIsUp || (label != dontAllow && label != allow)) return false;
-    permissions.automationPromptIsUp = false;
-    permissions.setAutomation(label == allow ? AutomationPermission::allowed : AutomationPermission::denied);
-    return true;
 }
 
 }  // namespace desk

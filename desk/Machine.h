@@ -18,9 +18,11 @@
 #include "desk/processes/Activation.h"
 #include "desk/processes/Applications.h"
 #include "desk/processes/Faults.h"
+#include "desk/processes/Journal.h"
 #include "desk/processes/LaunchServices.h"
 #include "desk/processes/Permissions.h"
 #include "desk/processes/Processes.h"
+#include "desk/processes/WindowJournal.h"
 #include "desk/time/Scheduler.h"
 #include "desk/time/WallClock.h"
 #include "desk/windows/Displays.h"
@@ -41,10 +43,12 @@ public:
 
     Scheduler scheduler;
     WallClock clock{scheduler};
+    Journal journal{scheduler};
     Disk disk;
     Displays displays;
     WindowStack windows;
     SketchedWindows sketchedWindows;
+    WindowJournal windowJournal{windows, journal};
     Processes processes;
     Activation activation;
     LaunchServices launchServices;
@@ -66,11 +70,13 @@ public:
     void useRealTime(RealTime& realTime);
     void settle();
     void advance(platform::Duration duration);
-    double secondsSinceStart() const;
+    double secondsSinceStart() const { return secondsAt(scheduler.now()); }
+    // Since the start.
+    double secondsAt(platform::Date time) const { return platform::inSeconds(time - start); }
 
     // The system prompt for Automation, while it is up; pressing one of its buttons by label.
-    std::optional<SystemAlert> alert() const;
-    bool pressAlertButton(const std::string& label);
+    std::optional<SystemAlert> alert() const { return permissions.prompt(); }
+    bool pressAlertButton(const std::string& label) { return permissions.pressPromptButton(label); }
 
 private:
     FinderNeighbours neighboursOfFinder();

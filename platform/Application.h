@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/Events.h"
+#include "platform/Images.h"
 #include "platform/Time.h"
 
 namespace platform {
@@ -25,6 +26,8 @@ public:
     virtual ~NSApplication() = default;
     virtual void setActivationPolicy(NSApplicationActivationPolicy policy) = 0;
     virtual void activate(bool ignoringOtherApps) = 0;
+    // Whatever the bundle holds: there is always one.
+    virtual NSImage applicationIconImage() = 0;
     // Asks the delegate; when it agrees, the process ends and nothing more is delivered to it.
     virtual void terminate() = 0;
     // Takes the next event that matches out of the queue, running the loop while there is none; others stay queued. Empty when the date has passed or no more

@@ -42,8 +42,21 @@ void setInfo(ScriptPlayer& player, const Arguments& arguments) {
 }
 
 void startProcess(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 3);
+    auto& services = player.machine().launchServices;
+    if (arguments.count() == 1) return services.startOtherProcess(arguments.text(0));
+    const bool isNowhere = arguments.count() == 2 && arguments.is(1, "nowhere");
+    if (!isNowhere && !arguments.is(1, "at")) badCommand("unknown word: " + arguments.text(1));
+    services.startOtherProcess(arguments.text(0), isNowhere || arguments.is(2, "nowhere") ? "" : arguments.path(2));
+}
+
+template <desk::Ending how>
+void endProcess(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1);
-    player.machine().launchServices.startOtherProcess(arguments.text(0));
+    const auto& processes = player.machine().processes;
+    const desk::Process* process = processes.findByBundleIdentifier(arguments.text(0));
+    if (process == nullptr) missingTarget("no process of " + arguments.text(0) + " runs");
+    processes.end(process->processIdentifier, how);
 }
 
 void launchApplication(ScriptPlayer& player, const Arguments& arguments) {
@@ -57,8 +70,12 @@ void launchApplication(ScriptPlayer& player, const Arguments& arguments) {
 }  // namespace
 
 const std::vector<Command>& applicationCommands() {
-    static const std::vector<Command> table{
-        {"set-default", setDefault}, {"info", setInfo}, {"process", startProcess}, {"launch", launchApplication}};
+    static const std::vector<Command> table{{"set-default", setDefault},
+                                            {"info", setInfo},
+                                            {"process", startProcess},
+                                            {"launch", launchApplication},
+                                            {"terminate", endProcess<desk::Ending::asked>},
+                                            {"kill", endProcess<desk::Ending::forced>}};
     return table;
 }
 

@@ -24,18 +24,21 @@ struct Bar {
     const FinderOverlayWindowController* controller;
 };
 
-const brindle::FinderOverlayCoordinator::Controllers* controllersOf(const Session& session) {
-    const auto* orvane = session.orvane();
+const brindle::FinderOverlayCoordinator::Controllers* controllersOf(const brindle::OrvaneApp* orvane) {
     const auto* coordinator = orvane == nullptr ? nullptr : orvane->appDelegate.coordinator();
     return coordinator == nullptr ? nullptr : &coordinator->liveControllers();
 }
 
-std::optional<Bar> barWithPanel(const Session& session, std::int64_t panel) {
-    const auto* controllers = controllersOf(session);
+std::optional<Bar> barIn(const brindle::OrvaneApp* orvane, std::int64_t panel) {
+    const auto* controllers = controllersOf(orvane);
     if (controllers == nullptr) return std::nullopt;
     for (const auto& [id, controller] : *controllers)
         if (controller->panel->windowNumber() == panel) return Bar{&id, controller.get()};
     return std::nullopt;
+}
+
+std::optional<Bar> barWithPanel(const Session& session, std::int64_t panel) {
+    return barIn(session.orvane(), panel);
 }
 
 // The path field of a bar in edit mode; null in others.
@@ -157,15 +160,16 @@ QJsonObject panelOf(const Bar& bar, Session& session) {
 }  // namespace
 
 std::int64_t panelNumber(const Session& session, std::int64_t finderWindow) {
-    const auto* controllers = controllersOf(session);
+    const auto* controllers = controllersOf(session.orvane());
     if (controllers == nullptr) return 0;
     const auto found = controllers->find("finder-" + std::to_string(finderWindow));
     return found == controllers->end() ? 0 : found->second->panel->windowNumber();
 }
 
 std::optional<std::string> barOfPanel(const Session& session, std::int64_t panel) {
-    const auto bar = barWithPanel(session, panel);
-    return bar ? std::optional<std::string>(*bar->id) : std::nullopt;
+    for (const auto& copy : session.machine.applications.all())
+        if (const auto bar = barIn(Session::orvane(*copy), panel)) return *bar->id;
+    return std::nullopt;
 }
 
 bool isBarPart(std::string_view part) {

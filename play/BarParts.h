@@ -18,7 +18,7 @@ class Session;
 
 // The number of the panel over a Finder window; 0 when it has no bar.
 std::int64_t panelNumber(const Session& session, std::int64_t finderWindow);
-// The window identifier of the bar that this panel is; empty for other windows.
+// The window identifier of the bar that this panel is, of whichever copy; empty for other windows.
 std::optional<std::string> barOfPanel(const Session& session, std::int64_t panel);
 
 bool isBarPart(std::string_view part);

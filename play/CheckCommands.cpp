@@ -5,6 +5,7 @@
 #include "play/BarParts.h"
 #include "play/Commands.h"
 #include "play/DeskState.h"
+#include "play/DiskTree.h"
 #include "play/Json.h"
 #include "play/ScriptPlayer.h"
 
@@ -39,6 +40,14 @@ void screenshot(ScriptPlayer& player, const Arguments& arguments) {
             picture = session.compositor.composeWindow(*content, session.machine.appearance.colorScheme.get(), scale);
     }
     if (!desk::savePng(picture, arguments.text(0))) badCommand("the file can't be written: " + arguments.text(0));
+}
+
+void tree(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(2, 2);
+    player.requirePath(arguments.path(1));
+    std::ofstream file(arguments.text(0), std::ios::binary);
+    file << toText(treeBelow(player.machine().disk, arguments.path(1))) << '\n' << std::flush;
+    if (!file) badCommand("the file can't be written: " + arguments.text(0));
 }
 
 std::string_view trimmed(std::string_view text) {
@@ -103,12 +112,10 @@ void print(ScriptPlayer& player, const Arguments& arguments) {
 }  // namespace
 
 const std::vector<Command>& checkCommands() {
-    static const std::vector<Command> table{{"state", state},
-                                            {"screenshot", screenshot},
-                                            {"expect", expect},
-                                            {"expect-near", expectNear},
-                                            {"expect-missing", expectMissing},
-                                            {"print", print}};
+    static const std::vector<Command> table{
+        {"state", state},   {"screenshot", screenshot},  {"tree", tree},
+        {"expect", expect}, {"expect-near", expectNear}, {"expect-missing", expectMissing},
+        {"print", print}};
     return table;
 }
 

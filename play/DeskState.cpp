@@ -131,10 +131,19 @@ QString dateOf(const desk::Machine& machine) {
 QJsonArray processes(const desk::Machine& machine) {
     constexpr const char* policies[] = {"regular", "accessory", "prohibited"};
     return arrayOf(machine.processes.running(), [&](const desk::Process& process) {
-        return QJsonObject{{"bundleIdentifier", jsonText(process.bundleIdentifier)},
-                           {"path", jsonText(std::string_view(process.bundlePath))},
-                           {"processIdentifier", process.processIdentifier},
-                           {"policy", policies[static_cast<int>(process.policy)]}};
+        return QJsonObject{
+            {"bundleIdentifier", jsonText(process.bundleIdentifier)},
+            {"path", process.bundlePath.empty() ? QJsonValue() : jsonText(std::string_view(process.bundlePath))},
+            {"processIdentifier", process.processIdentifier},
+            {"policy", policies[static_cast<int>(process.policy)]}};
+    });
+}
+
+QJsonArray journal(const desk::Machine& machine) {
+    return arrayOf(machine.journal.entries(), [&](const desk::JournalEntry& entry) {
+        return QJsonObject{{"time", machine.secondsAt(entry.time)},
+                           {"process", entry.process},
+                           {"what", jsonText(std::string_view(entry.what))}};
     });
 }
 
@@ -202,6 +211,7 @@ QJsonObject stateOf(Session& session) {
             {"processes", processes(machine)},
             {"scripts", scripts(machine)},
             {"counts", counts(session)},
+            {"journal", journal(machine)},
             {"log", log(machine)},
             {"date", dateOf(machine)}};
 }

@@ -57,7 +57,12 @@ desk::LaunchedApplication* Session::application() const {
 
 const brindle::OrvaneApp* Session::orvane() const {
     const auto* living = application();
-    return living == nullptr ? nullptr : &static_cast<OrvaneProgram*>(application()->program())->orvane;
+    return living == nullptr ? nullptr : orvane(*living);
+}
+
+const brindle::OrvaneApp* Session::orvane(const desk::LaunchedApplication& copy) {
+    const auto* program = copy.isDead() ? nullptr : dynamic_cast<const OrvaneProgram*>(copy.program());
+    return program == nullptr ? nullptr : &program->orvane;
 }
 
 }  // namespace play

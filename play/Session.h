@@ -42,6 +42,8 @@ public:
     // The living copy that was launched last, and what runs in it; null without one.
     desk::LaunchedApplication* application() const;
     const brindle::OrvaneApp* orvane() const;
+    // What runs in some copy; null in one that has ended, and where it is another program.
+    static const brindle::OrvaneApp* orvane(const desk::LaunchedApplication& copy);
 
 private:
     bool launched = false;

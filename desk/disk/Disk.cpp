@@ -186,6 +186,11 @@ bool Disk::exists(const std::string& path) const {
     return walk(path, Last::taken, Missing::refused).has_value();
 }
 
+std::optional<std::string> Disk::linkTarget(const std::string& path) const {
+    const auto place = walk(path, Last::taken, Missing::refused);
+    return place && place->isLink ? host::linkTarget(place->host) : std::nullopt;
+}
+
 std::optional<std::vector<DiskEntry>> Disk::list(const std::string& path) const {
     const auto place = walk(path, Last::followed, Missing::refused);
     if (!place || !place->isDirectory || unreadable.contains(place->path)) return std::nullopt;

@@ -39,6 +39,8 @@ public:
     std::optional<platform::FileKind> kind(const std::string& path) const;
     // Not followed: whether the entry itself is there.
     bool exists(const std::string& path) const;
+    // What a symbolic link holds; empty for anything else.
+    std::optional<std::string> linkTarget(const std::string& path) const;
     // Empty when it is no folder or can't be listed; in the host's order. Names that aren't UTF-8 aren't listed. Mount points show as directories.
     std::optional<std::vector<DiskEntry>> list(const std::string& path) const;
     // As long as it stays the same, so does list(). Costs one look at the folder; empty when it is none.

@@ -57,6 +57,7 @@ void Finder::launch() {
     process.bundlePath = finderPath;
     process.name = "Finder";
     process.keeper = keeper.get();
+    process.end = [this](std::int32_t, Ending) { quit(); };
     processIdentifier = neighbours.processes.add(std::move(process));
 }
 

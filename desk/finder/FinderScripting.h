@@ -50,7 +50,6 @@ private:
     FinderNeighbours neighbours;
     std::deque<SentScript> scripts;  // the last ones
     std::uint64_t sent = 0;
-    int promptWaiters = 0;
 };
 
 }  // namespace desk

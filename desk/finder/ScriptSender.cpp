@@ -35,10 +35,9 @@ bool ScriptSender::wait(platform::Duration duration) {
 
 bool ScriptSender::waitForAutomationAnswer() {
     Permissions& permissions = scripting.neighbours.permissions;
-    ++scripting.promptWaiters;
-    permissions.automationPromptIsUp = true;
+    permissions.beginWait(application.bundle().name());
     const bool answered = parkUntilAnswered();
-    if (--scripting.promptWaiters == 0) permissions.automationPromptIsUp = false;
+    permissions.endWait();
     return answered;
 }
 

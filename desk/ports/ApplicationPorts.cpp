@@ -2,6 +2,7 @@
 
 #include "desk/input/Input.h"
 #include "desk/menus/MenuLayer.h"
+#include "desk/processes/Journal.h"
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Processes.h"
 #include "desk/time/WallClock.h"
@@ -13,17 +14,19 @@ namespace desk {
 ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, LaunchedApplication& theApplication)
     : neighbours(theNeighbours),
       application(theApplication),
-      workspace(neighbours.processes, neighbours.activation, neighbours.launchServices, application),
+      workspace(neighbours.processes, neighbours.activation, neighbours.launchServices, neighbours.journal,
+                application),
       windowServer(neighbours.windows, neighbours.displays, neighbours.finder, neighbours.faults),
       accessibility(neighbours.finder, neighbours.permissions, application),
       appleEvents(neighbours.scripting, application),
       events(neighbours.input),
-      applicationPort(neighbours.clock, neighbours.processes, neighbours.activation, application),
+      applicationPort(neighbours.clock, neighbours.processes, neighbours.activation, neighbours.journal, images,
+                      application),
       windows(neighbours.windows, neighbours.input, application),
       keeper(application, neighbours.windows, neighbours.displays, neighbours.processes),
       menus(neighbours.menus, neighbours.windows, application),
       images(neighbours.disk),
-      files(neighbours.disk),
+      files(neighbours.disk, neighbours.journal, application),
       defaults(neighbours.defaults[application.bundle().defaultsDomain()], application),
       bundle(application.bundle(), neighbours.disk),
       pasteboard(neighbours.clipboard),
@@ -52,6 +55,10 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
                    uuids,
                    *slots} {
     neighbours.processes.setKeeper(application.processIdentifier(), keeper);
+}
+
+void ApplicationPorts::answeredTermination(bool agreed) {
+    neighbours.journal.note(application.processIdentifier(), agreed ? "terminate accepted" : "terminate refused");
 }
 
 void ApplicationPorts::processEnded() {

@@ -28,6 +28,7 @@
 namespace desk {
 
 class Disk;
+class Journal;
 class WallClock;
 
 // What the ports answer from, between them.
@@ -49,6 +50,7 @@ struct PortNeighbours {
     std::map<std::string, platform::Dictionary>& defaults;
     std::optional<std::string>& clipboard;
     platform::TextSystem& text;
+    Journal& journal;
 };
 
 class ApplicationPorts final : public ApplicationBackend {
@@ -57,6 +59,7 @@ public:
 
     platform::Platform& platform() override { return platformOfIt; }
     void dropShared() override { slots.reset(); }
+    void answeredTermination(bool agreed) override;
     void processEnded() override;
 
     std::optional<platform::NSEvent> runLocalMonitors(const platform::NSEvent& event) override {

@@ -6,10 +6,13 @@
 namespace desk {
 
 class Disk;
+class Journal;
+class LaunchedApplication;
 
 class FilesPort final : public platform::NSFileManager {
 public:
-    explicit FilesPort(Disk& theDisk) : disk(theDisk) {}
+    FilesPort(Disk& theDisk, Journal& theJournal, const LaunchedApplication& theApplication)
+        : disk(theDisk), journal(theJournal), application(theApplication) {}
 
     std::optional<platform::FileKind> kindOfFileAtPath(const std::string& path) override;
     std::optional<std::vector<platform::DirectoryEntry>> contentsOfDirectory(const std::string& path,
@@ -20,7 +23,12 @@ public:
     std::string homeDirectory() override;
 
 private:
+    // A line that goes to the debug log is told in the journal too.
+    void noteLine(const std::string& path, std::string_view line) const;
+
     Disk& disk;
+    Journal& journal;
+    const LaunchedApplication& application;
 };
 
 }  // namespace desk

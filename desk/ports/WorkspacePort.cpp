@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "desk/processes/Activation.h"
+#include "desk/processes/Journal.h"
 #include "desk/processes/LaunchServices.h"
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Processes.h"
@@ -32,7 +33,10 @@ std::int32_t WorkspacePort::currentProcessIdentifier() const {
 }
 
 bool WorkspacePort::activate(std::int32_t processIdentifier, unsigned options) {
-    if (application.isDead() || processes.find(processIdentifier) == nullptr) return false;
+    const Process* process = processes.find(processIdentifier);
+    if (application.isDead() || process == nullptr) return false;
+    journal.note(application.processIdentifier(),
+                 "activate " + process->bundleIdentifier.value_or(process->name) + " " + std::to_string(options));
     activation.activate(processIdentifier,
                         (options & platform::NSApplicationActivationOptions::activateAllWindows) != 0);
     return true;

@@ -12,6 +12,7 @@
 namespace desk {
 
 class Activation;
+class Journal;
 class LaunchServices;
 class LaunchedApplication;
 class Processes;
@@ -20,10 +21,11 @@ struct Process;
 class WorkspacePort final : public platform::Workspace {
 public:
     WorkspacePort(Processes& theProcesses, Activation& theActivation, LaunchServices& theLaunchServices,
-                  LaunchedApplication& theApplication)
+                  Journal& theJournal, LaunchedApplication& theApplication)
         : processes(theProcesses),
           activation(theActivation),
           launchServices(theLaunchServices),
+          journal(theJournal),
           application(theApplication) {}
 
     std::vector<platform::NSRunningApplication> runningApplications() override;
@@ -49,6 +51,7 @@ private:
     Processes& processes;
     Activation& activation;
     LaunchServices& launchServices;
+    Journal& journal;
     LaunchedApplication& application;
     platform::Registry<Observer> observers;
 };

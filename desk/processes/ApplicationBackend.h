@@ -23,6 +23,7 @@ public:
     virtual platform::Platform& platform() = 0;
     // The program is gone: what was shared within it goes as well.
     virtual void dropShared() = 0;
+    virtual void answeredTermination(bool agreed) = 0;
     // The process has ended: its windows, menus and its entry among the processes go, the ports stay for whoever still holds on to them.
     virtual void processEnded() = 0;
 

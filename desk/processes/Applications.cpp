@@ -21,6 +21,9 @@ LaunchedApplication& Applications::launch(Bundle bundle, const ProgramFactory& f
     process.bundleIdentifier = bundle.identifier();
     process.bundlePath = bundle.path;
     process.name = bundle.name();
+    process.end = [this](std::int32_t processIdentifier, Ending how) {
+        if (LaunchedApplication* ended = find(processIdentifier)) ended->end(how);
+    };
     const std::int32_t pid = processes.add(std::move(process));
     running.push_back(std::make_unique<LaunchedApplication>(scheduler, std::move(bundle), pid, makeBackend));
     LaunchedApplication& launched = *running.back();

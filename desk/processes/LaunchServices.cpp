@@ -5,6 +5,7 @@
 
 #include "desk/disk/Disk.h"
 #include "desk/processes/Activation.h"
+#include "desk/processes/Bundle.h"
 #include "desk/processes/KnownApplications.h"
 #include "desk/processes/Processes.h"
 #include "desk/time/Scheduler.h"
@@ -21,6 +22,15 @@ constexpr platform::CGRect frameOfOpenedWindow{{300, 260}, {640, 400}};
 constexpr double cascadeStep = 24;
 constexpr std::int64_t cascadeLength = 8;
 
+constexpr std::pair<std::string_view, const char*> knownApplications[] = {
+    {"Terminal", "com.apple.Terminal"}, {"Visual Studio Code", "com.microsoft.VSCode"}};
+
+std::optional<std::string> knownIdentifier(std::string_view name) {
+    for (const auto& [known, identifier] : knownApplications)
+        if (known == name) return identifier;
+    return std::nullopt;
+}
+
 // The last part of a bundle identifier stands in for a name.
 std::string nameOf(const std::string& bundleIdentifier) {
     return bundleIdentifier.substr(bundleIdentifier.rfind('.') + 1);
@@ -28,13 +38,35 @@ std::string nameOf(const std::string& bundleIdentifier) {
 
 }  // namespace
 
-void LaunchServices::startOtherProcess(const std::string& bundleIdentifier) {
+void LaunchServices::startOtherProcess(const std::string& bundleIdentifier, std::optional<std::string> bundlePath) {
     Process process;
     process.bundleIdentifier = bundleIdentifier;
     process.name = nameOf(bundleIdentifier);
-    process.bundlePath = "/Applications/" + process.name + ".app";
+    process.bundlePath = bundlePath.value_or("/Applications/" + process.name + ".app");
     const std::string name = process.name;
-    addWindow(processes.add(std::move(process)), name, frameOfOtherWindow, platform::NSWindowOrderingMode::below);
+    addWindow(addSketched(std::move(process)), name, frameOfOtherWindow, platform::NSWindowOrderingMode::below);
+}
+
+std::int32_t LaunchServices::addSketched(Process process) {
+    process.end = [this](std::int32_t processIdentifier, Ending) {
+        std::vector<std::int64_t> own;
+        for (const ServerWindow* window : windows.all())
+            if (window->owner == processIdentifier) own.push_back(window->number);
+        for (const std::int64_t window : own) windows.remove(window);
+        processes.remove(processIdentifier);
+    };
+    return processes.add(std::move(process));
+}
+
+std::int32_t LaunchServices::runningAt(const std::string& bundlePath) {
+    for (const Process& process : processes.running())
+        if (process.bundlePath == bundlePath) return process.processIdentifier;
+    const Bundle bundle = bundleAt(disk, bundlePath);
+    Process process;
+    process.name = bundle.name();
+    process.bundleIdentifier = bundle.identifier() ? bundle.identifier() : knownIdentifier(process.name);
+    process.bundlePath = bundlePath;
+    return addSketched(std::move(process));
 }
 
 void LaunchServices::addWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
@@ -56,7 +88,7 @@ void LaunchServices::openNow(const std::vector<std::string>& paths, const std::s
     const bool isThere = std::all_of(paths.begin(), paths.end(), [&](const auto& path) { return disk.exists(path); });
     if (!isThere || disk.kind(applicationPath) != platform::FileKind::directory) return;
     openedFiles.push_back({applicationPath, paths});
-    const std::int32_t owner = processes.openApplication(applicationPath);
+    const std::int32_t owner = runningAt(applicationPath);
     for (const std::string& path : paths) {
         const double shift = cascadeStep * static_cast<double>(nextNumber % cascadeLength);
         addWindow(owner, std::string(platform::lastPathComponent(path)),
@@ -75,7 +107,7 @@ void LaunchServices::openApplication(const std::string& applicationPath) {
                                   [&](const Process& process) { return process.bundlePath == applicationPath; });
     if (!runs && disk.kind(applicationPath) != platform::FileKind::directory) return;
     if (!runs && startProgram && startProgram(applicationPath)) return;
-    const std::int32_t owner = processes.openApplication(applicationPath);
+    const std::int32_t owner = runningAt(applicationPath);
     const Process& process = *processes.find(owner);
     if (process.keeper == nullptr && !hasWindow(owner))
         addWindow(owner, process.name, frameOfOtherWindow, platform::NSWindowOrderingMode::above);

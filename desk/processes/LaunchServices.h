@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,7 @@ class Disk;
 class Processes;
 class Scheduler;
 class WindowStack;
+struct Process;
 
 // Opened with another application; of an address there is none.
 struct OpenedFiles {
@@ -34,8 +36,8 @@ public:
           windows(theWindows),
           activation(theActivation) {}
 
-    // Another process with one ordinary window, behind all others.
-    void startOtherProcess(const std::string& bundleIdentifier);
+    // Another process with one ordinary window, behind all others. Its bundle stands in /Applications unless a path is given; an empty one: it has none.
+    void startOtherProcess(const std::string& bundleIdentifier, std::optional<std::string> bundlePath = std::nullopt);
     // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front. Nothing happens when one of the
     // files or the application isn't there.
     void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
@@ -54,6 +56,10 @@ public:
 
 private:
     void openNow(const std::vector<std::string>& paths, const std::string& applicationPath);
+    // One without a program.
+    std::int32_t addSketched(Process process);
+    // The process of the application at that path, started if there is none.
+    std::int32_t runningAt(const std::string& bundlePath);
     bool hasWindow(std::int32_t processIdentifier) const;
     void addWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
                    platform::NSWindowOrderingMode place);

@@ -34,7 +34,19 @@ void LaunchedApplication::terminate() {
     if (dead) return;
     const bool agreed = !runningProgram || runningProgram->delegate().applicationShouldTerminate() ==
                                                platform::NSApplicationTerminateReply::terminateNow;
-    if (!agreed) return;
+    backend->answeredTermination(agreed);
+    if (agreed) die();
+}
+
+void LaunchedApplication::end(Ending how) {
+    if (dead) return;
+    if (how == Ending::forced)
+        die();
+    else
+        runLoop->mainAsync([this] { terminate(); });
+}
+
+void LaunchedApplication::die() {
     dead = true;
     runLoop->shutDown();
     backend->processEnded();

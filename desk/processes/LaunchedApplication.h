@@ -11,6 +11,7 @@
 
 #include "desk/processes/ApplicationBackend.h"
 #include "desk/processes/Bundle.h"
+#include "desk/processes/Ending.h"
 #include "desk/time/ApplicationLoop.h"
 #include "platform/Application.h"
 #include "platform/Platform.h"
@@ -41,7 +42,7 @@ public:
     bool isDead() const { return dead; }
     platform::Platform& platform() { return backend->platform(); }
     ApplicationLoop& loop() { return *runLoop; }
-    Program* program() { return runningProgram.get(); }
+    Program* program() const { return runningProgram.get(); }
 
     // A call of the application that its loop doesn't know of is on the stack while this is above 0.
     int callDepth = 0;
@@ -49,6 +50,8 @@ public:
 
     // Asks the delegate, and dies if it agrees.
     void terminate();
+    // By somebody else; asked, it answers in a turn of its own.
+    void end(Ending how);
 
     // An event of another process, its location on the screen: its global monitors get a copy in a later turn.
     void offerToGlobalMonitors(const platform::NSEvent& event);
@@ -66,6 +69,7 @@ public:
 private:
     friend class PanelHandle;
 
+    void die();
     // Local monitors first, then the window.
     void sendEvent(const platform::NSEvent& event);
 

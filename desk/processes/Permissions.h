@@ -2,6 +2,7 @@
 // a system prompt and its sender waits for the answer; the machine goes on.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,21 +18,25 @@ struct SystemAlert {
     std::vector<std::string> buttons;
 };
 
-struct Permissions {
+class Permissions {
+public:
     bool accessibility = true;
     AutomationPermission automation = AutomationPermission::allowed;
-    // The prompt is up exactly while somebody waits for it; answering it sets `automation` and wakes who waits.
-    bool automationPromptIsUp = false;
     platform::Signal<> changed;
 
-    void setAccessibility(bool granted) {
-        accessibility = granted;
-        changed();
-    }
-    void setAutomation(AutomationPermission permission) {
-        automation = permission;
-        changed();
-    }
+    void setAccessibility(bool granted);
+    void setAutomation(AutomationPermission permission);
+
+    // Somebody waits for the user; the prompt is up while anybody does, in the name of the first, and goes when it is answered.
+    void beginWait(const std::string& application);
+    void endWait();
+    std::optional<SystemAlert> prompt() const;
+    // By label; answering it sets `automation` and wakes who waits. False when there is no such button.
+    bool pressPromptButton(const std::string& label);
+
+private:
+    std::optional<std::string> asker;
+    int waiters = 0;
 };
 
 }  // namespace desk

@@ -3,29 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/FileURL.h"
-
 namespace desk {
 
 using platform::NSApplicationActivationPolicy;
-
-namespace {
-
-constexpr std::pair<std::string_view, const char*> knownApplications[] = {
-    {"Terminal", "com.apple.Terminal"}, {"Visual Studio Code", "com.microsoft.VSCode"}};
-
-std::string applicationName(const std::string& bundlePath) {
-    const std::string_view last = platform::lastPathComponent(bundlePath);
-    return std::string(last.ends_with(".app") ? last.substr(0, last.size() - 4) : last);
-}
-
-std::optional<std::string> knownIdentifier(std::string_view name) {
-    for (const auto& [known, identifier] : knownApplications)
-        if (known == name) return identifier;
-    return std::nullopt;
-}
-
-}  // namespace
 
 const Process* Processes::find(std::int32_t processIdentifier) const {
     const auto found = std::find_if(list.begin(), list.end(), [&](const Process& process) {
@@ -35,9 +15,10 @@ const Process* Processes::find(std::int32_t processIdentifier) const {
 }
 
 const Process* Processes::findByBundleIdentifier(const std::string& bundleIdentifier) const {
-    const auto found = std::find_if(
-        list.begin(), list.end(), [&](const Process& process) { return process.bundleIdentifier == bundleIdentifier; });
-    return found == list.end() ? nullptr : &*found;
+    const auto found = std::find_if(list.rbegin(), list.rend(), [&](const Process& process) {
+        return process.bundleIdentifier == bundleIdentifier;
+    });
+    return found == list.rend() ? nullptr : &*found;
 }
 
 const Process* Processes::frontmost() const {
@@ -51,14 +32,12 @@ std::int32_t Processes::add(Process process) {
     return list.back().processIdentifier;
 }
 
-std::int32_t Processes::openApplication(const std::string& bundlePath) {
-    for (const Process& process : list)
-        if (process.bundlePath == bundlePath) return process.processIdentifier;
-    Process process;
-    process.name = applicationName(bundlePath);
-    process.bundleIdentifier = knownIdentifier(process.name);
-    process.bundlePath = bundlePath;
-    return add(std::move(process));
+void Processes::end(std::int32_t processIdentifier, Ending how) const {
+    const Process* process = find(processIdentifier);
+    if (process == nullptr || !process->end) return;
+    // By value, since the entry goes with the process.
+    const auto ending = process->end;
+    ending(processIdentifier, how);
 }
 
 void Processes::remove(std::int32_t processIdentifier) {

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "desk/processes/Ending.h"
 #include "platform/Application.h"
 #include "platform/Published.h"
 
@@ -17,8 +19,10 @@ class WindowKeeper;
 struct Process {
     std::int32_t processIdentifier = 0;
     std::optional<std::string> bundleIdentifier;
-    std::string bundlePath;
+    std::string bundlePath;  // empty without a bundle
     std::string name;
+    // Set by who started it.
+    std::function<void(std::int32_t processIdentifier, Ending how)> end = nullptr;
     platform::NSApplicationActivationPolicy policy = platform::NSApplicationActivationPolicy::regular;
     WindowKeeper* keeper = nullptr;  // none: the desk only sketches its windows
 };
@@ -30,6 +34,7 @@ public:
     // In order of launch.
     const std::vector<Process>& running() const { return list; }
     const Process* find(std::int32_t processIdentifier) const;
+    // Of several, the one that was started last.
     const Process* findByBundleIdentifier(const std::string& bundleIdentifier) const;
     const Process* frontmost() const;
 
@@ -37,8 +42,8 @@ public:
     std::int32_t add(Process process);
     // When it was frontmost, the next in activation order is from now on, if there is one that isn't an agent.
     void remove(std::int32_t processIdentifier);
-    // The process of the application at that path, started if there is none.
-    std::int32_t openApplication(const std::string& bundlePath);
+    // By who started it; nothing happens if it is gone.
+    void end(std::int32_t processIdentifier, Ending how) const;
     void activate(std::int32_t processIdentifier);
     // Who has its windows; a sketched one's, and one's that is gone, are kept by the one keeper of these.
     WindowKeeper& keeperOf(std::int32_t processIdentifier) const;

@@ -21,6 +21,7 @@ void WindowStack::remove(std::int64_t number) {
     const auto entry = byNumber.find(number);
     if (entry == byNumber.end()) return;
     const bool wasOnScreen = isOnScreen(*entry->second);
+    if (std::exchange(entry->second->orderedIn, false)) cameOrWent(*entry->second);
     frontToBack.erase(placeOf(*entry->second));
     byNumber.erase(entry);
     if (wasOnScreen) changed();
@@ -62,12 +63,14 @@ void WindowStack::order(std::int64_t number, NSWindowOrderingMode mode, std::int
     ServerWindow* window = find(number);
     if (window == nullptr) return;
     const bool wasOnScreen = isOnScreen(*window);
+    const bool wasIn = window->isIn();
     bool moved = false;
     window->orderedIn = mode != NSWindowOrderingMode::out;
     if (window->orderedIn) {
         window->space = space;
         moved = move(*window, [&] { return destination(*window, mode, relativeTo); });
     }
+    if (wasIn != window->isIn()) cameOrWent(*window);
     if (wasOnScreen != isOnScreen(*window) || (wasOnScreen && moved)) changed();
 }
 

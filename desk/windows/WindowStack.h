@@ -33,6 +33,7 @@ struct ServerWindow {
     std::optional<platform::CGRect> frameBeforeZoom;
     bool isAuxiliary = false;  // never the main one of those without `window`
 
+    bool isIn() const { return orderedIn && !minimized; }
     bool canBeMain() const { return window == nullptr ? !isAuxiliary : window->canBecomeMain(); }
 };
 
@@ -80,6 +81,8 @@ public:
 
     // Anything that a picture of the desktop would show differently.
     platform::Signal<> changed;
+    // This window was ordered in or out, on whatever space, or is about to be removed.
+    platform::Signal<const ServerWindow&> cameOrWent;
     // Another space is current.
     platform::Signal<> spaceChanged;
 

@@ -355,6 +355,7 @@ private:
     // For what no test here uses.
     struct NoApplication final : platform::NSApplication {
         void setActivationPolicy(platform::NSApplicationActivationPolicy) override {}
+        platform::NSImage applicationIconImage() override { return {}; }
         void activate(bool) override {}
         void terminate() override {}
         std::optional<platform::NSEvent> nextEventMatchingMask(platform::NSEventMask, platform::Date,

@@ -56,6 +56,7 @@ public:
         steps.pop_front();
         return step();
     }
+    platform::NSImage applicationIconImage() override { return {}; }
     void setActivationPolicy(platform::NSApplicationActivationPolicy policy) override {
         note("policy " + std::to_string(static_cast<int>(policy)));
     }
