@@ -8,6 +8,7 @@ namespace brindle {
 
 AppDelegate::AppDelegate(platform::Platform& thePlatform)
     : platform(thePlatform),
+      aboutWindowController(thePlatform),
       accessibilityManager(std::make_shared<AccessibilityManager>(thePlatform)),
       observer(std::make_shared<FinderObserver>(thePlatform, accessibilityManager,
                                                 std::make_shared<FinderWindowTracker>(thePlatform),

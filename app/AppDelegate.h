@@ -10,6 +10,7 @@
 
 #include <memory>
 
+#include "app/AboutWindowController.h"
 #include "overlay/FinderOverlayCoordinator.h"
 #include "platform/Platform.h"
 #include "tracking/AccessibilityManager.h"
@@ -27,6 +28,9 @@ public:
     void applicationDidFinishLaunching() override;
     platform::NSApplicationTerminateReply applicationShouldTerminate() override;
 
+    // The about window, centred and in front.
+    void showAbout() { aboutWindowController.show(); }
+
     const FinderObserver& finderObserver() const { return *observer; }
     // Null until the launch has made it.
     const FinderOverlayCoordinator* coordinator() const { return overlayCoordinator.get(); }
@@ -38,14 +42,14 @@ private:
     void startObserverOnce();
 
     platform::Platform& platform;
-    std::shared_ptr<AccessibilityManager> accessibilityManager;
-    std::shared_ptr<FinderObserver> observer;
-    // Between these two belong the login item, updates, analytics, the installer and the Automation permission, in this
-    // order.
+    // In the order in which they are made. The login item, updates, analytics, the installer and the Automation permission
+    // belong before the coordinator, in this order; the other two windows behind the first.
     std::unique_ptr<FinderOverlayCoordinator> overlayCoordinator;
-    // Here belong the controllers of the three ordinary windows.
+    AboutWindowController aboutWindowController;
     bool observerStarted = false;
     bool allowsTermination = false;
+    std::shared_ptr<AccessibilityManager> accessibilityManager;
+    std::shared_ptr<FinderObserver> observer;
 };
 
 }  // namespace brindle

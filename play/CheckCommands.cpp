@@ -7,11 +7,19 @@
 #include "play/DeskState.h"
 #include "play/DiskTree.h"
 #include "play/Json.h"
+#include "play/OrdinaryWindows.h"
 #include "play/ScriptPlayer.h"
+#include "play/Strokes.h"
 
 namespace play {
 
 namespace {
+
+void write(const std::string& path, const std::string& line) {
+    std::ofstream file(path, std::ios::binary);
+    file << line << '\n' << std::flush;
+    if (!file) badCommand("the file can't be written: " + path);
+}
 
 void state(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(0, 1);
@@ -20,9 +28,7 @@ void state(ScriptPlayer& player, const Arguments& arguments) {
         player.output() << line << '\n' << std::flush;
         return;
     }
-    std::ofstream file(arguments.text(0), std::ios::binary);
-    file << line << '\n' << std::flush;
-    if (!file) badCommand("the file can't be written: " + arguments.text(0));
+    write(arguments.text(0), line);
 }
 
 void screenshot(ScriptPlayer& player, const Arguments& arguments) {
@@ -45,9 +51,27 @@ void screenshot(ScriptPlayer& player, const Arguments& arguments) {
 void tree(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(2, 2);
     player.requirePath(arguments.path(1));
-    std::ofstream file(arguments.text(0), std::ios::binary);
-    file << toText(treeBelow(player.machine().disk, arguments.path(1))) << '\n' << std::flush;
-    if (!file) badCommand("the file can't be written: " + arguments.text(0));
+    write(arguments.text(0), toText(treeBelow(player.machine().disk, arguments.path(1))));
+}
+
+// The painted content of the window that the words behind the file name.
+const platform::Drawing& drawingOf(ScriptPlayer& player, const Arguments& arguments) {
+    auto& session = player.session();
+    if (arguments.is(1, "window")) {
+        platform::NSWindow* window = ordinaryWindow(session, arguments.text(2));
+        if (window == nullptr) missingTarget("no window " + arguments.text(2) + " is on screen");
+        return window->contentView()->drawing();
+    }
+    if (!arguments.is(1, "bar")) badCommand("unknown word: " + arguments.text(1));
+    const desk::ServerWindow* panel =
+        session.machine.windows.find(panelNumber(session, player.finderWindow(arguments, 2)));
+    if (panel == nullptr) missingTarget("window " + arguments.text(2) + " has no bar");
+    return panel->window->contentView()->drawing();
+}
+
+void look(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(3, 3);
+    write(arguments.text(0), toText(strokesOf(drawingOf(player, arguments))));
 }
 
 std::string_view trimmed(std::string_view text) {
@@ -112,10 +136,14 @@ void print(ScriptPlayer& player, const Arguments& arguments) {
 }  // namespace
 
 const std::vector<Command>& checkCommands() {
-    static const std::vector<Command> table{
-        {"state", state},   {"screenshot", screenshot},  {"tree", tree},
-        {"expect", expect}, {"expect-near", expectNear}, {"expect-missing", expectMissing},
-        {"print", print}};
+    static const std::vector<Command> table{{"state", state},
+                                            {"screenshot", screenshot},
+                                            {"look", look},
+                                            {"tree", tree},
+                                            {"expect", expect},
+                                            {"expect-near", expectNear},
+                                            {"expect-missing", expectMissing},
+                                            {"print", print}};
     return table;
 }
 

@@ -10,6 +10,7 @@
 #include "play/BarParts.h"
 #include "play/Json.h"
 #include "play/OpenMenus.h"
+#include "play/OrdinaryWindows.h"
 #include "play/Session.h"
 #include "tracking/FinderObserver.h"
 
@@ -205,6 +206,7 @@ QJsonObject stateOf(Session& session) {
             {"menu", menuOf(machine)},
             {"popover", popoverOf(machine)},
             {"alert", alert(machine)},
+            {"windows", windowsOf(session)},
             {"clipboard", jsonText(machine.clipboard)},
             {"opened", opened(machine)},
             {"defaults", plainValue(session.defaults())},

@@ -11,7 +11,8 @@ namespace {
 QJsonObject fileAt(const desk::Disk& disk, const std::string& path) {
     const auto contents = disk.read(path);
     const bool isText = contents && views::isWellFormed(*contents);
-    const std::uint64_t size = contents ? contents->size() : disk.attributes(path).value_or(desk::Disk::Attributes()).size;
+    const std::uint64_t size =
+        contents ? contents->size() : disk.attributes(path).value_or(desk::Disk::Attributes()).size;
     return {{"size", static_cast<double>(size)}, {"text", jsonText(isText ? contents : std::nullopt)}};
 }
 

@@ -12,6 +12,10 @@ public:
     brindle::OrvaneApp orvane;
 };
 
+brindle::OrvaneApp& orvaneIn(desk::LaunchedApplication& copy) {
+    return static_cast<OrvaneProgram*>(copy.program())->orvane;
+}
+
 }  // namespace
 
 Session::Session() {
@@ -31,8 +35,12 @@ bool Session::isCopy(const std::string& path) const {
 
 void Session::launch(const std::string& bundlePath) {
     launched = true;
-    machine.applications.launch(desk::bundleAt(machine.disk, bundlePath, info),
-                                [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
+    auto& copy =
+        machine.applications.launch(desk::bundleAt(machine.disk, bundlePath, info), [](platform::Platform& platform) {
+            return std::make_unique<OrvaneProgram>(platform);
+        });
+    if (!showsAbout) return;
+    copy.loop().mainAsync([&copy] { orvaneIn(copy).appDelegate.showAbout(); });
 }
 
 const platform::Dictionary& Session::defaults() {

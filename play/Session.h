@@ -37,6 +37,8 @@ public:
     // A copy of the application is a folder with its executable in it.
     bool isCopy(const std::string& path) const;
     void launch(const std::string& bundlePath);
+    // A copy shows its about window once it has been launched.
+    bool showsAbout = false;
     bool hasLaunched() const { return launched; }
 
     // The living copy that was launched last, and what runs in it; null without one.

@@ -10,6 +10,7 @@
 #include "play/BarParts.h"
 #include "play/Commands.h"
 #include "play/OpenMenus.h"
+#include "play/OrdinaryWindows.h"
 #include "play/ScriptPlayer.h"
 
 namespace play {
@@ -135,6 +136,7 @@ Target labelled(ScriptPlayer& player, const Arguments& words) {
         if (const auto button = shown.buttonLabelled(label)) return {middleOf(*button), 2};
     }
     if (const auto point = popoverControl(machine, label)) return {*point, 2};
+    if (const auto point = controlLabelled(player.session(), label)) return {*point, 2};
     missingTarget("nothing is labelled " + label);
 }
 
