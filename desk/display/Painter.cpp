@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "desk/ports/DecodedImage.h"
+#include "desk/display/DecodedImage.h"
 
 namespace desk {
 

@@ -6,7 +6,7 @@
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderBrowser.h"
 #include "desk/finder/FinderCommands.h"
-#include "desk/input/Input.h"
+#include "desk/keys/KeyStroke.h"
 #include "views/text/KeyBindings.h"
 
 namespace desk {

@@ -7,8 +7,9 @@
 #include <optional>
 #include <string>
 
+#include "desk/input/WindowFrameMouse.h"
+#include "desk/keys/KeyStroke.h"
 #include "desk/system/ShownAlert.h"
-#include "desk/windows/WindowFrameMouse.h"
 #include "platform/Events.h"
 #include "platform/Geometry.h"
 
@@ -18,19 +19,6 @@ class Machine;
 class MenuBar;
 
 enum class MouseButton { left, right };
-
-// A key as the platform names it: what it types, and without modifiers.
-struct KeyStroke {
-    std::uint16_t keyCode = 0;
-    std::uint64_t modifiers = 0;
-    std::string characters;
-    std::string charactersIgnoringModifiers;
-};
-
-// "cmd+l", "shift+cmd+n", "return", "left", "f12"; empty when there is no such key.
-std::optional<KeyStroke> keyStroke(const std::string& combination);
-// The key that types one character (UTF-8).
-KeyStroke keyStrokeTyping(const std::string& character);
 
 class Input {
 public:

@@ -5,7 +5,8 @@
 #include <cstdint>
 #include <optional>
 
-#include "desk/input/Input.h"
+#include "desk/keys/KeyStroke.h"
+#include "platform/Events.h"
 
 class QKeyEvent;
 

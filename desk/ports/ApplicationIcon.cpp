@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "desk/ports/DecodedImage.h"
+#include "desk/display/DecodedImage.h"
 #include "desk/processes/Bundle.h"
 
 namespace desk {

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "desk/disk/Disk.h"
-#include "desk/ports/DecodedImage.h"
+#include "desk/display/DecodedImage.h"
 #include "platform/FileURL.h"
 
 namespace desk {

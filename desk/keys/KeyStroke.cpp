@@ -1,8 +1,10 @@
+#include "desk/keys/KeyStroke.h"
+
 #include <algorithm>
 #include <cctype>
 #include <string_view>
 
-#include "desk/input/Input.h"
+#include "platform/Events.h"
 
 namespace desk {
 

@@ -1,4 +1,4 @@
-#include "desk/windows/WindowFrameMouse.h"
+#include "desk/input/WindowFrameMouse.h"
 
 #include <cmath>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "desk/windows/SketchedWindows.h"
+#include "desk/processes/SketchedWindows.h"
 
 #include "desk/processes/Activation.h"
 #include "desk/processes/Processes.h"
