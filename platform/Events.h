@@ -29,6 +29,13 @@ enum class NSEventType : std::uint8_t {
     scrollWheel = 22
 };
 
+constexpr bool isMouseDown(NSEventType type) {
+    return type == NSEventType::leftMouseDown || type == NSEventType::rightMouseDown;
+}
+constexpr bool isKeyEvent(NSEventType type) {
+    return type == NSEventType::keyDown || type == NSEventType::keyUp;
+}
+
 using NSEventMask = std::uint64_t;
 constexpr NSEventMask maskOf(NSEventType type) {
     return NSEventMask{1} << static_cast<unsigned>(type);

@@ -37,8 +37,7 @@ NSWindow::~NSWindow() {
 void NSWindow::sendEvent(const NSEvent& event) {
     if (performKeyEquivalent(event)) return;
     const bool isForContent = contentTakes(event);
-    const bool isMouseDown = event.type == NSEventType::leftMouseDown || event.type == NSEventType::rightMouseDown;
-    if (isMouseDown) makeKeyWindow();
+    if (isMouseDown(event.type)) makeKeyWindow();
     if (event.type == NSEventType::keyDown && responder != nullptr)
         responder->keyDown(event);
     else if (isForContent)

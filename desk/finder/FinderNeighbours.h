@@ -15,7 +15,7 @@ class LaunchServices;
 class Processes;
 class Scheduler;
 class WindowStack;
-struct Permissions;
+class Permissions;
 
 struct FinderNeighbours {
     Scheduler& scheduler;

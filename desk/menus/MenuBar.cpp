@@ -1,5 +1,7 @@
 #include "desk/menus/MenuBar.h"
 
+#include <algorithm>
+
 #include "desk/Machine.h"
 #include "desk/finder/FinderWords.h"
 #include "desk/menus/MenuBarView.h"
@@ -49,11 +51,22 @@ std::optional<MenuBar::Place> MenuBar::titleAt(const CGPoint& point) const {
     return std::nullopt;
 }
 
-void MenuBar::mouseDown(const CGPoint& point) {
-    if (const auto place = titleAt(point)) open(*place);
+bool MenuBar::covers(const CGPoint& point) const {
+    if (machine.windows.isFullScreenSpace()) return false;
+    const auto& screens = machine.displays.screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const platform::NSScreen& screen) {
+        return platform::CGRectContainsPoint(screen.frame, point) && point.y >= screen.visibleFrame.maxY();
+    });
 }
 
-void MenuBar::mouseMoved(const CGPoint& point) {
+std::optional<std::int32_t> MenuBar::take(const platform::NSEvent& event) {
+    if (platform::isKeyEvent(event.type) || !covers(event.locationInWindow)) return std::nullopt;
+    const auto place = titleAt(event.locationInWindow);
+    if (event.type == platform::NSEventType::leftMouseDown && place) open(*place);
+    return 0;
+}
+
+void MenuBar::mouseIsAt(const CGPoint& point) {
     if (!isOpen()) return;
     const auto place = titleAt(point);
     if (place && !(openStrip == place->strip && openTitle == place->title)) open(*place);

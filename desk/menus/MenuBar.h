@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "desk/windows/Surface.h"
 #include "platform/Geometry.h"
 #include "platform/Menus.h"
 #include "platform/Text.h"
@@ -18,15 +19,16 @@ namespace desk {
 class Machine;
 struct Process;
 
-class MenuBar {
+class MenuBar final : public Surface {
 public:
     explicit MenuBar(Machine& theMachine) : machine(theMachine) {}
 
     // In a strip there on the screens, with as many titles as there is room for; see MenuBarView.h.
     views::LaidOutView shown(const platform::CGRect& strip) const;
 
-    void mouseDown(const platform::CGPoint& point);
-    void mouseMoved(const platform::CGPoint& point);
+    bool covers(const platform::CGPoint& point) const override;
+    std::optional<std::int32_t> take(const platform::NSEvent& event) override;
+    void mouseIsAt(const platform::CGPoint& point) override;
 
 private:
     struct Place {

@@ -66,6 +66,7 @@ std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem
     if (machine.input.isPressed()) {
         tracked->pressedAt = machine.input.mouseLocation();
         held = HeldPress{owner, {}, {}};
+        machine.input.handOver(*this);
     }
     machine.windows.changed();
     return lastNumber;

@@ -19,6 +19,7 @@
 #include "desk/menus/OpenMenu.h"
 #include "desk/menus/OpenPopover.h"
 #include "desk/menus/Placement.h"
+#include "desk/windows/Surface.h"
 #include "platform/Events.h"
 
 namespace desk {
@@ -31,7 +32,7 @@ struct ShownPopover {
     PopoverPlace place;
 };
 
-class MenuLayer {
+class MenuLayer final : public Surface {
 public:
     explicit MenuLayer(Machine& theMachine) : machine(theMachine) {}
     MenuLayer(const MenuLayer&) = delete;
@@ -56,12 +57,12 @@ public:
     platform::CGSize mostContent(const platform::CGRect& anchorOnScreen) const;
 
     // An open menu, wherever it is, or a popover there stands between the mouse and the windows.
-    bool covers(const platform::CGPoint& point) const;
+    bool covers(const platform::CGPoint& point) const override;
     // The part of the screen that is nearest to the point which menus may cover.
     platform::CGRect roomAround(const platform::CGPoint& point) const;
 
     // An event, its location on the screen, on its way to wherever it would go. The answer is the process whose menu or popover has taken it; empty when it goes on.
-    std::optional<std::int32_t> take(const platform::NSEvent& event);
+    std::optional<std::int32_t> take(const platform::NSEvent& event) override;
 
     // Nothing more of that process is shown.
     void applicationEnded(std::int32_t owner);

@@ -53,7 +53,7 @@ std::optional<ToolTips::ShownToolTip> ToolTips::shown() const {
 
 std::optional<ToolTips::Subject> ToolTips::subject() const {
     const CGPoint mouse = machine.input.mouseLocation();
-    if (machine.menus.covers(mouse) || machine.input.isOnAlert(mouse) || machine.input.isPressed()) return std::nullopt;
+    if (machine.input.isCovered(mouse) || machine.input.isPressed()) return std::nullopt;
     const ServerWindow* window = machine.windows.windowAt(mouse);
     const platform::NSWindow* shownWindow = window == nullptr ? nullptr : window->window;
     if (shownWindow == nullptr || shownWindow->contentView() == nullptr) return std::nullopt;

@@ -11,7 +11,7 @@ namespace desk {
 
 class Finder;
 class LaunchedApplication;
-struct Permissions;
+class Permissions;
 
 class AccessibilityPort final : public platform::Accessibility {
 public:

@@ -15,7 +15,7 @@ namespace desk {
 
 class ApplicationLoop;
 class Finder;
-struct Permissions;
+class Permissions;
 
 class ObserverPort final : public platform::AXObserver {
 public:

@@ -29,7 +29,8 @@ Line answerPrompt(const Machine& machine) {
 Line releaseMouse(const Machine& machine) {
     if (!machine.input.isPressed()) return std::nullopt;
     const platform::CGPoint at = machine.input.mouseLocation();
-    return "mouse up " + numberWord(at.x) + ' ' + numberWord(at.y);
+    const bool isLeft = machine.input.isPressed(desk::MouseButton::left);
+    return "mouse up " + numberWord(at.x) + ' ' + numberWord(at.y) + (isLeft ? "" : " right");
 }
 
 Line closeMenu(const Machine& machine) {

@@ -90,7 +90,8 @@ Lines mouseDrag(const Chooser& choose) {
 Lines mouseUp(const Chooser& choose) {
     const auto& input = choose.session.machine.input;
     if (!input.isPressed()) return {};
-    return {"mouse up " + numberWord(input.mouseLocation().x) + ' ' + numberWord(input.mouseLocation().y)};
+    return {"mouse up " + numberWord(input.mouseLocation().x) + ' ' + numberWord(input.mouseLocation().y) +
+            (input.isPressed(desk::MouseButton::left) ? "" : " right")};
 }
 
 Lines mouseMove(const Chooser& choose) {

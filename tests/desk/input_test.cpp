@@ -113,6 +113,20 @@ TEST_F(InputTest, ThePressedWindowKeepsTheMouseUntilTheRelease) {
     EXPECT_EQ(probe.platform.events.mouseLocation(), (CGPoint{1400, 50}));
 }
 
+TEST_F(InputTest, EachButtonHasAPressOfItsOwn) {
+    desk.press({500, 720});
+    desk.click({1400, 50}, right);
+    desk.dragTo({510, 720});
+    desk.press({500, 720}, right);
+    desk.release({520, 720});
+    desk.dragTo({1400, 50});
+    desk.release({1400, 50}, right);
+    std::vector<int> types;
+    for (const NSEvent& event : panel->received) types.push_back(static_cast<int>(event.type));
+    EXPECT_EQ(types, (std::vector{1, 6, 3, 2, 7, 4}));
+    EXPECT_EQ(probe.log, rightCopies);
+}
+
 TEST_F(InputTest, FinderHasMovedItsWindowWhenTheCopyArrives) {
     std::vector<platform::CGRect> frames;
     probe.tokens.push_back(probe.platform.events.addGlobalMonitorForEventsMatchingMask(

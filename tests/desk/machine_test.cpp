@@ -1,6 +1,7 @@
 // What connects the machine's parts: launching and ending applications, spaces, trust, the window list, the system prompt.
 #include <gtest/gtest.h>
 
+#include "desk/system/ShownAlert.h"
 #include "tests/desk/Probe.h"
 
 namespace {

@@ -1,9 +1,7 @@
 // A window is used alike whoever has it: Finder, an application launched here, or one that the desk only sketches.
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <sstream>
-#include <utility>
 
 #include "desk/system/Dock.h"
 #include "tests/desk/Probe.h"
@@ -124,6 +122,14 @@ const Behaviour behaviours[] = {
          w.desk.drag({600, 586}, {650, 556});
      },
      "B(350 170 600 400) A(100 100 600 400) R key B"},
+    {"dragged on through a right click",
+     [](Windows& w) {
+         w.desk.press({600, 586});
+         w.desk.click({600, 586}, desk::MouseButton::right);
+         w.desk.dragTo({650, 556});
+         w.desk.release({650, 556});
+     },
+     "B(350 170 600 400) A(100 100 600 400) R key B"},
     {"dragged by a button",
      [](Windows& w) {
          w.desk.drag({320, 586}, {370, 916});
@@ -211,90 +217,6 @@ TEST(WindowKindsTest, AreUsedAlike) {
             behaviour.act(windows);
             EXPECT_EQ(windows.state(), behaviour.state) << kind.name << ": " << behaviour.name;
         }
-}
-
-// What an application's window tells it, as lines.
-using Log = std::vector<std::string>;
-
-class Content final : public platform::ContentView {
-public:
-    Content(Log& theLog, bool accepts) : log(theLog), acceptsFirst(accepts) {}
-    void didMoveToWindow(platform::NSWindow*) override {}
-    void setSize(platform::CGSize size) override {
-        log.push_back("height " + std::to_string(std::lround(size.height)));
-    }
-    void setOnScreen(bool onScreen) override { log.emplace_back(onScreen ? "on" : "off"); }
-    bool acceptsFirstMouse(const platform::NSEvent&) override { return acceptsFirst; }
-    void handleEvent(const platform::NSEvent& event) override {
-        log.push_back("event " + std::to_string(static_cast<int>(event.type)));
-    }
-    const platform::Drawing& drawing() override { return nothing; }
-    std::uint64_t drawingVersion() const override { return 0; }
-
-private:
-    Log& log;
-    bool acceptsFirst;
-    platform::Drawing nothing;
-};
-
-struct Delegate final : platform::NSWindowDelegate {
-    explicit Delegate(Log& theLog) : log(theLog) {}
-    void windowWillClose() override { log.emplace_back("will close"); }
-    Log& log;
-};
-
-class OwnWindow : public testing::Test {
-protected:
-    void open(bool acceptsFirst) {
-        windows.own.push_back(std::make_shared<platform::NSWindow>(windows.probe.platform, CGRectMake(0, 0, 360, 390),
-                                                                   Style::titled | Style::closable,
-                                                                   platform::NSBackingStoreType::buffered, false));
-        window = windows.own.back().get();
-        window->setDelegate(&delegate);
-        window->setContentView(std::make_unique<Content>(log, acceptsFirst));
-        window->center();
-        window->orderFrontRegardless();
-    }
-    Log taken() { return std::exchange(log, {}); }
-
-    Windows windows;
-    Log log;
-    Delegate delegate{log};
-    platform::NSWindow* window = nullptr;
-};
-
-TEST_F(OwnWindow, HasItsContentBelowTheTitleBarAndOnlyTheButtonsOfItsStyle) {
-    open(false);
-    // Two thirds of 806 - 418 below it.
-    EXPECT_EQ(window->frame(), CGRectMake(540, 328, 360, 418));
-    EXPECT_EQ(taken(), (Log{"height 390", "off", "on"}));
-    for (const CGPoint button : {CGPoint{580, 732}, CGPoint{600, 732}}) windows.desk.click(button);
-    windows.desk.drag({899, 329}, {950, 300}, 1);
-    windows.doubleClick({720, 732});
-    windows.desk.key("cmd+m");
-    windows.desk.key("escape");
-    EXPECT_EQ(window->frame(), CGRectMake(540, 328, 360, 418));
-    EXPECT_EQ(taken(), (Log{"event 1", "event 6", "event 2", "event 10", "event 11", "event 10", "event 11"}));
-    EXPECT_TRUE(window->isKeyWindow());
-    windows.desk.key("cmd+w");
-    EXPECT_EQ(taken(), (Log{"will close", "off"}));
-    window->makeKeyAndOrderFront();
-    windows.desk.click({560, 732});
-    EXPECT_EQ(taken(), (Log{"on", "will close", "off"}));
-}
-
-TEST_F(OwnWindow, GivesTheFirstClickToAContentThatAcceptsIt) {
-    for (const bool accepts : {false, true}) {
-        open(accepts);
-        taken();
-        windows.desk.click({720, 500});
-        EXPECT_EQ(taken(), accepts ? (Log{"event 1", "event 2"}) : Log{});
-        EXPECT_TRUE(window->isKeyWindow());
-        windows.desk.click({720, 500});
-        EXPECT_EQ(taken(), (Log{"event 1", "event 2"}));
-        windows.machine.activation.activate("com.apple.finder");
-        window->orderOut();
-    }
 }
 
 }  // namespace
