@@ -25,8 +25,9 @@ bool holds(std::string_view part, std::string_view others) {
         const char letter = part[i];
         const bool isEscape =
             letter == '%' && i + 2 < part.size() && isHexDigit(part[i + 1]) && isHexDigit(part[i + 2]);
-        const bool isAllowed = isAlpha(letter) || isDigit(letter) || everywhere.find(letter) != everywhere.npos ||
-                               others.find(letter) != others.npos;
+        const bool isAllowed = isAlpha(letter) || isDigit(letter) ||
+                               everywhere.find(letter) != std::string_view::npos ||
+                               others.find(letter) != std::string_view::npos;
         if (!isEscape && !isAllowed) return false;
     }
     return true;
@@ -39,12 +40,12 @@ bool isScheme(std::string_view text) {
 }
 
 bool isAuthority(std::string_view text) {
-    if (const std::size_t at = text.find('@'); at != text.npos) {
+    if (const std::size_t at = text.find('@'); at != std::string_view::npos) {
         if (!holds(text.substr(0, at), ":")) return false;
         text.remove_prefix(at + 1);
     }
     const std::size_t bracket = text.starts_with('[') ? text.find(']') : 0;
-    if (bracket == text.npos) return false;
+    if (bracket == std::string_view::npos) return false;
     const std::size_t colon = std::min(text.find(':', bracket), text.size());
     const std::string_view port = text.substr(std::min(colon + 1, text.size()));
     const bool isHost = bracket > 0 ? colon == bracket + 1 && bracket > 1 && holds(text.substr(1, bracket - 1), ":")
@@ -55,7 +56,7 @@ bool isAuthority(std::string_view text) {
 // Cuts off what stands behind the sign, and answers whether it may.
 bool cutsTail(std::string_view& text, char sign) {
     const std::size_t place = text.find(sign);
-    if (place == text.npos) return true;
+    if (place == std::string_view::npos) return true;
     const std::string_view tail = text.substr(place + 1);
     text = text.substr(0, place);
     return holds(tail, ":@/?");
@@ -67,7 +68,7 @@ std::optional<std::string> URLWithString(std::string_view text) {
     std::string_view rest = text;
     if (text.empty() || !cutsTail(rest, '#') || !cutsTail(rest, '?')) return std::nullopt;
     const std::size_t colon = rest.substr(0, rest.find('/')).find(':');
-    if (colon != rest.npos) {
+    if (colon != std::string_view::npos) {
         if (!isScheme(rest.substr(0, colon))) return std::nullopt;
         rest.remove_prefix(colon + 1);
     }

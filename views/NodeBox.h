@@ -21,7 +21,9 @@ public:
 
     template <IsNode T>
     explicit NodeBox(T node) {
-        static_assert(sizeof(T) <= capacity && alignof(T) <= alignof(void*) && std::is_nothrow_move_constructible_v<T>);
+        static_assert(sizeof(T) <= capacity);
+        static_assert(alignof(T) <= alignof(void*));
+        static_assert(std::is_nothrow_move_constructible_v<T>);
         ::new (storage.data()) T(std::move(node));
     }
     NodeBox(NodeBox&& other) noexcept { other->moveTo(storage.data()); }

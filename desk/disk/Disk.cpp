@@ -64,7 +64,7 @@ Disk::~Disk() {
 
 std::optional<std::string> Disk::useAsStartupVolume(const std::string& hostFolder) {
     const std::string before = mounts.back().host;
-    const auto problem = setMount("/", hostFolder, false);
+    auto problem = setMount("/", hostFolder, false);
     if (!problem) replaceApplications(before);
     return problem;
 }

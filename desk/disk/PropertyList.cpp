@@ -169,7 +169,7 @@ std::optional<platform::Value> valueOf(plist_t node, int level) {
 std::optional<platform::Value> readPropertyList(std::string_view data) {
     if (data.size() > largestList) return std::nullopt;
     const bool isBinary = data.starts_with("bplist00");
-    if (isBinary ? !BinaryWalk(data).isModest() : data.find('\0') != data.npos) return std::nullopt;
+    if (isBinary ? !BinaryWalk(data).isModest() : data.find('\0') != std::string_view::npos) return std::nullopt;
     plist_t root = nullptr;
     const auto read = isBinary ? plist_from_bin : plist_from_xml;
     read(data.data(), static_cast<std::uint32_t>(data.size()), &root);

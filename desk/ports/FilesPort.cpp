@@ -87,7 +87,7 @@ bool FilesPort::writeFile(const std::string& path, std::string_view contents) {
 void FilesPort::noteLine(const std::string& path, std::string_view line) const {
     constexpr std::string_view endOfDate = "] ";
     const std::size_t date = line.find(endOfDate);
-    if (path != debugLog || date == line.npos) return;
+    if (path != debugLog || date == std::string_view::npos) return;
     std::string_view message = line.substr(date + endOfDate.size());
     if (message.ends_with('\n')) message.remove_suffix(1);
     journal.note(application.processIdentifier(), "log " + std::string(message));

@@ -38,7 +38,8 @@ std::string nameOf(const std::string& bundleIdentifier) {
 
 }  // namespace
 
-void LaunchServices::startOtherProcess(const std::string& bundleIdentifier, std::optional<std::string> bundlePath) {
+void LaunchServices::startOtherProcess(const std::string& bundleIdentifier,
+                                       const std::optional<std::string>& bundlePath) {
     Process process;
     process.bundleIdentifier = bundleIdentifier;
     process.name = nameOf(bundleIdentifier);
