@@ -118,7 +118,7 @@ TEST_F(PathBarViewTest, FoldsWhatDoesNotFitBehindTheEllipsis) {
     ASSERT_TRUE(parts().ellipsis);
     // As high as the row: above and below its text it isn't the row's empty space.
     const CGRect ellipsis = *parts().ellipsis;
-    EXPECT_EQ(ellipsis, CGRect({128, 6}, {ellipsis.width(), 32}));
+    EXPECT_EQ(ellipsis, (CGRect{{128, 6}, {ellipsis.width(), 32}}));
     click(CGPoint{ellipsis.midX(), 7});
     EXPECT_EQ(log, std::vector<std::string>{});
     show("/Users/ana/Documents/Projects", 100);
