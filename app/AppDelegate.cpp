@@ -1,7 +1,5 @@
 #include "app/AppDelegate.h"
 
-#include <algorithm>
-
 #include "tracking/DebugLog.h"
 
 namespace brindle {
@@ -33,15 +31,18 @@ platform::NSApplicationTerminateReply AppDelegate::applicationShouldTerminate() 
 bool AppDelegate::terminateIfAnotherInstanceIsRunning() {
     const auto identifier = platform.bundle.bundleIdentifier();
     if (!identifier) return false;
-    const auto running = platform.workspace.runningApplications();
-    const bool isAlone = std::none_of(running.begin(), running.end(), [&](const platform::NSRunningApplication& each) {
-        return each.bundleIdentifier == identifier &&
-               each.processIdentifier != platform.workspace.currentProcessIdentifier();
+    auto others = platform.workspace.runningApplicationsWithBundleIdentifier(*identifier);
+    std::erase_if(others, [&](const platform::NSRunningApplication& each) {
+        return each.processIdentifier == platform.workspace.currentProcessIdentifier();
     });
-    if (isAlone) return false;
+    if (others.empty()) return false;
+    quit();
+    return true;
+}
+
+void AppDelegate::quit() {
     allowsTermination = true;
     platform.application.terminate();
-    return true;
 }
 
 // Before the observer starts, so that the first list of windows doesn't pass it by.

@@ -28,8 +28,11 @@ public:
     void applicationDidFinishLaunching() override;
     platform::NSApplicationTerminateReply applicationShouldTerminate() override;
 
-    // The about window, centred and in front.
+    // What the menu calls. The windows come up centred and in front.
     void showAbout() { aboutWindowController.show(); }
+    void quit();
+
+    AccessibilityManager& accessibility() { return *accessibilityManager; }
 
     const FinderObserver& finderObserver() const { return *observer; }
     // Null until the launch has made it.

@@ -60,11 +60,7 @@ if(TARGET desk_command)
         # What a scenario writes (its pictures) lands in the build tree.
         set(pictures "${CMAKE_BINARY_DIR}/scenarios/${name}")
         file(MAKE_DIRECTORY "${pictures}")
-        # A first line "# desk OPTIONS" tells how it is to be played.
-        file(STRINGS "${CMAKE_SOURCE_DIR}/${scenario}" first_line LIMIT_COUNT 1 ENCODING UTF-8)
-        string(REGEX MATCH "^# desk (.*)$" told "${first_line}")
-        separate_arguments(options UNIX_COMMAND "${CMAKE_MATCH_1}")
-        add_test(NAME scenario_${name} COMMAND desk_command ${options} --script "${CMAKE_SOURCE_DIR}/${scenario}" WORKING_DIRECTORY "${pictures}")
+        add_test(NAME scenario_${name} COMMAND desk_command --script "${CMAKE_SOURCE_DIR}/${scenario}" WORKING_DIRECTORY "${pictures}")
         set_tests_properties(scenario_${name} PROPERTIES LABELS scenario TIMEOUT 120 ENVIRONMENT "${test_environment}")
     endforeach()
     # Random stories, the same at every run; `desk --soak SEED STEPS` tells others.

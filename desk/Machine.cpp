@@ -19,10 +19,10 @@ Machine::Machine(platform::TextSystem& theText)
       processes(sketchedWindows),
       activation(processes, windows),
       launchServices(scheduler, disk, processes, windows, activation),
+      text(theText),
       input(*this),
       menus(*this),
       toolTips(*this),
-      text(theText),
       finder(neighboursOfFinder()),
       scripting(finder, neighboursOfFinder()),
       applications(scheduler, processes, [this](LaunchedApplication& application) { return makePorts(application); }),
@@ -39,9 +39,10 @@ FinderNeighbours Machine::neighboursOfFinder() {
 }
 
 std::unique_ptr<ApplicationBackend> Machine::makePorts(LaunchedApplication& application) {
-    const PortNeighbours neighbours{clock,          disk,       displays,    windows,   processes, activation,
-                                    launchServices, faults,     permissions, input,     menus,     finder,
-                                    scripting,      appearance, defaults,    clipboard, text,      journal};
+    const PortNeighbours neighbours{clock,          disk,      displays,    windows,  processes, activation,
+                                    launchServices, faults,    permissions, input,    menus,     input.menuBar(),
+                                    finder,         scripting, appearance,  defaults, clipboard, text,
+                                    journal};
     return std::make_unique<ApplicationPorts>(neighbours, application);
 }
 

@@ -54,10 +54,10 @@ public:
     LaunchServices launchServices;
     Faults faults;
     Permissions permissions;
+    platform::TextSystem& text;
     Input input;
     MenuLayer menus;
     ToolTips toolTips;
-    platform::TextSystem& text;
     Finder finder;
     FinderScripting scripting;
     platform::Appearance appearance;

@@ -78,6 +78,19 @@ struct StrokeShape {
     friend bool operator==(const StrokeShape&, const StrokeShape&) = default;
 };
 
+enum class LineCap : std::uint8_t { butt, round };
+enum class LineJoin : std::uint8_t { miter, round };
+
+// A line through the points, open at its ends.
+struct StrokePath {
+    std::vector<CGPoint> points;
+    Color color;
+    double lineWidth = 1;
+    LineCap cap = LineCap::butt;
+    LineJoin join = LineJoin::miter;
+    friend bool operator==(const StrokePath&, const StrokePath&) = default;
+};
+
 // One line of text, already shortened to fit, from the left edge of `rect`, which is as high as the font's line.
 struct DrawText {
     std::string text;
@@ -118,7 +131,8 @@ struct EndClip {
     friend bool operator==(const EndClip&, const EndClip&) = default;
 };
 
-using DrawOperation = std::variant<FillShape, StrokeShape, DrawText, DrawSymbol, DrawImage, BeginClip, EndClip>;
+using DrawOperation =
+    std::variant<FillShape, StrokeShape, StrokePath, DrawText, DrawSymbol, DrawImage, BeginClip, EndClip>;
 
 struct Drawing {
     std::vector<DrawOperation> operations;

@@ -1,6 +1,7 @@
-// Pictures that lie in files: reading one, and the value that stands for it. What is in a picture is the backend's; layout needs its size and its name alone.
+// Pictures: read from a file, or drawn by a handler. What is in a file's picture is the backend's, a drawn one is its strokes; layout needs a picture's size alone.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,6 +10,9 @@
 #include "platform/Geometry.h"
 
 namespace platform {
+
+class NSGraphicsContext;
+struct Drawing;
 
 // The backend's side of a picture.
 class ImagePixels {
@@ -19,24 +23,38 @@ public:
     virtual ~ImagePixels() = default;
 };
 
-// Copies share their pixels, and are equal when they do. One without pixels takes its room and shows nothing.
+// Copies share what is in them, and are equal when they do. One with nothing in it takes its room and shows nothing.
 class NSImage {
 public:
+    // Draws into the bounds, from (0, 0); false: there is nothing to show.
+    using DrawingHandler = std::function<bool(NSGraphicsContext& context, const CGRect& bounds)>;
+
     NSImage() = default;
     NSImage(std::string theName, CGSize theSize, std::shared_ptr<const ImagePixels> thePixels)
         : ownName(std::move(theName)), ownSize(theSize), shared(std::move(thePixels)) {}
+    // In points. The handler runs once, here; its y goes upward unless the picture is flipped.
+    NSImage(CGSize theSize, bool flipped, const DrawingHandler& handler);
 
-    // The path of the file it was read from.
+    // The path of the file it was read from; empty for one that was drawn.
     const std::string& name() const { return ownName; }
     // In points, one for each pixel of the file.
     CGSize size() const { return ownSize; }
     const ImagePixels* pixels() const { return shared.get(); }
+    // Its strokes, in its own coordinates; null for a file's.
+    const Drawing* drawing() const { return drawn.get(); }
+    bool isFlipped() const { return flipped; }
+    // Whoever shows a template gives it its colour; its own counts by its opacity alone.
+    bool isTemplate() const { return templateFlag; }
+    void setTemplate(bool value) { templateFlag = value; }
     friend bool operator==(const NSImage&, const NSImage&) = default;
 
 private:
     std::string ownName;
     CGSize ownSize;
     std::shared_ptr<const ImagePixels> shared;
+    std::shared_ptr<const Drawing> drawn;
+    bool flipped = false;
+    bool templateFlag = false;
 };
 
 class ImageSystem {

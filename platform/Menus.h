@@ -1,5 +1,5 @@
-// Menus and popovers: what a view asks the platform to put up beside its window. They stand above every window, keep to the screen, and don't hold up the
-// main thread: timers and everything else go on while one is open. Rectangles are AppKit screen points. Main thread only.
+// Menus and popovers: what a view asks the platform to put up beside its window; and items of the menu bar. They stand above every window, keep to the screen, and don't hold
+// up the main thread: timers and everything else go on while one is open. Rectangles are AppKit screen points. Main thread only.
 #pragma once
 
 #include <functional>
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/Geometry.h"
+#include "platform/Images.h"
 #include "platform/Windows.h"
 
 namespace platform {
@@ -26,6 +27,16 @@ class MenuHandle {
 public:
     virtual ~MenuHandle() = default;
     virtual bool isOpen() const = 0;
+    // It shows these from now on, where it stands; without any it closes. What has been chosen before runs all the same.
+    virtual void update(std::vector<MenuItem> items) = 0;
+};
+
+// An item in the right part of every menu bar, as long as the handle lives.
+class StatusItem {
+public:
+    virtual ~StatusItem() = default;
+    // Below the item where it was pressed; meanwhile that looks pressed. Neither brings the application forward nor gives it the keyboard.
+    virtual std::unique_ptr<MenuHandle> popUpMenu(std::vector<MenuItem> items) = 0;
 };
 
 enum class RectEdge { minX, minY, maxX, maxY };
@@ -47,6 +58,10 @@ public:
     virtual std::unique_ptr<MenuHandle> popUpBelow(const CGRect& anchor, std::vector<MenuItem> items) = 0;
     // With its top left corner at the point: a context menu.
     virtual std::unique_ptr<MenuHandle> popUpAt(const CGPoint& point, std::vector<MenuItem> items) = 0;
+
+    // The image stands in the middle of the bar's height. `pressed` runs at each press, to open the menu.
+    virtual std::unique_ptr<StatusItem> addStatusItem(const NSImage& image, const std::string& accessibilityLabel,
+                                                      std::function<void()> pressed) = 0;
 
     // The content is shown as large as `contentSize` says.
     virtual std::unique_ptr<PopoverHandle> showPopover(NSWindow& window, const CGRect& anchor, RectEdge arrowEdge,

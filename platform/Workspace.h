@@ -37,6 +37,12 @@ public:
 
     // In order of launch.
     virtual std::vector<NSRunningApplication> runningApplications() = 0;
+    // Those of them, this process included.
+    std::vector<NSRunningApplication> runningApplicationsWithBundleIdentifier(const std::string& identifier) {
+        std::vector<NSRunningApplication> all = runningApplications();
+        std::erase_if(all, [&](const NSRunningApplication& each) { return each.bundleIdentifier != identifier; });
+        return all;
+    }
     virtual std::optional<NSRunningApplication> frontmostApplication() = 0;
     virtual std::int32_t currentProcessIdentifier() const = 0;
     virtual bool activate(std::int32_t processIdentifier, unsigned options) = 0;

@@ -54,13 +54,18 @@ void tree(ScriptPlayer& player, const Arguments& arguments) {
     write(arguments.text(0), toText(treeBelow(player.machine().disk, arguments.path(1))));
 }
 
-// The painted content of the window that the words behind the file name.
+// What is painted in the window or the item that the words behind the file name.
 const platform::Drawing& drawingOf(ScriptPlayer& player, const Arguments& arguments) {
     auto& session = player.session();
     if (arguments.is(1, "window")) {
         platform::NSWindow* window = ordinaryWindow(session, arguments.text(2));
         if (window == nullptr) missingTarget("no window " + arguments.text(2) + " is on screen");
         return window->contentView()->drawing();
+    }
+    if (arguments.is(1, "status-item")) {
+        const desk::BarItem* item = session.statusItem();
+        if (item == nullptr) missingTarget("the application has no item in the menu bar");
+        return *item->image.drawing();
     }
     if (!arguments.is(1, "bar")) badCommand("unknown word: " + arguments.text(1));
     const desk::ServerWindow* panel =
@@ -70,7 +75,8 @@ const platform::Drawing& drawingOf(ScriptPlayer& player, const Arguments& argume
 }
 
 void look(ScriptPlayer& player, const Arguments& arguments) {
-    arguments.requireCount(3, 3);
+    const std::size_t count = arguments.is(1, "status-item") ? 2 : 3;
+    arguments.requireCount(count, count);
     write(arguments.text(0), toText(strokesOf(drawingOf(player, arguments))));
 }
 

@@ -25,18 +25,9 @@ namespace play {
 
 namespace {
 
-constexpr std::string_view aboutFlag = "--about";
-
-// What stands on the command line behind the mode.
-struct Options {
-    std::vector<std::string> values;
-    bool showsAbout = false;
-};
-
 constexpr const char* usage =
     "desk                 sit down at the desk; without a display, play the tour\n"
     "desk --screens N     the same with N displays beside each other\n"
-    "desk --about         sit down with the about window open; also with --script FILE\n"
     "desk --live          play a script from standard input on the desk in real time\n"
     "desk --measure drags|idle   how closely bars follow in real time; what an idle desktop costs\n"
     "desk --tour [DIR]    play the tour: it says what it does; its pictures lie in DIR\n"
@@ -60,13 +51,12 @@ std::optional<std::string> readAll(const std::string& file) {
     return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 
-int playScript(const Options& options) {
-    if (options.values.size() != 1) return complain("--script takes one file");
-    const auto text = readAll(options.values.front());
-    if (!text) return complain("the script can't be read: " + options.values.front());
+int playScript(const std::vector<std::string>& values) {
+    if (values.size() != 1) return complain("--script takes one file");
+    const auto text = readAll(values.front());
+    if (!text) return complain("the script can't be read: " + values.front());
     Session session;
-    session.showsAbout = options.showsAbout;
-    ScriptPlayer player(session, options.values.front(), *text, std::cout, std::cerr);
+    ScriptPlayer player(session, values.front(), *text, std::cout, std::cerr);
     return player.play();
 }
 
@@ -74,38 +64,36 @@ bool hasDisplay() {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
-int sitDown(const Options& options) {
+int sitDown(const std::vector<std::string>& values) {
     if (!hasDisplay()) return complain("there is no display to sit down at");
-    LiveOptions live;
-    live.showsAbout = options.showsAbout;
-    if (options.values.size() != 1 || options.values.front().size() != 1 || options.values.front() < "1" ||
-        options.values.front() > "4")
+    LiveOptions options;
+    if (values.size() != 1 || values.front().size() != 1 || values.front() < "1" || values.front() > "4")
         return complain("--screens takes a number from 1 to 4");
-    live.screens = options.values.front().front() - '0';
-    return LiveDesk(live).run();
+    options.screens = values.front().front() - '0';
+    return LiveDesk(options).run();
 }
 
-int playLive(const Options& options) {
-    if (!options.values.empty()) return complain("--live takes its script from standard input");
-    LiveOptions live;
-    live.takesScript = true;
-    return LiveDesk(live).run();
+int playLive(const std::vector<std::string>& values) {
+    if (!values.empty()) return complain("--live takes its script from standard input");
+    LiveOptions options;
+    options.takesScript = true;
+    return LiveDesk(options).run();
 }
 
-int measure(const Options& options) {
-    if (options.values == std::vector<std::string>{"drags"}) return measureDrags(std::cout);
-    if (options.values == std::vector<std::string>{"idle"}) return measureIdle(std::cout, 60);
+int measure(const std::vector<std::string>& values) {
+    if (values == std::vector<std::string>{"drags"}) return measureDrags(std::cout);
+    if (values == std::vector<std::string>{"idle"}) return measureIdle(std::cout, 60);
     return complain("--measure takes drags or idle");
 }
 
-int playTour(const Options& options) {
-    if (options.values.size() > 1) return complain("--tour takes one folder");
-    return runTour(options.values.empty() ? std::string() : options.values.front());
+int playTour(const std::vector<std::string>& values) {
+    if (values.size() > 1) return complain("--tour takes one folder");
+    return runTour(values.empty() ? std::string() : values.front());
 }
 
-int playContactSheet(const Options& options) {
-    if (options.values.size() != 1) return complain("--contact-sheet takes one file");
-    return drawContactSheet(options.values.front());
+int playContactSheet(const std::vector<std::string>& values) {
+    if (values.size() != 1) return complain("--contact-sheet takes one file");
+    return drawContactSheet(values.front());
 }
 
 template <typename Number>
@@ -116,34 +104,33 @@ std::optional<Number> wholeNumber(const std::string& word) {
     return number;
 }
 
-int soak(const Options& options) {
-    const bool isVerbose = options.values.size() == 3 && options.values[2] == "--verbose";
-    const bool isComplete = options.values.size() == 2 || isVerbose;
-    const auto seed = isComplete ? wholeNumber<std::uint64_t>(options.values[0]) : std::nullopt;
-    const auto steps = isComplete ? wholeNumber<std::int64_t>(options.values[1]) : std::nullopt;
+int soak(const std::vector<std::string>& values) {
+    const bool isVerbose = values.size() == 3 && values[2] == "--verbose";
+    const bool isComplete = values.size() == 2 || isVerbose;
+    const auto seed = isComplete ? wholeNumber<std::uint64_t>(values[0]) : std::nullopt;
+    const auto steps = isComplete ? wholeNumber<std::int64_t>(values[1]) : std::nullopt;
     if (!seed || !steps || *steps < 1) return complain("--soak takes a seed and a number of steps");
-    SoakOptions wanted;
-    wanted.seed = *seed;
-    wanted.steps = *steps;
-    wanted.isVerbose = isVerbose;
-    return runSoak(wanted, std::cout);
+    SoakOptions options;
+    options.seed = *seed;
+    options.steps = *steps;
+    options.isVerbose = isVerbose;
+    return runSoak(options, std::cout);
 }
 
-int showHelp(const Options& /*options*/) {
+int showHelp(const std::vector<std::string>& /*values*/) {
     std::cout << usage;
     return 0;
 }
 
 struct Mode {
     std::string_view name;
-    int (*run)(const Options& options);
+    int (*run)(const std::vector<std::string>& values);
     bool showsWindow = false;
-    bool canShowAbout = false;
 };
-constexpr Mode modes[] = {{"--screens", sitDown, true, true},
+constexpr Mode modes[] = {{"--screens", sitDown, true},
                           {"--live", playLive, true},
                           {"--measure", measure, true},
-                          {"--script", playScript, false, true},
+                          {"--script", playScript},
                           {"--tour", playTour},
                           {"--contact-sheet", playContactSheet},
                           {"--soak", soak},
@@ -163,19 +150,15 @@ void drawWithoutDisplay() {
 
 int runDesk(const std::vector<std::string>& arguments) {
     qInstallMessageHandler(writeToolkitMessage);
-    Options options{arguments};
-    options.showsAbout = std::erase(options.values, aboutFlag) > 0;
-    if (options.values.empty() && (options.showsAbout || hasDisplay())) options.values = {"--screens", "1"};
-    if (options.values.empty()) options.values = {"--tour"};
-    const std::string name = options.values.front();
-    options.values.erase(options.values.begin());
+    const std::vector<std::string> words = !arguments.empty() ? arguments
+                                           : hasDisplay()     ? std::vector<std::string>{"--screens", "1"}
+                                                              : std::vector<std::string>{"--tour"};
     const auto* mode =
-        std::find_if(std::begin(modes), std::end(modes), [&](const Mode& each) { return name == each.name; });
-    if (mode == std::end(modes)) return complain("unknown argument: " + name + "\n" + usage);
-    if (options.showsAbout && !mode->canShowAbout) return complain(name + " opens no about window");
+        std::find_if(std::begin(modes), std::end(modes), [&](const Mode& each) { return words.front() == each.name; });
+    if (mode == std::end(modes)) return complain("unknown argument: " + words.front() + "\n" + usage);
     if (!mode->showsWindow) drawWithoutDisplay();
     const desk::GuiApplication gui;
-    return mode->run(options);
+    return mode->run({words.begin() + 1, words.end()});
 }
 
 }  // namespace play

@@ -169,8 +169,25 @@ QJsonObject counts(Session& session) {
     return {{"passes", numberOf(observed.passes)},
             {"pathFetches", numberOf(observed.pathFetches)},
             {"selectionFetches", numberOf(observed.selectionFetches)},
+            {"observerStarts", numberOf(observed.starts)},
             {"barLayouts", numberOf(barLayouts(session))},
             {"barPaints", numberOf(session.compositor.counts().barPaints)}};
+}
+
+QJsonObject statusItem(const Session& session) {
+    const desk::BarItem* item = session.statusItem();
+    if (item == nullptr)
+        return {{"present", false},
+                {"label", QJsonValue()},
+                {"size", QJsonValue()},
+                {"template", QJsonValue()},
+                {"frame", QJsonValue()}};
+    const auto frame = session.machine.input.menuBar().frameOf(*item);
+    return {{"present", true},
+            {"label", jsonText(std::string_view(item->label))},
+            {"size", QJsonArray{item->image.size().width, item->image.size().height}},
+            {"template", item->image.isTemplate()},
+            {"frame", frame ? QJsonValue(frameOf(*frame)) : QJsonValue()}};
 }
 
 QJsonArray log(const desk::Machine& machine) {
@@ -207,6 +224,7 @@ QJsonObject stateOf(Session& session) {
             {"popover", popoverOf(machine)},
             {"alert", alert(machine)},
             {"windows", windowsOf(session)},
+            {"statusItem", statusItem(session)},
             {"clipboard", jsonText(machine.clipboard)},
             {"opened", opened(machine)},
             {"defaults", plainValue(session.defaults())},

@@ -12,10 +12,6 @@ public:
     brindle::OrvaneApp orvane;
 };
 
-brindle::OrvaneApp& orvaneIn(desk::LaunchedApplication& copy) {
-    return static_cast<OrvaneProgram*>(copy.program())->orvane;
-}
-
 }  // namespace
 
 Session::Session() {
@@ -35,12 +31,8 @@ bool Session::isCopy(const std::string& path) const {
 
 void Session::launch(const std::string& bundlePath) {
     launched = true;
-    auto& copy =
-        machine.applications.launch(desk::bundleAt(machine.disk, bundlePath, info), [](platform::Platform& platform) {
-            return std::make_unique<OrvaneProgram>(platform);
-        });
-    if (!showsAbout) return;
-    copy.loop().mainAsync([&copy] { orvaneIn(copy).appDelegate.showAbout(); });
+    machine.applications.launch(desk::bundleAt(machine.disk, bundlePath, info),
+                                [](platform::Platform& platform) { return std::make_unique<OrvaneProgram>(platform); });
 }
 
 const platform::Dictionary& Session::defaults() {
@@ -66,6 +58,14 @@ desk::LaunchedApplication* Session::application() const {
 const brindle::OrvaneApp* Session::orvane() const {
     const auto* living = application();
     return living == nullptr ? nullptr : orvane(*living);
+}
+
+const desk::BarItem* Session::statusItem() const {
+    const auto* living = application();
+    if (living == nullptr) return nullptr;
+    for (const auto& item : machine.input.menuBar().items())
+        if (item->owner == living->processIdentifier()) return item.get();
+    return nullptr;
 }
 
 const brindle::OrvaneApp* Session::orvane(const desk::LaunchedApplication& copy) {

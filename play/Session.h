@@ -9,6 +9,7 @@
 #include "desk/desktop/DesktopLayers.h"
 #include "desk/display/Compositor.h"
 #include "desk/display/QtTextSystem.h"
+#include "desk/menus/MenuBar.h"
 
 namespace play {
 
@@ -37,13 +38,13 @@ public:
     // A copy of the application is a folder with its executable in it.
     bool isCopy(const std::string& path) const;
     void launch(const std::string& bundlePath);
-    // A copy shows its about window once it has been launched.
-    bool showsAbout = false;
     bool hasLaunched() const { return launched; }
 
     // The living copy that was launched last, and what runs in it; null without one.
     desk::LaunchedApplication* application() const;
     const brindle::OrvaneApp* orvane() const;
+    // The application's item in the menu bar; null without one.
+    const desk::BarItem* statusItem() const;
     // What runs in some copy; null in one that has ended, and where it is another program.
     static const brindle::OrvaneApp* orvane(const desk::LaunchedApplication& copy);
 

@@ -89,6 +89,17 @@ public:
             return described;
         });
     }
+    void operator()(const platform::StrokePath& line) {
+        add(boundsOf(line), [&] {
+            QJsonArray points;
+            for (const platform::CGPoint& point : line.points) points.append(QJsonArray{point.x, point.y});
+            QJsonObject described{{"op", "line"}, {"points", points}, {"lineWidth", line.lineWidth}};
+            described["cap"] = line.cap == platform::LineCap::butt ? "butt" : "round";
+            described["join"] = line.join == platform::LineJoin::miter ? "miter" : "round";
+            addColor(line.color, described);
+            return described;
+        });
+    }
     void operator()(const platform::DrawText& text) {
         add(text.rect, [&] {
             QJsonObject described = stroke("text", text.rect);
@@ -129,6 +140,16 @@ private:
         CGRect open;  // what it and those around it leave open
     };
 
+    // With its width around all points.
+    static CGRect boundsOf(const platform::StrokePath& line) {
+        CGRect bounds{line.points.empty() ? platform::CGPoint{} : line.points.front(), {}};
+        for (const platform::CGPoint& point : line.points) {
+            const double x = std::min(bounds.minX(), point.x);
+            const double y = std::min(bounds.minY(), point.y);
+            bounds = {{x, y}, {std::max(bounds.maxX(), point.x) - x, std::max(bounds.maxY(), point.y) - y}};
+        }
+        return platform::CGRectInset(bounds, -line.lineWidth / 2, -line.lineWidth / 2);
+    }
     static QJsonObject clipOf(const platform::BeginClip& clip) {
         return {{"rect", arrayOf(clip.rect)}, {"radius", clip.radius}};
     }

@@ -154,12 +154,22 @@ Target itemTitled(ScriptPlayer& player, const Arguments& words) {
     return {middleOf(menu->frameOf(row)), 2};
 }
 
+Target itemOfMenuBar(ScriptPlayer& player, const Arguments& /*words*/) {
+    const desk::BarItem* item = player.session().statusItem();
+    const auto frame = item == nullptr ? std::nullopt : player.machine().input.menuBar().frameOf(*item);
+    if (!frame) missingTarget("no menu bar shows an item of the application");
+    return {middleOf(*frame), 1};
+}
+
 struct TargetKind {
     std::string_view name;
     Target (*read)(ScriptPlayer& player, const Arguments& words);
 };
-constexpr TargetKind targetKinds[] = {
-    {"window", windowPart}, {"bar", barPart}, {"label", labelled}, {"item", itemTitled}};
+constexpr TargetKind targetKinds[] = {{"window", windowPart},
+                                      {"bar", barPart},
+                                      {"label", labelled},
+                                      {"item", itemTitled},
+                                      {"status-item", itemOfMenuBar}};
 
 }  // namespace
 

@@ -26,6 +26,7 @@ static_assert(keyboardMonitorMask == 1024 && inputMonitorMask == 2134);
 
 void FinderObserver::start() {
     stop();
+    tally.starts += 1;
     accessibilityManager->refresh();
     windowEventMonitor().start();
     registerWorkspaceObservers();

@@ -33,6 +33,7 @@ public:
     enum class LiveGeometryState { idle, waiting, predicting };
     // Since launch.
     struct Counts {
+        std::int64_t starts = 0;
         std::int64_t passes = 0;
         std::int64_t pathFetches = 0;
         std::int64_t selectionFetches = 0;

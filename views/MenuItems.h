@@ -12,6 +12,7 @@ namespace views {
 // A button is an entry, a divider a separator, a text or label an entry that can't be chosen; containers give what they
 // contain. The content has been evaluated, and stays as long as the actions do.
 std::vector<platform::MenuItem> menuItems(const View& content);
+void addMenuItemsOf(const View& view, std::vector<platform::MenuItem>& items);
 
 // With the texts and the first symbol inside; it can't be chosen.
 platform::MenuItem labelledMenuItem(const View& view);

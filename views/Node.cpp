@@ -2,6 +2,7 @@
 
 #include "views/HostingView.h"
 #include "views/LayoutPass.h"
+#include "views/MenuItems.h"
 #include "views/Reconciler.h"
 
 namespace views {
@@ -30,7 +31,7 @@ void Node::mouseDown(HostingView& host, const LayoutItem& item, const platform::
 }
 
 void Node::addMenuItems(const View& view, std::vector<platform::MenuItem>& items) const {
-    for (const View& child : view.children) child.node->addMenuItems(child, items);
+    for (const View& child : view.children) addMenuItemsOf(child, items);
 }
 
 }  // namespace views

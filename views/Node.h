@@ -15,6 +15,7 @@
 
 namespace platform {
 struct MenuItem;
+class NSImage;
 }  // namespace platform
 
 namespace views {
@@ -67,9 +68,10 @@ public:
     virtual std::optional<AccessibilityRole> role() const { return std::nullopt; }
     virtual const std::string* shownText() const { return nullptr; }
     virtual const std::string* shownSymbol() const { return nullptr; }
+    virtual const platform::NSImage* shownPicture() const { return nullptr; }
     // Adds to what the views around have said about the element inside.
     virtual void describe(AccessibilityElement& /*element*/) const {}
-    // What a menu shows of it; the default are its children.
+    // What a menu shows of it; the default are its children. Through addMenuItemsOf() alone, which knows what is disabled.
     virtual void addMenuItems(const View& view, std::vector<platform::MenuItem>& items) const;
 };
 

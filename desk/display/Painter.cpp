@@ -32,6 +32,10 @@ private:
         bool isRounded() const { return !path.isEmpty(); }
     };
 
+    QPointF device(const platform::CGPoint& point) const {
+        return {origin.x() + point.x * scale, origin.y() + point.y * scale};
+    }
+
     QRectF device(const platform::CGRect& rect) const {
         return {origin.x() + rect.minX() * scale, origin.y() + rect.minY() * scale, rect.width() * scale,
                 rect.height() * scale};
@@ -46,6 +50,19 @@ private:
         const platform::RoundedShape& shape = stroke.shape;
         owner.shapes.stroke(target, device(shape.rect), shape.radius * scale, shape.corners, stroke.lineWidth * scale,
                             palette.resolve(stroke.color));
+    }
+
+    void paint(const platform::StrokePath& line) {
+        if (line.points.empty()) return;
+        QPainterPath path;
+        path.moveTo(device(line.points.front()));
+        for (const platform::CGPoint& point : line.points) path.lineTo(device(point));
+        const bool hasRoundCap = line.cap == platform::LineCap::round;
+        const bool hasRoundJoin = line.join == platform::LineJoin::round;
+        target.setRenderHint(QPainter::Antialiasing);
+        target.strokePath(path,
+                          QPen(palette.resolve(line.color), line.lineWidth * scale, Qt::SolidLine,
+                               hasRoundCap ? Qt::RoundCap : Qt::FlatCap, hasRoundJoin ? Qt::RoundJoin : Qt::MiterJoin));
     }
 
     // On whole device pixels: a baseline between two rows blurs the feet of all letters.

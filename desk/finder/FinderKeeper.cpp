@@ -2,6 +2,7 @@
 
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderBrowser.h"
+#include "desk/finder/FinderMenus.h"
 #include "desk/processes/Activation.h"
 #include "desk/processes/Processes.h"
 #include "desk/windows/WindowFrame.h"
@@ -57,6 +58,14 @@ void FinderKeeper::pressZoomButton(std::int64_t window) {
 
 void FinderKeeper::setFrame(std::int64_t window, const platform::CGRect& frame) {
     finder.setFrame(window, frame);
+}
+
+std::vector<std::string> FinderKeeper::menus() const {
+    return finderMenus();
+}
+
+std::vector<platform::MenuItem> FinderKeeper::menuItems(std::int32_t /*process*/, const std::string& menu) {
+    return finderMenuItems(finder, neighbours.windows, menu);
 }
 
 bool FinderKeeper::hasContentInTitleBar(std::int64_t window, const platform::CGPoint& point) const {

@@ -25,6 +25,8 @@ public:
     // In and out of full screen.
     void pressZoomButton(std::int64_t window) override;
     void setFrame(std::int64_t window, const platform::CGRect& frame) override;
+    std::vector<std::string> menus() const override;
+    std::vector<platform::MenuItem> menuItems(std::int32_t process, const std::string& menu) override;
     bool hasContentInTitleBar(std::int64_t window, const platform::CGPoint& point) const override;
     void handle(std::int64_t window, const platform::NSEvent& event) override;
     void letGo() override { mouse.letGo(); }

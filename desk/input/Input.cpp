@@ -35,7 +35,8 @@ ButtonEvents eventsOf(MouseButton button) {
 Input::Input(Machine& theMachine)
     : machine(theMachine),
       prompt(std::make_unique<AlertSurface>(theMachine)),
-      bar(std::make_unique<MenuBar>(theMachine)),
+      bar(std::make_unique<MenuBar>(theMachine.clock, theMachine.displays, theMachine.windows, theMachine.processes,
+                                    theMachine.menus, theMachine.appearance, theMachine.text)),
       dock(std::make_unique<DockSurface>(theMachine)),
       windows(std::make_unique<WindowSurface>(theMachine, *this)) {}
 

@@ -43,7 +43,7 @@ public:
     CursorShape cursorAt(const platform::CGPoint& point) const;
     // Something stands before the windows there.
     bool isCovered(const platform::CGPoint& point) const;
-    const MenuBar& menuBar() const { return *bar; }
+    MenuBar& menuBar() const { return *bar; }
     void keyDown(const KeyStroke& stroke);
     void keyUp(const KeyStroke& stroke);
 

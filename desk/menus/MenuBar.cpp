@@ -1,11 +1,16 @@
 #include "desk/menus/MenuBar.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "desk/Machine.h"
 #include "desk/finder/FinderWords.h"
-#include "desk/menus/MenuBarView.h"
+#include "desk/menus/MenuLayer.h"
+#include "desk/processes/Processes.h"
+#include "desk/time/WallClock.h"
+#include "desk/windows/Displays.h"
 #include "desk/windows/WindowFrame.h"
+#include "desk/windows/WindowKeeper.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -15,72 +20,139 @@ using platform::CGPoint;
 using platform::CGRect;
 using platform::CGRectMake;
 
-constexpr double roomOnTheRight = 180;  // for clock and status items
+std::vector<std::string> titlesOf(const Processes& processes, const Process& frontmost) {
+    std::vector<std::string> titles = processes.keeperOf(frontmost.processIdentifier).menus();
+    titles.insert(titles.begin(), frontmost.name);
+    return titles;
+}
+
+// What stands furthest from the edges goes: titles first, the last of them first of all.
+bool dropOne(MenuBarContent& content) {
+    if (!content.titles.empty())
+        content.titles.pop_back();
+    else if (!content.items.empty())
+        content.items.pop_back();
+    else
+        return false;
+    return true;
+}
 
 }  // namespace
 
 views::LaidOutView MenuBar::shown(const CGRect& strip) const {
-    const Process* frontmost = machine.processes.frontmost();
     MenuBarContent content;
-    if (frontmost != nullptr) content.titles = menuBarMenus(machine, *frontmost);
-    content.clock = clockText(machine.clock.now());
-    if (isOpen() && openStrip == strip) content.open = openTitle;
-    while (true) {
-        views::LaidOutView bar(menuBarView(content, strip.height(), {machine.appearance.colorScheme.get()}), strip.size,
-                               machine.text);
-        const auto last = bar.frameOf(std::to_string(content.titles.size() - 1));
-        if (!last || last->maxX() <= strip.width() - roomOnTheRight) return bar;
-        content.titles.pop_back();
-    }
+    if (const Process* frontmost = processes.frontmost()) content.titles = titlesOf(processes, *frontmost);
+    for (const auto& item : added) content.items.push_back(item->image);
+    content.clock = clockText(clock.now());
+    if (isOpen() && pressed.strip == strip) content.open = pressed.id;
+    const auto view = [&] { return menuBarView(content, strip.height(), {appearance.colorScheme.get()}); };
+    while (views::idealSize(view(), text).width > strip.width() && dropOne(content)) {}
+    return {view(), strip.size, text};
+}
+
+std::vector<CGRect> MenuBar::strips() const {
+    std::vector<CGRect> all;
+    if (windows.isFullScreenSpace()) return all;
+    for (const DisplayOptions& options : displays.options())
+        if (options.menuBar > 0)
+            all.push_back(CGRectMake(options.frame.minX(), options.frame.maxY() - options.menuBar,
+                                     options.frame.width(), options.menuBar));
+    return all;
 }
 
 bool MenuBar::isOpen() const {
-    return openMenu != 0 && machine.menus.isOpen(openMenu);
+    return openMenu != 0 && menus.isOpen(openMenu);
 }
 
-std::optional<MenuBar::Place> MenuBar::titleAt(const CGPoint& point) const {
-    if (machine.windows.isFullScreenSpace()) return std::nullopt;
-    for (const DisplayOptions& options : machine.displays.options()) {
-        const CGRect strip = CGRectMake(options.frame.minX(), options.frame.maxY() - options.menuBar,
-                                        options.frame.width(), options.menuBar);
-        if (options.menuBar <= 0 || !platform::CGRectContainsPoint(strip, point)) continue;
-        const views::LaidOutView bar = shown(strip);
-        if (const std::string* title = bar.idAt(insideLaidOut(strip, point)))
-            return Place{strip, std::stoul(*title), onScreen(strip, *bar.frameOf(*title))};
+std::optional<MenuBar::Place> MenuBar::placeAt(const CGPoint& point) const {
+    for (const CGRect& strip : strips()) {
+        if (!platform::CGRectContainsPoint(strip, point)) continue;
+        if (const std::string* id = shown(strip).idAt(insideLaidOut(strip, point))) return Place{strip, *id};
     }
     return std::nullopt;
 }
 
+std::optional<CGRect> MenuBar::boxAt(const Place& place) const {
+    const auto box = shown(place.strip).frameOf(place.id);
+    return box ? std::optional(onScreen(place.strip, *box)) : std::nullopt;
+}
+
+std::optional<MenuBar::Place> MenuBar::placeOf(const BarItem& item) const {
+    const auto found = std::find_if(added.begin(), added.end(), [&](const auto& each) { return each.get() == &item; });
+    const std::string id = itemId(static_cast<std::size_t>(found - added.begin()));
+    std::vector<Place> places;
+    for (const CGRect& strip : strips()) {
+        const Place place{strip, id};
+        if (boxAt(place)) places.insert(place == pressed ? places.begin() : places.end(), place);
+    }
+    return places.empty() ? std::nullopt : std::optional(places.front());
+}
+
+std::optional<CGRect> MenuBar::frameOf(const BarItem& item) const {
+    const auto place = placeOf(item);
+    return place ? boxAt(*place) : std::nullopt;
+}
+
+const BarItem* MenuBar::itemAt(const Place& place) const {
+    for (std::size_t i = 0; i < added.size(); ++i)
+        if (place.id == itemId(i)) return added[i].get();
+    return nullptr;
+}
+
+void MenuBar::add(const std::shared_ptr<BarItem>& item) {
+    added.push_back(item);
+    windows.changed();
+}
+
+void MenuBar::remove(const BarItem& item) {
+    if (std::erase_if(added, [&](const auto& each) { return each.get() == &item; }) > 0) windows.changed();
+}
+
+void MenuBar::applicationEnded(std::int32_t owner) {
+    if (std::erase_if(added, [owner](const auto& each) { return each->owner == owner; }) > 0) windows.changed();
+}
+
 bool MenuBar::covers(const CGPoint& point) const {
-    if (machine.windows.isFullScreenSpace()) return false;
-    const auto& screens = machine.displays.screens();
-    return std::any_of(screens.begin(), screens.end(), [&](const platform::NSScreen& screen) {
-        return platform::CGRectContainsPoint(screen.frame, point) && point.y >= screen.visibleFrame.maxY();
-    });
+    const auto all = strips();
+    return std::any_of(all.begin(), all.end(), [&](const CGRect& each) { return CGRectContainsPoint(each, point); });
 }
 
 std::optional<std::int32_t> MenuBar::take(const platform::NSEvent& event) {
     if (platform::isKeyEvent(event.type) || !covers(event.locationInWindow)) return std::nullopt;
-    const auto place = titleAt(event.locationInWindow);
+    const auto place = placeAt(event.locationInWindow);
+    const BarItem* item = place ? itemAt(*place) : nullptr;
+    const std::int32_t owner = item == nullptr ? 0 : item->owner;
     if (event.type == platform::NSEventType::leftMouseDown && place) open(*place);
-    return 0;
+    return owner;
 }
 
 void MenuBar::mouseIsAt(const CGPoint& point) {
     if (!isOpen()) return;
-    const auto place = titleAt(point);
-    if (place && !(openStrip == place->strip && openTitle == place->title)) open(*place);
+    const auto place = placeAt(point);
+    if (place && !(pressed == *place)) open(*place);
 }
 
 void MenuBar::open(const Place& place) {
-    const Process* frontmost = machine.processes.frontmost();
-    if (frontmost == nullptr) return;
-    const std::vector<std::string> titles = menuBarMenus(machine, *frontmost);
-    if (place.title >= titles.size()) return;
-    auto items = menuBarItems(machine, *frontmost, place.title == 0 ? std::string() : titles[place.title]);
-    openStrip = place.strip;
-    openTitle = place.title;
-    openMenu = machine.menus.openBelow(frontmost->processIdentifier, place.box, std::move(items));
+    pressed = place;
+    const BarItem* item = itemAt(place);
+    if (item != nullptr) return item->pressed();
+    const Process* frontmost = processes.frontmost();
+    const auto box = boxAt(place);
+    if (frontmost == nullptr || !box) return;
+    const std::int32_t owner = frontmost->processIdentifier;
+    const std::vector<std::string> titles = titlesOf(processes, *frontmost);
+    for (std::size_t i = 0; i < titles.size(); ++i)
+        if (place.id == titleId(i))
+            openMenu = menus.openBelow(owner, *box,
+                                       processes.keeperOf(owner).menuItems(owner, i == 0 ? std::string() : titles[i]));
+}
+
+std::uint64_t MenuBar::openMenuOf(const BarItem& item, std::vector<platform::MenuItem> entries) {
+    const auto place = placeOf(item);
+    if (!place) entries.clear();
+    pressed = place.value_or(Place{});
+    openMenu = menus.openBelow(item.owner, place ? *boxAt(*place) : CGRect{}, std::move(entries));
+    return openMenu;
 }
 
 }  // namespace desk

@@ -44,25 +44,23 @@ CGRect MenuLayer::roomAround(const CGPoint& point) const {
 }
 
 std::uint64_t MenuLayer::openBelow(std::int32_t owner, const CGRect& anchor, std::vector<platform::MenuItem> items) {
-    MenuLayout layout(items, machine.text);
-    const CGRect frame = placeMenuBelow(anchor, layout.size(), roomAround({anchor.minX(), anchor.minY()}));
-    return open(owner, std::move(items), std::move(layout), frame, anchor);
+    return open(owner, std::move(items), anchor, [this, anchor](CGSize size) {
+        return placeMenuBelow(anchor, size, roomAround({anchor.minX(), anchor.minY()}));
+    });
 }
 
 std::uint64_t MenuLayer::openAt(std::int32_t owner, const CGPoint& point, std::vector<platform::MenuItem> items) {
-    MenuLayout layout(items, machine.text);
-    const CGRect frame = placeMenuAt(point, layout.size(), roomAround(point));
-    return open(owner, std::move(items), std::move(layout), frame,
-                CGRectMake(point.x - slop, point.y - slop, 2 * slop, 2 * slop));
+    return open(owner, std::move(items), CGRectMake(point.x - slop, point.y - slop, 2 * slop, 2 * slop),
+                [this, point](CGSize size) { return placeMenuAt(point, size, roomAround(point)); });
 }
 
-std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem> items, MenuLayout layout,
-                              const CGRect& frame, const CGRect& source) {
+std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem> items, const CGRect& source,
+                              Placing place) {
     closeMenu();
     ++lastNumber;
     if (items.empty()) return lastNumber;
-    tracked.emplace(
-        Tracked{lastNumber, owner, OpenMenu(std::move(items), std::move(layout), frame), source, std::nullopt});
+    OpenMenu menu = placed(std::move(items), place);
+    tracked.emplace(Tracked{lastNumber, owner, std::move(menu), std::move(place), source, std::nullopt});
     if (machine.input.isPressed()) {
         tracked->pressedAt = machine.input.mouseLocation();
         held = HeldPress{owner, {}, {}};
@@ -70,6 +68,22 @@ std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem
     }
     machine.windows.changed();
     return lastNumber;
+}
+
+OpenMenu MenuLayer::placed(std::vector<platform::MenuItem> items, const Placing& place) const {
+    MenuLayout layout(items, machine.text);
+    const CGRect frame = place(layout.size());
+    return {std::move(items), std::move(layout), frame};
+}
+
+void MenuLayer::update(std::uint64_t menu, std::vector<platform::MenuItem> items) {
+    if (!isOpen(menu)) return;
+    if (items.empty()) return closeMenu();
+    OpenMenu fresh = placed(std::move(items), tracked->place);
+    fresh.goOnFrom(tracked->menu);
+    // What the entries before held on to goes at the end.
+    const OpenMenu before = std::exchange(tracked->menu, std::move(fresh));
+    machine.windows.changed();
 }
 
 void MenuLayer::close(std::uint64_t menu) {

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -44,6 +45,8 @@ public:
     bool isOpen(std::uint64_t menu) const { return tracked && tracked->number == menu; }
     void close(std::uint64_t menu);
     void closeMenu();
+    // The open menu shows these from now on, from the same place; without any it closes.
+    void update(std::uint64_t menu, std::vector<platform::MenuItem> items);
     // Null when none is open.
     const OpenMenu* menu() const { return tracked ? &tracked->menu : nullptr; }
     // Scrolls the open menu so that the entry can be seen.
@@ -68,10 +71,13 @@ public:
     void applicationEnded(std::int32_t owner);
 
 private:
+    using Placing = std::function<platform::CGRect(platform::CGSize size)>;
+
     struct Tracked {
         std::uint64_t number;
         std::int32_t owner;
         OpenMenu menu;
+        Placing place;
         platform::CGRect source;                     // a release here is the end of the click that opened the menu
         std::optional<platform::CGPoint> pressedAt;  // while that click lasts
         std::string typed = {};                      // of an entry's title
@@ -84,8 +90,9 @@ private:
     };
     using Taker = std::optional<std::int32_t>;
 
-    std::uint64_t open(std::int32_t owner, std::vector<platform::MenuItem> items, MenuLayout layout,
-                       const platform::CGRect& frame, const platform::CGRect& source);
+    std::uint64_t open(std::int32_t owner, std::vector<platform::MenuItem> items, const platform::CGRect& source,
+                       Placing place);
+    OpenMenu placed(std::vector<platform::MenuItem> items, const Placing& place) const;
 
     Taker mouseDown(const platform::NSEvent& event);
     Taker mouseDragged(const platform::NSEvent& event);

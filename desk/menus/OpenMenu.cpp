@@ -22,6 +22,11 @@ std::optional<std::size_t> OpenMenu::rowAt(const CGPoint& point) const {
     return rows.rowAt(place.maxY() - point.y + offset);
 }
 
+void OpenMenu::goOnFrom(const OpenMenu& before) {
+    scrollBy(before.offset);
+    if (before.current && *before.current < entries.size()) highlight(before.current);
+}
+
 bool OpenMenu::highlight(std::optional<std::size_t> row) {
     if (row && !canChoose(*row)) row = std::nullopt;
     return std::exchange(current, row) != row;

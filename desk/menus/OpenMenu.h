@@ -31,6 +31,9 @@ public:
     // Empty outside the menu, on its padding and on the arrows at its ends.
     std::optional<std::size_t> rowAt(const platform::CGPoint& point) const;
 
+    // In the place of another one: scrolled as far as that was, with the same row highlighted if it can be chosen.
+    void goOnFrom(const OpenMenu& before);
+
     // Answer whether anything looks different now.
     bool highlight(std::optional<std::size_t> row);
     bool scrollBy(double distance);

@@ -1,6 +1,7 @@
 #include "desk/ports/ApplicationPorts.h"
 
 #include "desk/input/Input.h"
+#include "desk/menus/MenuBar.h"
 #include "desk/menus/MenuLayer.h"
 #include "desk/processes/Journal.h"
 #include "desk/processes/LaunchedApplication.h"
@@ -24,7 +25,7 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
                       application),
       windows(neighbours.windows, neighbours.input, application),
       keeper(application, neighbours.windows, neighbours.displays, neighbours.processes),
-      menus(neighbours.menus, neighbours.windows, application),
+      menus(neighbours.menus, neighbours.menuBar, neighbours.windows, application),
       images(neighbours.disk),
       files(neighbours.disk, neighbours.journal, application),
       defaults(neighbours.defaults[application.bundle().defaultsDomain()], application),
@@ -67,6 +68,7 @@ void ApplicationPorts::processEnded() {
         neighbours.input.windowOrderedOut(number);
     }
     neighbours.menus.applicationEnded(application.processIdentifier());
+    neighbours.menuBar.applicationEnded(application.processIdentifier());
     neighbours.processes.remove(application.processIdentifier());
 }
 

@@ -44,6 +44,7 @@ struct PortNeighbours {
     Permissions& permissions;
     Input& input;
     MenuLayer& menus;
+    MenuBar& menuBar;
     Finder& finder;
     FinderScripting& scripting;
     platform::Appearance& appearance;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desk/menus/MenuBar.h"
 #include "desk/menus/MenuLayer.h"
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/windows/WindowStack.h"
@@ -22,10 +23,36 @@ public:
     MenuHandlePort& operator=(const MenuHandlePort&) = delete;
 
     bool isOpen() const override { return layer.isOpen(number); }
+    void update(std::vector<platform::MenuItem> items) override { layer.update(number, std::move(items)); }
 
 private:
     MenuLayer& layer;
     const std::uint64_t number;
+};
+
+class StatusItemPort final : public platform::StatusItem {
+public:
+    StatusItemPort(MenuBar& theBar, MenuLayer& theMenus, LaunchedApplication& theApplication, BarItem theItem)
+        : bar(theBar),
+          menus(theMenus),
+          application(theApplication),
+          item(std::make_shared<BarItem>(std::move(theItem))) {
+        if (!application.isDead()) bar.add(item);
+    }
+    ~StatusItemPort() override { bar.remove(*item); }
+    StatusItemPort(const StatusItemPort&) = delete;
+    StatusItemPort& operator=(const StatusItemPort&) = delete;
+
+    std::unique_ptr<platform::MenuHandle> popUpMenu(std::vector<platform::MenuItem> items) override {
+        if (application.isDead()) items.clear();
+        return std::make_unique<MenuHandlePort>(menus, bar.openMenuOf(*item, std::move(items)));
+    }
+
+private:
+    MenuBar& bar;
+    MenuLayer& menus;
+    LaunchedApplication& application;
+    const std::shared_ptr<BarItem> item;
 };
 
 class PopoverHandlePort final : public platform::PopoverHandle {
@@ -72,6 +99,14 @@ std::unique_ptr<platform::MenuHandle> MenusPort::popUpAt(const platform::CGPoint
     if (application.isDead()) items.clear();
     const std::uint64_t number = menus.openAt(application.processIdentifier(), point, std::move(items));
     return std::make_unique<MenuHandlePort>(menus, number);
+}
+
+std::unique_ptr<platform::StatusItem> MenusPort::addStatusItem(const platform::NSImage& image,
+                                                               const std::string& accessibilityLabel,
+                                                               std::function<void()> pressed) {
+    BarItem item{application.processIdentifier(), image, accessibilityLabel, nullptr};
+    item.pressed = [this, pressed = std::move(pressed)] { application.loop().mainAsync(pressed); };
+    return std::make_unique<StatusItemPort>(menuBar, menus, application, std::move(item));
 }
 
 std::unique_ptr<platform::PopoverHandle> MenusPort::showPopover(platform::NSWindow& window, const CGRect& anchor,

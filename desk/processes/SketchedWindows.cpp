@@ -51,6 +51,30 @@ void SketchedWindows::setFrame(std::int64_t window, const platform::CGRect& fram
     windows.setFrame(window, frame);
 }
 
+std::vector<const ServerWindow*> SketchedWindows::windowsOf(std::int32_t process) const {
+    std::vector<const ServerWindow*> own = windows.onScreen();
+    std::erase_if(own, [process](const ServerWindow* window) { return window->owner != process; });
+    return own;
+}
+
+std::vector<platform::MenuItem> SketchedWindows::menuItems(std::int32_t process, const std::string& menu) {
+    const auto own = windowsOf(process);
+    if (menu == "File")
+        return {{"Close Window", "", !own.empty(), false, [this, process] {
+                     const auto left = windowsOf(process);
+                     if (!left.empty()) close(left.front()->number);
+                 }}};
+    std::vector<platform::MenuItem> items;
+    if (menu == "Window")
+        for (const ServerWindow* window : own)
+            items.push_back(
+                {window->title, "", true, false, [this, number = window->number] { windows.raise(number); }});
+    else
+        items.push_back({"Quit " + processes.find(process)->name, "", true, false,
+                         [this, process] { processes.end(process, Ending::asked); }});
+    return items;
+}
+
 void SketchedWindows::handle(std::int64_t /*window*/, const platform::NSEvent& event) {
     const Process* frontmost = processes.frontmost();
     if (event.type != platform::NSEventType::keyDown || frontmost == nullptr) return;

@@ -1,4 +1,4 @@
-// The windows of processes of which the desk shows nothing but windows: they have all three buttons and can be moved and resized; Command-W and Command-M mean what they do everywhere.
+// The windows of processes of which the desk shows nothing but windows: they have all three buttons and can be moved and resized; their menus and keys close, minimise and quit.
 // Their content takes presses and does nothing.
 #pragma once
 
@@ -10,6 +10,7 @@ class Activation;
 class Displays;
 class Processes;
 class WindowStack;
+struct ServerWindow;
 
 class SketchedWindows final : public WindowKeeper {
 public:
@@ -23,9 +24,13 @@ public:
     void restore(std::int64_t window) override;
     void zoom(std::int64_t window) override;
     void setFrame(std::int64_t window, const platform::CGRect& frame) override;
+    std::vector<std::string> menus() const override { return {"File", "Window"}; }
+    std::vector<platform::MenuItem> menuItems(std::int32_t process, const std::string& menu) override;
     void handle(std::int64_t window, const platform::NSEvent& event) override;
 
 private:
+    std::vector<const ServerWindow*> windowsOf(std::int32_t process) const;
+
     WindowStack& windows;
     Displays& displays;
     Processes& processes;

@@ -3,9 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "platform/Events.h"
 #include "platform/Geometry.h"
+#include "platform/Menus.h"
 #include "platform/WindowSettings.h"
 
 namespace desk {
@@ -39,6 +42,12 @@ public:
     virtual void zoom(std::int64_t window) = 0;
     virtual void pressZoomButton(std::int64_t window) { zoom(window); }
     virtual void setFrame(std::int64_t window, const platform::CGRect& frame) = 0;
+
+    // What the menu bar holds for the process while it is frontmost: its menus behind the one of its own name, and what one of them holds now. The own one goes by no name.
+    virtual std::vector<std::string> menus() const { return {}; }
+    virtual std::vector<platform::MenuItem> menuItems(std::int32_t /*process*/, const std::string& /*menu*/) {
+        return {};
+    }
 
     // Whether the content has something to press there, in the title bar; from the window's top left corner, y downward.
     virtual bool hasContentInTitleBar(std::int64_t /*window*/, const platform::CGPoint& /*point*/) const {

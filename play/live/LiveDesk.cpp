@@ -41,7 +41,6 @@ LiveDesk::LiveDesk(const LiveOptions& options)
         script = lines.get();
         player = std::make_unique<ScriptPlayer>(session, "script", std::move(lines), std::cout, std::cerr);
     }
-    session.showsAbout = options.showsAbout;
     window.show();
     if (!options.takesScript && !options.isBare) setScene();
 }

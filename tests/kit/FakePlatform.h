@@ -380,6 +380,10 @@ private:
                                                       std::vector<platform::MenuItem>) override {
             return nullptr;
         }
+        std::unique_ptr<platform::StatusItem> addStatusItem(const platform::NSImage&, const std::string&,
+                                                            std::function<void()>) override {
+            return nullptr;
+        }
         std::unique_ptr<platform::PopoverHandle> showPopover(platform::NSWindow&, const platform::CGRect&,
                                                              platform::RectEdge, std::unique_ptr<platform::ContentView>,
                                                              platform::CGSize, std::function<void()>) override {

@@ -1,4 +1,4 @@
-// A picture of a file: as large as it is, or stretched to the size it is offered.
+// A picture: as large as it is, or stretched to the size it is offered. A drawn one is the strokes it is made of, a template's in the colour of what is around it.
 // It counts as a shape in paint order, so text is always in front of it.
 #pragma once
 
@@ -28,6 +28,7 @@ public:
 
     std::optional<AccessibilityRole> role() const override { return AccessibilityRole::image; }
     const std::string* shownSymbol() const override { return &content->image.name(); }
+    const platform::NSImage* shownPicture() const override { return &content->image; }
 
 private:
     std::unique_ptr<Content> content;
@@ -48,6 +49,9 @@ public:
     }
     operator View() && { return View(PictureNode(std::move(content))); }  // NOLINT(google-explicit-constructor)
     View frame(const FrameArguments& arguments) && { return View(std::move(*this)).frame(arguments); }
+    View accessibilityLabel(std::string label) && {
+        return View(std::move(*this)).accessibilityLabel(std::move(label));
+    }
 
 private:
     PictureNode::Content content;
