@@ -63,7 +63,7 @@ const brindle::OrvaneApp* Session::orvane() const {
 const desk::BarItem* Session::statusItem() const {
     const auto* living = application();
     if (living == nullptr) return nullptr;
-    for (const auto& item : machine.input.menuBar().items())
+    for (const auto& item : machine.menuBar.items())
         if (item->owner == living->processIdentifier()) return item.get();
     return nullptr;
 }

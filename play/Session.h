@@ -9,7 +9,6 @@
 #include "desk/desktop/DesktopLayers.h"
 #include "desk/display/Compositor.h"
 #include "desk/display/QtTextSystem.h"
-#include "desk/menus/MenuBar.h"
 
 namespace play {
 

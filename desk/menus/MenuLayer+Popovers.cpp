@@ -1,7 +1,9 @@
 #include <algorithm>
 
-#include "desk/Machine.h"
 #include "desk/menus/MenuLayer.h"
+#include "desk/processes/Applications.h"
+#include "desk/processes/KeyboardFocus.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -17,19 +19,18 @@ constexpr double contentMargin = 20;
 
 void MenuLayer::show(const std::shared_ptr<OpenPopover>& popover) {
     shownPopovers.push_back(popover);
-    machine.windows.changed();
+    windows.changed();
 }
 
 void MenuLayer::hide(const OpenPopover& popover) {
-    if (std::erase_if(shownPopovers, [&](const auto& each) { return each.get() == &popover; }) > 0)
-        machine.windows.changed();
+    if (std::erase_if(shownPopovers, [&](const auto& each) { return each.get() == &popover; }) > 0) windows.changed();
 }
 
 std::vector<ShownPopover> MenuLayer::popovers() const {
     std::vector<ShownPopover> shown;
     for (const auto& popover : shownPopovers) {
-        const ServerWindow* window = machine.windows.find(popover->window);
-        if (window == nullptr || !machine.windows.isOnScreen(*window)) continue;
+        const ServerWindow* window = windows.find(popover->window);
+        if (window == nullptr || !windows.isOnScreen(*window)) continue;
         const CGRect anchor = CGRectOffset(popover->anchor, window->frame.minX(), window->frame.minY());
         shown.push_back({popover.get(), placePopover(anchor, popover->arrowEdge, popover->contentSize,
                                                      roomAround({anchor.midX(), anchor.midY()}))});
@@ -72,14 +73,14 @@ MenuLayer::Taker MenuLayer::pressPopovers(const NSEvent& event) {
 }
 
 bool MenuLayer::isOnAnchor(const ShownPopover& shown, const CGPoint& point) const {
-    const ServerWindow* window = machine.windows.windowAt(point);
+    const ServerWindow* window = windows.windowAt(point);
     if (window == nullptr || window->number != shown.popover->window) return false;
     return platform::CGRectContainsPoint(
         CGRectOffset(shown.popover->anchor, window->frame.minX(), window->frame.minY()), point);
 }
 
 bool MenuLayer::hasKeyboardFocus() const {
-    const ServerWindow* window = machine.windows.find(machine.input.keyWindow());
+    const ServerWindow* window = windows.find(keyboard.keyWindow());
     return window != nullptr && window->window != nullptr && window->window->firstResponder() != nullptr;
 }
 
@@ -89,9 +90,9 @@ void MenuLayer::dismiss(const OpenPopover& popover) {
                                     [&](const auto& each) { return each.get() == &popover; });
     if (found == shownPopovers.end()) return;
     const std::weak_ptr<OpenPopover> dismissed = *found;
-    LaunchedApplication* owner = machine.applications.find(popover.owner);
+    LaunchedApplication* owner = applications.find(popover.owner);
     shownPopovers.erase(found);
-    machine.windows.changed();
+    windows.changed();
     if (owner == nullptr) return;
     owner->loop().mainAsync([dismissed] {
         if (const auto kept = dismissed.lock(); kept && kept->onDismiss) kept->onDismiss();
@@ -99,7 +100,7 @@ void MenuLayer::dismiss(const OpenPopover& popover) {
 }
 
 void MenuLayer::sendToContent(const NSEvent& event) const {
-    LaunchedApplication* owner = machine.applications.find(held->owner);
+    LaunchedApplication* owner = applications.find(held->owner);
     if (owner == nullptr || held->content.expired()) return;
     NSEvent inContent = event;
     inContent.locationInWindow = {event.locationInWindow.x - held->origin.x, event.locationInWindow.y - held->origin.y};

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 
-#include "desk/Machine.h"
+#include "desk/processes/Applications.h"
+#include "desk/time/Scheduler.h"
+#include "desk/windows/Displays.h"
+#include "desk/windows/Pointer.h"
+#include "desk/windows/WindowStack.h"
 #include "views/text/KeyBindings.h"
 
 namespace desk {
@@ -31,7 +35,7 @@ constexpr platform::Duration typingPause = std::chrono::seconds(1);  // after it
 }  // namespace
 
 CGRect MenuLayer::roomAround(const CGPoint& point) const {
-    const std::vector<platform::NSScreen>& screens = machine.displays.screens();
+    const std::vector<platform::NSScreen>& screens = displays.screens();
     if (screens.empty()) return boundless;
     const auto distance = [&](const platform::NSScreen& screen) {
         const double x = std::clamp(point.x, screen.frame.minX(), screen.frame.maxX());
@@ -40,7 +44,7 @@ CGRect MenuLayer::roomAround(const CGPoint& point) const {
     };
     const auto nearest = std::min_element(screens.begin(), screens.end(),
                                           [&](const auto& a, const auto& b) { return distance(a) < distance(b); });
-    return machine.windows.isFullScreenSpace() ? nearest->frame : nearest->visibleFrame;
+    return windows.isFullScreenSpace() ? nearest->frame : nearest->visibleFrame;
 }
 
 std::uint64_t MenuLayer::openBelow(std::int32_t owner, const CGRect& anchor, std::vector<platform::MenuItem> items) {
@@ -61,17 +65,17 @@ std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem
     if (items.empty()) return lastNumber;
     OpenMenu menu = placed(std::move(items), place);
     tracked.emplace(Tracked{lastNumber, owner, std::move(menu), std::move(place), source, std::nullopt});
-    if (machine.input.isPressed()) {
-        tracked->pressedAt = machine.input.mouseLocation();
+    if (pointer.isPressed()) {
+        tracked->pressedAt = pointer.location;
         held = HeldPress{owner, {}, {}};
-        machine.input.handOver(*this);
+        pointer.handOver(*this);
     }
-    machine.windows.changed();
+    windows.changed();
     return lastNumber;
 }
 
 OpenMenu MenuLayer::placed(std::vector<platform::MenuItem> items, const Placing& place) const {
-    MenuLayout layout(items, machine.text);
+    MenuLayout layout(items, text);
     const CGRect frame = place(layout.size());
     return {std::move(items), std::move(layout), frame};
 }
@@ -83,7 +87,7 @@ void MenuLayer::update(std::uint64_t menu, std::vector<platform::MenuItem> items
     fresh.goOnFrom(tracked->menu);
     // What the entries before held on to goes at the end.
     const OpenMenu before = std::exchange(tracked->menu, std::move(fresh));
-    machine.windows.changed();
+    windows.changed();
 }
 
 void MenuLayer::close(std::uint64_t menu) {
@@ -95,11 +99,11 @@ void MenuLayer::closeMenu() {
     if (!tracked) return;
     stopScrolling();
     const Tracked closing = *std::exchange(tracked, std::nullopt);
-    machine.windows.changed();
+    windows.changed();
 }
 
 void MenuLayer::reveal(std::size_t row) {
-    if (tracked && tracked->menu.reveal(row)) machine.windows.changed();
+    if (tracked && tracked->menu.reveal(row)) windows.changed();
 }
 
 void MenuLayer::applicationEnded(std::int32_t owner) {
@@ -181,31 +185,31 @@ MenuLayer::Taker MenuLayer::mouseMoved(const NSEvent& event) {
 MenuLayer::Taker MenuLayer::scrollWheel(const NSEvent& event) {
     if (!tracked) return std::nullopt;
     const bool isInside = platform::CGRectContainsPoint(tracked->menu.frame(), event.locationInWindow);
-    if (isInside && tracked->menu.scrollBy(-event.scrollingDeltaY)) machine.windows.changed();
+    if (isInside && tracked->menu.scrollBy(-event.scrollingDeltaY)) windows.changed();
     hover(event.locationInWindow);
     return tracked->owner;
 }
 
 void MenuLayer::hover(const CGPoint& point) {
-    if (tracked->menu.highlight(tracked->menu.rowAt(point))) machine.windows.changed();
+    if (tracked->menu.highlight(tracked->menu.rowAt(point))) windows.changed();
     if (tracked->menu.scrollerAt(point) == 0)
         stopScrolling();
     else if (!scrolling)
-        scrolling = machine.scheduler.after(scrollPeriod, [this] { keepScrolling(); });
+        scrolling = scheduler.after(scrollPeriod, [this] { keepScrolling(); });
 }
 
 // While the mouse rests on the arrow at one of the menu's ends; the longer, the faster.
 void MenuLayer::keepScrolling() {
     scrolling.reset();
-    const CGPoint mouse = machine.input.mouseLocation();
+    const CGPoint mouse = pointer.location;
     scrollStep = std::clamp(scrollStep * scrollGrowth, firstScrollStep, mostScrollStep);
-    if (tracked->menu.scrollBy(tracked->menu.scrollerAt(mouse) * scrollStep)) machine.windows.changed();
+    if (tracked->menu.scrollBy(tracked->menu.scrollerAt(mouse) * scrollStep)) windows.changed();
     hover(mouse);
 }
 
 void MenuLayer::stopScrolling() {
     scrollStep = 0;
-    if (scrolling) machine.scheduler.cancel(*std::exchange(scrolling, std::nullopt));
+    if (scrolling) scheduler.cancel(*std::exchange(scrolling, std::nullopt));
 }
 
 MenuLayer::Taker MenuLayer::keyDown(const NSEvent& event) {
@@ -254,7 +258,7 @@ void MenuLayer::menuKey(const NSEvent& event) {
     for (const Entry& entry : entries) {
         if (entry.keyCode != event.keyCode) continue;
         entry.act(*this);
-        machine.windows.changed();
+        windows.changed();
         return;
     }
     typeToSelect(event);
@@ -263,22 +267,22 @@ void MenuLayer::menuKey(const NSEvent& event) {
 void MenuLayer::typeToSelect(const NSEvent& event) {
     const std::string typed = views::typedText(event);
     if (typed.empty()) return;
-    const platform::Date now = machine.scheduler.now();
+    const platform::Date now = scheduler.now();
     if (now - tracked->lastTyped >= typingPause) tracked->typed.clear();
     tracked->lastTyped = now;
     tracked->typed += typed;
-    if (tracked->menu.highlightTitle(tracked->typed)) machine.windows.changed();
+    if (tracked->menu.highlightTitle(tracked->typed)) windows.changed();
 }
 
 void MenuLayer::choose(std::size_t row) {
     const auto action = tracked->menu.items()[row].action;
-    LaunchedApplication* owner = machine.applications.find(tracked->owner);
+    LaunchedApplication* owner = applications.find(tracked->owner);
     closeMenu();
     if (!action) return;
     if (owner != nullptr)
         owner->loop().mainAsync(action);
     else
-        machine.scheduler.after({}, action);
+        scheduler.after({}, action);
 }
 
 }  // namespace desk

@@ -25,8 +25,12 @@
 
 namespace desk {
 
-class LaunchedApplication;
-class Machine;
+class Applications;
+class Displays;
+class KeyboardFocus;
+class Pointer;
+class Scheduler;
+class WindowStack;
 
 struct ShownPopover {
     const OpenPopover* popover;
@@ -35,7 +39,15 @@ struct ShownPopover {
 
 class MenuLayer final : public Surface {
 public:
-    explicit MenuLayer(Machine& theMachine) : machine(theMachine) {}
+    MenuLayer(Scheduler& theScheduler, Displays& theDisplays, WindowStack& theWindows, Applications& theApplications,
+              Pointer& thePointer, const KeyboardFocus& theKeyboard, platform::TextSystem& theText)
+        : scheduler(theScheduler),
+          displays(theDisplays),
+          windows(theWindows),
+          applications(theApplications),
+          pointer(thePointer),
+          keyboard(theKeyboard),
+          text(theText) {}
     MenuLayer(const MenuLayer&) = delete;
     MenuLayer& operator=(const MenuLayer&) = delete;
 
@@ -117,13 +129,19 @@ private:
     void dismiss(const OpenPopover& popover);
     void sendToContent(const platform::NSEvent& event) const;
 
-    Machine& machine;
+    Scheduler& scheduler;
+    Displays& displays;
+    WindowStack& windows;
+    Applications& applications;
+    Pointer& pointer;
+    const KeyboardFocus& keyboard;
+    platform::TextSystem& text;
     std::optional<Tracked> tracked;
     std::uint64_t lastNumber = 0;
     std::vector<std::shared_ptr<OpenPopover>> shownPopovers;
     std::optional<HeldPress> held;                                   // a press that was taken, until its release
     std::optional<std::pair<std::uint16_t, std::int32_t>> takenKey;  // until it goes up
-    std::optional<std::uint64_t> scrolling;                          // the machine's item that goes on scrolling
+    std::optional<std::uint64_t> scrolling;                          // the scheduler's item that goes on scrolling
     double scrollStep = 0;
 };
 

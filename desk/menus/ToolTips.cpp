@@ -3,8 +3,13 @@
 #include <algorithm>
 #include <utility>
 
-#include "desk/Machine.h"
+#include "desk/menus/MenuLayer.h"
+#include "desk/menus/Placement.h"
 #include "desk/menus/ToolTipView.h"
+#include "desk/time/Scheduler.h"
+#include "desk/windows/Pointer.h"
+#include "desk/windows/WindowStack.h"
+#include "platform/ContentView.h"
 #include "views/LaidOutView.h"
 
 namespace desk {
@@ -18,12 +23,22 @@ constexpr double belowPointer = 20;
 
 }  // namespace
 
+std::optional<std::int32_t> ToolTips::take(const platform::NSEvent& event) {
+    using platform::NSEventType;
+    const NSEventType type = event.type;
+    if (type == NSEventType::mouseMoved)
+        mouseMoved();
+    else if (platform::isMouseDown(type) || type == NSEventType::scrollWheel || type == NSEventType::keyDown)
+        dismiss();
+    return std::nullopt;
+}
+
 void ToolTips::mouseMoved() {
     const std::optional<Subject> present = subject();
     if (present && (told == present || dismissed == present)) return;
     dismissed.reset();
     hide();
-    waiting = machine.scheduler.after(restingTime, [this] { show(); });
+    waiting = scheduler.after(restingTime, [this] { show(); });
 }
 
 void ToolTips::dismiss() {
@@ -32,18 +47,18 @@ void ToolTips::dismiss() {
 }
 
 void ToolTips::hide() {
-    if (waiting) machine.scheduler.cancel(*std::exchange(waiting, std::nullopt));
-    if (std::exchange(told, std::nullopt)) machine.windows.changed();
+    if (waiting) scheduler.cancel(*std::exchange(waiting, std::nullopt));
+    if (std::exchange(told, std::nullopt)) windows.changed();
 }
 
 void ToolTips::show() {
     waiting.reset();
     told = subject();
     if (!told) return;
-    const platform::CGSize size = views::idealSize(toolTipView(told->text, {}), machine.text);
-    const CGPoint mouse = machine.input.mouseLocation();
-    place = placeMenuAt({mouse.x, mouse.y - belowPointer}, size, machine.menus.roomAround(mouse));
-    machine.windows.changed();
+    const platform::CGSize size = views::idealSize(toolTipView(told->text, {}), text);
+    const CGPoint mouse = pointer.location;
+    place = placeMenuAt({mouse.x, mouse.y - belowPointer}, size, menus.roomAround(mouse));
+    windows.changed();
 }
 
 std::optional<ToolTips::ShownToolTip> ToolTips::shown() const {
@@ -52,15 +67,17 @@ std::optional<ToolTips::ShownToolTip> ToolTips::shown() const {
 }
 
 std::optional<ToolTips::Subject> ToolTips::subject() const {
-    const CGPoint mouse = machine.input.mouseLocation();
-    if (machine.input.isCovered(mouse) || machine.input.isPressed()) return std::nullopt;
-    const ServerWindow* window = machine.windows.windowAt(mouse);
+    const CGPoint mouse = pointer.location;
+    const bool isCovered =
+        std::any_of(inFront.begin(), inFront.end(), [&](const Surface* each) { return each->covers(mouse); });
+    if (isCovered || pointer.isPressed()) return std::nullopt;
+    const ServerWindow* window = windows.windowAt(mouse);
     const platform::NSWindow* shownWindow = window == nullptr ? nullptr : window->window;
     if (shownWindow == nullptr || shownWindow->contentView() == nullptr) return std::nullopt;
-    std::string text =
+    std::string help =
         shownWindow->contentView()->toolTipAt({mouse.x - window->frame.minX(), mouse.y - window->frame.minY()});
-    if (text.empty()) return std::nullopt;
-    return Subject{window->number, std::move(text)};
+    if (help.empty()) return std::nullopt;
+    return Subject{window->number, std::move(help)};
 }
 
 }  // namespace desk

@@ -5,17 +5,31 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
-#include "platform/Drawing.h"
+#include "desk/windows/Surface.h"
 #include "platform/Geometry.h"
+#include "platform/Text.h"
 
 namespace desk {
 
-class Machine;
+class MenuLayer;
+class Pointer;
+class Scheduler;
+class WindowStack;
 
-class ToolTips {
+class ToolTips final : public Surface {
 public:
-    explicit ToolTips(Machine& theMachine) : machine(theMachine) {}
+    // The surfaces are those that stand before the windows.
+    ToolTips(Scheduler& theScheduler, WindowStack& theWindows, const Pointer& thePointer, const MenuLayer& theMenus,
+             std::vector<const Surface*> theSurfaces, platform::TextSystem& theText)
+        : scheduler(theScheduler),
+          windows(theWindows),
+          pointer(thePointer),
+          menus(theMenus),
+          inFront(std::move(theSurfaces)),
+          text(theText) {}
     ToolTips(const ToolTips&) = delete;
     ToolTips& operator=(const ToolTips&) = delete;
 
@@ -25,9 +39,9 @@ public:
     };
     std::optional<ShownToolTip> shown() const;
 
-    void mouseMoved();
-    // Who presses or types knows what it does: nothing more is said of it until the mouse has left it.
-    void dismiss();
+    bool covers(const platform::CGPoint& /*point*/) const override { return false; }
+    // It takes none. Who presses or types knows what it does: nothing more is said of it until the mouse has left it.
+    std::optional<std::int32_t> take(const platform::NSEvent& event) override;
 
 private:
     // What is under the mouse and has something to say.
@@ -38,11 +52,18 @@ private:
     };
 
     std::optional<Subject> subject() const;
+    void mouseMoved();
+    void dismiss();
     void show();
     void hide();
 
-    Machine& machine;
-    std::optional<std::uint64_t> waiting;  // the machine's item that shows it
+    Scheduler& scheduler;
+    WindowStack& windows;
+    const Pointer& pointer;
+    const MenuLayer& menus;
+    const std::vector<const Surface*> inFront;
+    platform::TextSystem& text;
+    std::optional<std::uint64_t> waiting;  // the scheduler's item that shows it
     std::optional<Subject> told;
     std::optional<Subject> dismissed;
     platform::CGRect place;
