@@ -1,8 +1,21 @@
 #include "desk/processes/LaunchedApplication.h"
 
+#include <cstdint>
 #include <utility>
 
 namespace desk {
+
+namespace {
+
+// Command-Q, in whatever application.
+bool isQuitKey(const platform::NSEvent& event) {
+    namespace Flags = platform::NSEventModifierFlags;
+    constexpr std::uint64_t meaningful = Flags::command | Flags::shift | Flags::option | Flags::control;
+    return event.type == platform::NSEventType::keyDown && (event.modifierFlags & meaningful) == Flags::command &&
+           event.charactersIgnoringModifiers == "q";
+}
+
+}  // namespace
 
 LaunchedApplication::LaunchedApplication(Scheduler& scheduler, Bundle theBundle, std::int32_t theProcessIdentifier,
                                          const BackendFactory& makeBackend)
@@ -62,7 +75,9 @@ platform::NSEvent LaunchedApplication::inItsWindow(platform::NSEvent event) {
 void LaunchedApplication::sendEvent(const platform::NSEvent& event) {
     const auto keepAlive = event.window == nullptr ? nullptr : event.window->weak_from_this().lock();
     const auto answered = backend->runLocalMonitors(event);
-    if (!dead && answered && answered->window != nullptr) answered->window->sendEvent(*answered);
+    if (dead || !answered) return;
+    if (isQuitKey(*answered)) return terminate();
+    if (answered->window != nullptr) answered->window->sendEvent(*answered);
 }
 
 void LaunchedApplication::offerToGlobalMonitors(const platform::NSEvent& event) {

@@ -70,7 +70,7 @@ private:
     friend class PanelHandle;
 
     void die();
-    // Local monitors first, then the window.
+    // Local monitors first, then the keys of the main menu, then the window.
     void sendEvent(const platform::NSEvent& event);
 
     Bundle launchedBundle;

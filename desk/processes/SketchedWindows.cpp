@@ -79,6 +79,7 @@ void SketchedWindows::handle(std::int64_t /*window*/, const platform::NSEvent& e
     const Process* frontmost = processes.frontmost();
     if (event.type != platform::NSEventType::keyDown || frontmost == nullptr) return;
     if ((event.modifierFlags & platform::NSEventModifierFlags::command) == 0) return;
+    if (event.charactersIgnoringModifiers == "q") return processes.end(frontmost->processIdentifier, Ending::asked);
     for (const SketchedKey& key : sketchedKeys)
         if (event.charactersIgnoringModifiers == key.characters)
             (this->*key.act)(activation.mainWindow(frontmost->processIdentifier));

@@ -1,13 +1,16 @@
-// Pictures from the Mac's disk, from the file to the pixel: read, scaled about their middle, cut to a rounded shape.
+// Pictures to the pixel: from the Mac's disk, read, scaled about their middle, cut to a rounded shape; and drawn by a handler.
 #include <gtest/gtest.h>
 
 #include <QBuffer>
 
 #include "desk/display/QtTextSystem.h"
 #include "desk/ports/ImagesPort.h"
+#include "platform/NSGraphicsContext.h"
 #include "tests/desk/display_Picture.h"
 #include "tests/kit/Desk.h"
+#include "tests/kit/FixedText.h"
 #include "tests/kit/ViewPlatform.h"
+#include "views/LaidOutView.h"
 #include "views/Views.h"
 
 namespace {
@@ -70,6 +73,38 @@ TEST(FileImages, AnswerNothingForWhatIsNoPicture) {
     EXPECT_FALSE(images.imageWithContentsOf("/Users/ana/none.png"));
     EXPECT_FALSE(images.imageWithContentsOf("/Users/ana"));
     EXPECT_FALSE(images.imageWithContentsOf(""));
+}
+
+// A line up the left side with round ends, a disc in the upper right corner.
+platform::NSImage lineAndDisc() {
+    platform::NSImage image({10, 10}, false, [](platform::NSGraphicsContext& context, const platform::CGRect&) {
+        platform::NSBezierPath line;
+        line.lineWidth = 2;
+        line.lineCapStyle = platform::LineCap::round;
+        line.move({2, 2});
+        line.line({2, 8});
+        context.stroke(line);
+        context.fill(platform::NSBezierPath::ovalIn(platform::CGRectMake(5, 6, 4, 4)));
+        return true;
+    });
+    image.setTemplate(true);
+    return image;
+}
+
+TEST(DrawnImages, StandUprightInTheColourAroundThemAtAnySize) {
+    kit::FixedText text;
+    const auto painted = [&](views::View view, double side, double scale) {
+        const views::LaidOutView laidOut(std::move(view).foregroundStyle(views::ColorRole::red), {side, side}, text);
+        return picture::paint(laidOut.drawing(), {side, side}, scale);
+    };
+    const QImage image = painted(views::Image(lineAndDisc()), 10, 2);
+    EXPECT_EQ(picture::inked(image), QRect(2, 0, 16, 18));
+    const QColor red(0xFF, 0x3B, 0x30);
+    for (const QPoint inside : {QPoint(3, 3), QPoint(3, 16), QPoint(14, 4)})
+        EXPECT_TRUE(picture::isNear(image.pixelColor(inside), red)) << inside.x() << ", " << inside.y();
+    for (const QPoint outside : {QPoint(14, 14), QPoint(10, 0), QPoint(8, 10)})
+        EXPECT_EQ(image.pixelColor(outside).alpha(), 0) << outside.x() << ", " << outside.y();
+    EXPECT_EQ(image, painted(views::View(views::Image(lineAndDisc()).resizable()), 20, 1));
 }
 
 }  // namespace

@@ -211,6 +211,25 @@ TEST_F(MenuTest, AMenuLongerThanTheScreenScrolls) {
     EXPECT_EQ(probe.log, Log{"50"});
 }
 
+TEST_F(MenuTest, TakesOtherEntriesWhileItIsOpen) {
+    openMenu();
+    desk.key("end");
+    menu->update({entry("One"), entry("Wider than what stood here before")});
+    EXPECT_EQ(highlighted(), "none") << "that row is gone";
+    EXPECT_EQ(open()->frame().origin, (CGPoint{100, 650}));
+    EXPECT_GT(open()->frame().width(), 200);
+    desk.key("down");
+    menu->update({entry("Uno"), entry("Dos")});
+    EXPECT_EQ(highlighted(), "Uno");
+    desk.key("return");
+    EXPECT_EQ(probe.log, Log{"Uno"});
+    menu->update({entry("Late")});
+    EXPECT_EQ(open(), nullptr);
+    openMenu();
+    menu->update({});
+    EXPECT_EQ(open(), nullptr);
+}
+
 TEST_F(MenuTest, ClosesWithItsHandleItsApplicationAndTheSpace) {
     openMenu();
     menu.reset();

@@ -1,7 +1,8 @@
-// Menus and popovers of declared views in a panel on the desk: what they show, and what becomes of them when the views change.
+// Menus and popovers of declared views on the desk, in a panel and in the menu bar: what they show, and what becomes of them when the views change.
 #include <gtest/gtest.h>
 
 #include "tests/desk/Probe.h"
+#include "views/MenuBarExtraHost.h"
 #include "views/Views.h"
 
 namespace {
@@ -177,6 +178,52 @@ TEST_F(HostMenusTest, APopoverDismissedAndPresentedInTheSameTurnComesUpAgain) {
     desk.release({900, 300});
     desk.click({900, 300});
     EXPECT_EQ(popovers(), Log{});
+}
+
+struct Extra {
+    Model* model;
+    Log* log;
+    ObservedObject<Model> observed;
+
+    void connect(Context& context) { context.connect(observed); }
+    View body() const {
+        return Group(Text(model->name.get()), Group(Button("Off", [] {}), Text("plain")).disabled(true),
+                     Button("Act", [this] { log->push_back("acted on " + model->name.get()); }))
+            .task([this] {
+                log->push_back("task");
+                model->name.set("two");
+                return Task();
+            });
+    }
+};
+
+TEST_F(HostMenusTest, AMenuBarExtraFollowsWhatItObservesWhileItsMenuIsOpen) {
+    const std::size_t before = model.observerCount();
+    const MenuBarExtraHost extra(
+        probe.platform, MenuBarExtra(
+                            [this] {
+                                return Extra{&model, &log, ObservedObject<Model>(model)};
+                            },
+                            View(Image(platform::NSImage("icon", {20, 20}, nullptr)).accessibilityLabel("Extra"))));
+    const auto item = desk.machine.menuBar.items().front();
+    EXPECT_EQ(item->label, "Extra");
+    const CGRect frame = desk.machine.menuBar.frameOf(*item).value();
+    EXPECT_EQ(model.observerCount(), before) << "nothing is evaluated before the menu opens";
+
+    desk.press({frame.midX(), frame.midY()});
+    ASSERT_NE(menu(), nullptr);
+    std::string shown;
+    for (const platform::MenuItem& entry : menu()->items()) shown += entry.title + (entry.enabled ? "* " : " ");
+    EXPECT_EQ(shown, "two Off plain Act* ");
+    EXPECT_EQ(log, Log{"task"});
+    model.name.set("three");
+    desk.machine.settle();
+    EXPECT_EQ(menu()->items().front().title, "three");
+    EXPECT_EQ(log, Log{"task"}) << "it is the same menu";
+    desk.dragTo(row(3));
+    desk.release(row(3));
+    EXPECT_EQ(log, (Log{"task", "acted on three"}));
+    EXPECT_EQ(model.observerCount(), before) << "it went with the menu";
 }
 
 }  // namespace
