@@ -89,6 +89,7 @@ void LaunchServices::openNow(const std::vector<std::string>& paths, const std::s
     const bool isThere = std::all_of(paths.begin(), paths.end(), [&](const auto& path) { return disk.exists(path); });
     if (!isThere || disk.kind(applicationPath) != platform::FileKind::directory) return;
     openedFiles.push_back({applicationPath, paths});
+    if (paths.empty()) return openApplication(applicationPath);
     const std::int32_t owner = runningAt(applicationPath);
     for (const std::string& path : paths) {
         const double shift = cascadeStep * static_cast<double>(nextNumber % cascadeLength);

@@ -21,6 +21,10 @@ void Permissions::setAutomation(AutomationPermission permission) {
     changed();
 }
 
+void Permissions::askForAccessibility(const std::string& application) {
+    accessibilityAsker = application;
+}
+
 void Permissions::beginWait(const std::string& application) {
     if (waiters++ == 0) asker = application;
 }

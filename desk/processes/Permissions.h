@@ -26,6 +26,8 @@ public:
 
     void setAccessibility(bool granted);
     void setAutomation(AutomationPermission permission);
+    // Asks the user to give an application Accessibility; nobody waits for the answer.
+    void askForAccessibility(const std::string& application);
 
     // Somebody waits for the user; the prompt is up while anybody does, in the name of the first, and goes when it is answered.
     void beginWait(const std::string& application);
@@ -36,6 +38,7 @@ public:
 
 private:
     std::optional<std::string> asker;
+    std::optional<std::string> accessibilityAsker;
     int waiters = 0;
 };
 
