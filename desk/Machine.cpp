@@ -26,10 +26,12 @@ Machine::Machine(platform::TextSystem& theText)
       finder(neighboursOfFinder()),
       scripting(finder, neighboursOfFinder()),
       applications(scheduler, processes, [this](LaunchedApplication& application) { return makePorts(application); }),
+      systemSettings(disk, applications, activation, permissions),
       start(startOfStories) {
     subscriptions.push_back(processes.frontmostChanged.subscribe([this] { frontmostHasChanged(); }));
     subscriptions.push_back(activation.keyboardTaken.subscribe([this] { input.makeKey(0); }));
     subscriptions.push_back(windows.spaceChanged.subscribe([this] { spaceHasChanged(); }));
+    launchServices.openSystemSettings = [this](const std::string& address) { systemSettings.open(address); };
     finder.launch();
     processes.activate(finder.pid());
 }

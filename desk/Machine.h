@@ -24,6 +24,7 @@
 #include "desk/processes/Processes.h"
 #include "desk/processes/SketchedWindows.h"
 #include "desk/processes/WindowJournal.h"
+#include "desk/settings/SystemSettings.h"
 #include "desk/time/Scheduler.h"
 #include "desk/time/WallClock.h"
 #include "desk/windows/Displays.h"
@@ -65,6 +66,7 @@ public:
     std::map<std::string, platform::Dictionary> defaults;
     std::optional<std::string> clipboard;
     Applications applications;
+    SystemSettings systemSettings;
 
     // From now on its time is the host's; see Scheduler.
     void useRealTime(RealTime& realTime);

@@ -56,9 +56,7 @@ void WorkspacePort::openApplicationAtURL(const std::string& applicationPath) {
 }
 
 bool WorkspacePort::openURL(const std::string& url) {
-    if (application.isDead() || faults.urlsFail) return false;
-    launchServices.openAddress(url);
-    return true;
+    return !application.isDead() && !faults.urlsFail && launchServices.openAddress(url);
 }
 
 void WorkspacePort::notify(platform::WorkspaceNotification notification) const {

@@ -19,6 +19,8 @@ namespace {
 constexpr platform::CGRect frameOfOtherWindow{{220, 140}, {900, 600}};
 constexpr platform::CGRect frameOfOpenedWindow{{300, 260}, {640, 400}};
 
+constexpr std::string_view systemSettingsScheme = "x-apple.systempreferences:";
+
 constexpr double cascadeStep = 24;
 constexpr std::int64_t cascadeLength = 8;
 
@@ -103,11 +105,21 @@ void LaunchServices::openDocuments(const std::vector<std::string>& paths) {
     if (const auto editor = knownEditor(disk)) openFiles(paths, *editor);
 }
 
+bool LaunchServices::openAddress(const std::string& url) {
+    if (url.starts_with(systemSettingsScheme)) {
+        if (disk.kind(systemSettingsPath) != platform::FileKind::directory) return false;
+        scheduler.after({}, [this, url] { openSystemSettings(url); });
+    }
+    openedFiles.push_back({"", {url}});
+    return true;
+}
+
 void LaunchServices::openApplication(const std::string& applicationPath) {
     const auto& all = processes.running();
     const bool runs = std::any_of(all.begin(), all.end(),
                                   [&](const Process& process) { return process.bundlePath == applicationPath; });
     if (!runs && disk.kind(applicationPath) != platform::FileKind::directory) return;
+    if (applicationPath == systemSettingsPath) return openSystemSettings("");
     if (!runs && startProgram && startProgram(applicationPath)) return;
     const std::int32_t owner = runningAt(applicationPath);
     const Process& process = *processes.find(owner);

@@ -45,8 +45,8 @@ public:
     void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
     // Files with the application that documents belong to; nothing happens without one.
     void openDocuments(const std::vector<std::string>& paths);
-    // An address of the network. Nothing comes to the front: what would show it isn't there.
-    void openAddress(const std::string& url) { openedFiles.push_back({"", {url}}); }
+    // An address of System Settings opens that, later in this instant. Of the network, nothing comes to the front: what would show it isn't there. False when nothing takes it.
+    bool openAddress(const std::string& url);
     // The application at that path, as from the Dock: it is started if it doesn't run, has a window, and comes to the front with all it has.
     void openApplication(const std::string& applicationPath);
 
@@ -55,6 +55,8 @@ public:
 
     // Set by who has programs to run: starts the one of the bundle at that path; false leaves it to be sketched.
     std::function<bool(const std::string& bundlePath)> startProgram;
+    // Set by who has System Settings: opens it, at the pane that an address names.
+    std::function<void(const std::string& address)> openSystemSettings;
 
 private:
     void openNow(const std::vector<std::string>& paths, const std::string& applicationPath);
