@@ -27,6 +27,7 @@
 
 namespace desk {
 
+class Alerts;
 class Disk;
 class Journal;
 class WallClock;
@@ -42,7 +43,9 @@ struct PortNeighbours {
     LaunchServices& launchServices;
     Faults& faults;
     Permissions& permissions;
-    Input& input;
+    Pointer& pointer;
+    KeyboardFocus& keyboard;
+    Alerts& alerts;
     MenuLayer& menus;
     Finder& finder;
     FinderScripting& scripting;

@@ -56,7 +56,9 @@ void WorkspacePort::openApplicationAtURL(const std::string& applicationPath) {
 }
 
 bool WorkspacePort::openURL(const std::string& url) {
-    return !application.isDead() && !faults.urlsFail && launchServices.openAddress(url);
+    if (application.isDead() || faults.urlsFail) return false;
+    launchServices.openAddress(url);
+    return true;
 }
 
 void WorkspacePort::notify(platform::WorkspaceNotification notification) const {

@@ -9,6 +9,7 @@
 #include "desk/processes/KnownApplications.h"
 #include "desk/processes/Processes.h"
 #include "desk/time/Scheduler.h"
+#include "desk/windows/WindowKeeper.h"
 #include "desk/windows/WindowStack.h"
 #include "platform/FileURL.h"
 
@@ -18,8 +19,6 @@ namespace {
 
 constexpr platform::CGRect frameOfOtherWindow{{220, 140}, {900, 600}};
 constexpr platform::CGRect frameOfOpenedWindow{{300, 260}, {640, 400}};
-
-constexpr std::string_view systemSettingsScheme = "x-apple.systempreferences:";
 
 constexpr double cascadeStep = 24;
 constexpr std::int64_t cascadeLength = 8;
@@ -105,27 +104,34 @@ void LaunchServices::openDocuments(const std::vector<std::string>& paths) {
     if (const auto editor = knownEditor(disk)) openFiles(paths, *editor);
 }
 
-bool LaunchServices::openAddress(const std::string& url) {
-    if (url.starts_with(systemSettingsScheme)) {
-        if (disk.kind(systemSettingsPath) != platform::FileKind::directory) return false;
-        scheduler.after({}, [this, url] { openSystemSettings(url); });
-    }
+void LaunchServices::openAddress(const std::string& url) {
     openedFiles.push_back({"", {url}});
-    return true;
+    for (const auto& [beginning, open] : addressHandlers)
+        if (url.starts_with(beginning)) scheduler.after({}, [open = open, url] { open(url); });
 }
 
 void LaunchServices::openApplication(const std::string& applicationPath) {
-    const auto& all = processes.running();
-    const bool runs = std::any_of(all.begin(), all.end(),
-                                  [&](const Process& process) { return process.bundlePath == applicationPath; });
-    if (!runs && disk.kind(applicationPath) != platform::FileKind::directory) return;
-    if (applicationPath == systemSettingsPath) return openSystemSettings("");
-    if (!runs && startProgram && startProgram(applicationPath)) return;
+    if (!runs(applicationPath)) {
+        const auto own = ownApplications.find(applicationPath);
+        if (own != ownApplications.end())
+            own->second();
+        else if (disk.kind(applicationPath) != platform::FileKind::directory ||
+                 (startProgram && startProgram(applicationPath)))
+            return;
+    }
     const std::int32_t owner = runningAt(applicationPath);
     const Process& process = *processes.find(owner);
-    if (process.keeper == nullptr && !hasWindow(owner))
+    WindowKeeper* keeper = process.keeper;
+    if (keeper == nullptr && !hasWindow(owner))
         addWindow(owner, process.name, frameOfOtherWindow, platform::NSWindowOrderingMode::above);
     activation.activate(owner, true);
+    if (keeper != nullptr) keeper->reopen();
+}
+
+bool LaunchServices::runs(const std::string& bundlePath) const {
+    const auto& all = processes.running();
+    return std::any_of(all.begin(), all.end(),
+                       [&](const Process& process) { return process.bundlePath == bundlePath; });
 }
 
 bool LaunchServices::hasWindow(std::int32_t processIdentifier) const {

@@ -2,17 +2,22 @@
 
 #include <utility>
 
+#include "desk/processes/Alerts.h"
+
 namespace desk {
 
 namespace {
 
 constexpr const char* dontAllow = "Don't Allow";
 constexpr const char* allow = "OK";
+constexpr const char* deny = "Deny";
+constexpr const char* openSettings = "Open System Settings";
 
 }  // namespace
 
 void Permissions::setAccessibility(bool granted) {
     accessibility = granted;
+    if (granted) alerts.withdraw(std::exchange(accessibilityPrompt, 0));
     changed();
 }
 
@@ -22,31 +27,39 @@ void Permissions::setAutomation(AutomationPermission permission) {
 }
 
 void Permissions::askForAccessibility(const std::string& application) {
-    accessibilityAsker = application;
+    if (accessibilityPrompt != 0) return;
+    Alert alert;
+    alert.source = "system";
+    alert.icon = "System Settings";
+    alert.message = "“" + application + "” would like to control this computer using accessibility features.";
+    alert.informative = "Grant access to this application in Accessibility settings, located in System Settings.";
+    alert.buttons = {deny, openSettings};
+    alert.defaultButton = openSettings;
+    alert.cancelButton = deny;
+    accessibilityPrompt = alerts.show(std::move(alert), [this](const std::string& button) {
+        accessibilityPrompt = 0;
+        if (button == openSettings) accessibilitySettingsWanted();
+    });
 }
 
 void Permissions::beginWait(const std::string& application) {
-    if (waiters++ == 0) asker = application;
+    if (waiters++ > 0) return;
+    Alert alert;
+    alert.source = "system";
+    alert.icon = "Finder";
+    alert.message = "“" + application +
+                    "” wants access to control “Finder”. Allowing control will provide access to documents and data in "
+                    "“Finder”, and to perform actions within that app.";
+    alert.buttons = {dontAllow, allow};
+    alert.defaultButton = allow;
+    alert.cancelButton = dontAllow;
+    prompt = alerts.show(std::move(alert), [this](const std::string& button) {
+        setAutomation(button == allow ? AutomationPermission::allowed : AutomationPermission::denied);
+    });
 }
 
 void Permissions::endWait() {
-    if (--waiters == 0) asker.reset();
-}
-
-std::optional<SystemAlert> Permissions::prompt() const {
-    if (!asker) return std::nullopt;
-    return SystemAlert{"“" + *asker +
-                           "” wants access to control “Finder”. Allowing control will provide access to documents and "
-                           "data in “Finder”, and to perform actions within that app.",
-                       "",
-                       {dontAllow, allow}};
-}
-
-bool Permissions::pressPromptButton(const std::string& label) {
-    if (!asker || (label != dontAllow && label != allow)) return false;
-    asker.reset();
-    setAutomation(label == allow ? AutomationPermission::allowed : AutomationPermission::denied);
-    return true;
+    if (--waiters == 0) alerts.withdraw(prompt);
 }
 
 }  // namespace desk

@@ -2,43 +2,40 @@
 // a system prompt and its sender waits for the answer; the machine goes on.
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <string>
-#include <vector>
 
-#include "platform/Published.h"
+#include "platform/Signal.h"
 
 namespace desk {
 
-enum class AutomationPermission { allowed, denied, ask };
+class Alerts;
 
-struct SystemAlert {
-    std::string message;
-    std::string informative;
-    std::vector<std::string> buttons;
-};
+enum class AutomationPermission { allowed, denied, ask };
 
 class Permissions {
 public:
+    explicit Permissions(Alerts& theAlerts) : alerts(theAlerts) {}
+
     bool accessibility = true;
     AutomationPermission automation = AutomationPermission::allowed;
     platform::Signal<> changed;
 
     void setAccessibility(bool granted);
     void setAutomation(AutomationPermission permission);
-    // Asks the user to give an application Accessibility; nobody waits for the answer.
+    // Puts up the system's prompt for an application, unless it is up already; nobody waits. It only leads to System Settings, and goes when the permission is given.
     void askForAccessibility(const std::string& application);
+    // The user wants to see where Accessibility is given.
+    platform::Signal<> accessibilitySettingsWanted;
 
-    // Somebody waits for the user; the prompt is up while anybody does, in the name of the first, and goes when it is answered.
+    // Somebody waits for the user; the prompt is up while anybody does, in the name of the first. Answering it sets `automation` and wakes who waits.
     void beginWait(const std::string& application);
     void endWait();
-    std::optional<SystemAlert> prompt() const;
-    // By label; answering it sets `automation` and wakes who waits. False when there is no such button.
-    bool pressPromptButton(const std::string& label);
 
 private:
-    std::optional<std::string> asker;
-    std::optional<std::string> accessibilityAsker;
+    Alerts& alerts;
+    std::uint64_t prompt = 0;
+    std::uint64_t accessibilityPrompt = 0;
     int waiters = 0;
 };
 

@@ -24,7 +24,7 @@ public:
 private:
     platform::NSApplicationDelegate& delegate() override { return *this; }
     void applicationWillFinishLaunching() override {}
-    void applicationDidFinishLaunching() override {}
+    void applicationDidFinishLaunching() override { show(std::nullopt); }
     platform::NSApplicationTerminateReply applicationShouldTerminate() override {
         return platform::NSApplicationTerminateReply::terminateNow;
     }

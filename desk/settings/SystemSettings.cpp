@@ -4,9 +4,10 @@
 #include <string_view>
 #include <utility>
 
-#include "desk/processes/Activation.h"
 #include "desk/processes/Applications.h"
 #include "desk/processes/KnownApplications.h"
+#include "desk/processes/LaunchServices.h"
+#include "desk/processes/Permissions.h"
 #include "desk/settings/SettingsProgram.h"
 
 namespace desk {
@@ -28,18 +29,30 @@ SettingsProgram& programIn(const LaunchedApplication& application) {
 
 }  // namespace
 
-void SystemSettings::open(const std::string& address) {
+SystemSettings::SystemSettings(Disk& theDisk, Applications& theApplications, LaunchServices& theLaunchServices,
+                               Permissions& thePermissions)
+    : disk(theDisk),
+      applications(theApplications),
+      launchServices(theLaunchServices),
+      permissions(thePermissions),
+      subscription(permissions.accessibilitySettingsWanted.subscribe([this] { open(anchors[0].first); })) {
+    launchServices.addOwnApplication(systemSettingsPath, [this] { start(); });
+    launchServices.addAddressHandler("x-apple.systempreferences:", [this](const std::string& url) { open(url); });
+}
+
+void SystemSettings::start() {
+    const Bundle bundle = bundleAt(disk, systemSettingsPath, {{"CFBundleIdentifier", "com.apple.systempreferences"}});
+    LaunchedApplication& started = applications.launch(bundle, [this](platform::Platform& platform) {
+        return std::make_unique<SettingsProgram>(platform, permissions);
+    });
+    process = started.processIdentifier();
+}
+
+void SystemSettings::open(std::string_view address) {
+    launchServices.openApplication(systemSettingsPath);
     LaunchedApplication* running = applications.find(process);
-    if (running == nullptr) {
-        const Bundle bundle =
-            bundleAt(disk, systemSettingsPath, {{"CFBundleIdentifier", "com.apple.systempreferences"}});
-        running = &applications.launch(bundle, [this](platform::Platform& platform) {
-            return std::make_unique<SettingsProgram>(platform, permissions);
-        });
-        process = running->processIdentifier();
-    }
-    running->loop().mainAsync([running, pane = paneOf(address)] { programIn(*running).show(pane); });
-    activation.activate(process, true);
+    if (running != nullptr)
+        running->loop().mainAsync([running, pane = paneOf(address)] { programIn(*running).show(pane); });
 }
 
 const SettingsProgram* SystemSettings::program() const {

@@ -2,33 +2,38 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <string_view>
+
+#include "platform/Token.h"
 
 namespace desk {
 
-class Activation;
 class Applications;
 class Disk;
+class LaunchServices;
 class Permissions;
 class SettingsProgram;
 
 class SystemSettings {
 public:
-    SystemSettings(Disk& theDisk, Applications& theApplications, Activation& theActivation, Permissions& thePermissions)
-        : disk(theDisk), applications(theApplications), activation(theActivation), permissions(thePermissions) {}
+    SystemSettings(Disk& theDisk, Applications& theApplications, LaunchServices& theLaunchServices,
+                   Permissions& thePermissions);
 
-    // In front, started if it doesn't run. The pane is the one that the address ends with; without one that is known, the pane stays.
-    void open(const std::string& address);
     // Null while it doesn't run.
     const SettingsProgram* program() const;
     std::int32_t processIdentifier() const { return process; }
 
 private:
+    void start();
+    // In front, started if it doesn't run. The pane is the one that the address ends with; if none is known by it, the pane stays.
+    void open(std::string_view address);
+
     Disk& disk;
     Applications& applications;
-    Activation& activation;
+    LaunchServices& launchServices;
     Permissions& permissions;
     std::int32_t process = 0;  // the one that was started last
+    platform::Token subscription;
 };
 
 }  // namespace desk
