@@ -28,6 +28,7 @@
 #include "desk/processes/Processes.h"
 #include "desk/processes/SketchedWindows.h"
 #include "desk/processes/WindowJournal.h"
+#include "desk/settings/SystemSettings.h"
 #include "desk/system/AlertSurface.h"
 #include "desk/system/Dock.h"
 #include "desk/time/Scheduler.h"
@@ -71,6 +72,7 @@ public:
     // Stored user defaults by domain: a bundle identifier, or the path of a bundle without one. They outlive processes.
     std::map<std::string, platform::Dictionary> defaults;
     std::optional<std::string> clipboard;
+    SystemSettings systemSettings;
 
     // What stands on the screens, front to back.
     AlertSurface alertSurface;

@@ -168,6 +168,12 @@ QJsonArray opened(const desk::Machine& machine) {
     });
 }
 
+QJsonObject permissions(const desk::Machine& machine) {
+    constexpr const char* automation[] = {"allowed", "denied", "ask"};
+    return {{"accessibility", machine.permissions.accessibility},
+            {"automation", automation[static_cast<int>(machine.permissions.automation)]}};
+}
+
 QJsonObject counts(Session& session) {
     brindle::FinderObserver::Counts observed;
     if (const auto* orvane = session.orvane()) observed = orvane->appDelegate.finderObserver().counts();
@@ -230,6 +236,8 @@ QJsonObject stateOf(Session& session) {
             {"alert", alert(machine)},
             {"windows", windowsOf(session)},
             {"statusItem", statusItem(session)},
+            {"systemSettings", systemSettingsOf(machine)},
+            {"permissions", permissions(machine)},
             {"clipboard", jsonText(machine.clipboard)},
             {"opened", opened(machine)},
             {"defaults", plainValue(session.defaults())},

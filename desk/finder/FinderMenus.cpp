@@ -12,7 +12,7 @@ namespace {
 
 using platform::MenuItem;
 
-constexpr const char* windowMenu = "Window";
+constexpr const char* folderWindowsMenu = "Window";
 
 MenuItem separator() {
     MenuItem item;
@@ -21,7 +21,7 @@ MenuItem separator() {
 }
 
 // Wherever it is: minimised, on another space.
-void show(Finder& finder, WindowStack& windows, std::int64_t number) {
+void showFolderWindow(Finder& finder, WindowStack& windows, std::int64_t number) {
     finder.restore(number);
     if (const ServerWindow* shown = windows.find(number)) windows.switchToSpace(shown->space);
     finder.raise(number);
@@ -33,7 +33,7 @@ void addFolderWindows(Finder& finder, WindowStack& windows, std::vector<MenuItem
         if (window->kind != FinderWindowKind::folder) continue;
         if (std::exchange(isFirst, false)) items.push_back(separator());
         items.push_back({window->name, "", true, false,
-                         [&finder, &windows, number = window->number] { show(finder, windows, number); }});
+                         [&finder, &windows, number = window->number] { showFolderWindow(finder, windows, number); }});
     }
 }
 
@@ -55,7 +55,7 @@ std::vector<MenuItem> finderMenuItems(Finder& finder, WindowStack& windows, cons
                              if (command.isPossible(finder)) command.act(finder);
                          }});
     }
-    if (menu == windowMenu) addFolderWindows(finder, windows, items);
+    if (menu == folderWindowsMenu) addFolderWindows(finder, windows, items);
     return items;
 }
 

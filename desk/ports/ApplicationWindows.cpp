@@ -4,6 +4,7 @@
 
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Processes.h"
+#include "desk/processes/WindowMenus.h"
 #include "desk/windows/Displays.h"
 #include "desk/windows/WindowStack.h"
 
@@ -37,6 +38,17 @@ void ApplicationWindows::makeKey(std::int64_t window) {
     post(window, [](NSWindow& shown) { shown.makeKeyWindow(); });
 }
 
+// Without a window to be seen, one that is minimised comes back.
+void ApplicationWindows::reopen() {
+    std::int64_t minimized = 0;
+    for (const ServerWindow* window : stack.all()) {
+        if (window->owner != application.processIdentifier()) continue;
+        if (stack.isOnScreen(*window)) return;
+        if (window->minimized) minimized = window->number;
+    }
+    if (minimized != 0) restore(minimized);
+}
+
 void ApplicationWindows::close(std::int64_t window) {
     post(window, [](NSWindow& shown) { shown.performClose(); });
 }
@@ -56,6 +68,20 @@ void ApplicationWindows::zoom(std::int64_t window) {
 
 void ApplicationWindows::setFrame(std::int64_t window, const platform::CGRect& frame) {
     post(window, [frame](NSWindow& shown) { shown.setFrame(frame, true); });
+}
+
+bool ApplicationWindows::isAgent() const {
+    const Process* process = processes.find(application.processIdentifier());
+    return process == nullptr || process->policy != platform::NSApplicationActivationPolicy::regular;
+}
+
+std::vector<std::string> ApplicationWindows::menus() const {
+    return isAgent() ? std::vector<std::string>() : windowMenus();
+}
+
+std::vector<platform::MenuItem> ApplicationWindows::menuItems(std::int32_t process, const std::string& menu) {
+    if (isAgent()) return {};
+    return windowMenuItems(processes, stack, process, menu);
 }
 
 void ApplicationWindows::handle(std::int64_t window, const platform::NSEvent& event) {

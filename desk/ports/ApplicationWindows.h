@@ -21,14 +21,19 @@ public:
     WindowTraits traits(std::int64_t window) const override;
     void bringForward(std::int64_t window) override;
     void makeKey(std::int64_t window) override;
+    void reopen() override;
     void close(std::int64_t window) override;
     void minimize(std::int64_t window) override;
     void restore(std::int64_t window) override;
     void zoom(std::int64_t window) override;
     void setFrame(std::int64_t window, const platform::CGRect& frame) override;
+    // An agent has none.
+    std::vector<std::string> menus() const override;
+    std::vector<platform::MenuItem> menuItems(std::int32_t process, const std::string& menu) override;
     void handle(std::int64_t window, const platform::NSEvent& event) override;
 
 private:
+    bool isAgent() const;
     // In a turn of the application, if the window is there still.
     template <typename Act>
     void post(std::int64_t window, Act act);

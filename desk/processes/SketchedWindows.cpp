@@ -2,6 +2,7 @@
 
 #include "desk/processes/Activation.h"
 #include "desk/processes/Processes.h"
+#include "desk/processes/WindowMenus.h"
 #include "desk/windows/Displays.h"
 #include "desk/windows/WindowFrame.h"
 #include "desk/windows/WindowStack.h"
@@ -51,28 +52,12 @@ void SketchedWindows::setFrame(std::int64_t window, const platform::CGRect& fram
     windows.setFrame(window, frame);
 }
 
-std::vector<const ServerWindow*> SketchedWindows::windowsOf(std::int32_t process) const {
-    std::vector<const ServerWindow*> own = windows.onScreen();
-    std::erase_if(own, [process](const ServerWindow* window) { return window->owner != process; });
-    return own;
+std::vector<std::string> SketchedWindows::menus() const {
+    return windowMenus();
 }
 
 std::vector<platform::MenuItem> SketchedWindows::menuItems(std::int32_t process, const std::string& menu) {
-    const auto own = windowsOf(process);
-    if (menu == "File")
-        return {{"Close Window", "", !own.empty(), false, [this, process] {
-                     const auto left = windowsOf(process);
-                     if (!left.empty()) close(left.front()->number);
-                 }}};
-    std::vector<platform::MenuItem> items;
-    if (menu == "Window")
-        for (const ServerWindow* window : own)
-            items.push_back(
-                {window->title, "", true, false, [this, number = window->number] { windows.raise(number); }});
-    else
-        items.push_back({"Quit " + processes.find(process)->name, "", true, false,
-                         [this, process] { processes.end(process, Ending::asked); }});
-    return items;
+    return windowMenuItems(processes, windows, process, menu);
 }
 
 void SketchedWindows::handle(std::int64_t /*window*/, const platform::NSEvent& event) {

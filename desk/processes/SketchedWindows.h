@@ -10,7 +10,6 @@ class Activation;
 class Displays;
 class Processes;
 class WindowStack;
-struct ServerWindow;
 
 class SketchedWindows final : public WindowKeeper {
 public:
@@ -24,13 +23,11 @@ public:
     void restore(std::int64_t window) override;
     void zoom(std::int64_t window) override;
     void setFrame(std::int64_t window, const platform::CGRect& frame) override;
-    std::vector<std::string> menus() const override { return {"File", "Window"}; }
+    std::vector<std::string> menus() const override;
     std::vector<platform::MenuItem> menuItems(std::int32_t process, const std::string& menu) override;
     void handle(std::int64_t window, const platform::NSEvent& event) override;
 
 private:
-    std::vector<const ServerWindow*> windowsOf(std::int32_t process) const;
-
     WindowStack& windows;
     Displays& displays;
     Processes& processes;
