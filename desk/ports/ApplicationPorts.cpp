@@ -31,6 +31,7 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
       bundle(application.bundle(), neighbours.disk),
       pasteboard(neighbours.clipboard),
       uuids(application.processIdentifier()),
+      updaters(neighbours.journal, application),
       platformOfIt{neighbours.clock,
                    application.loop(),
                    application.loop(),
@@ -53,6 +54,7 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
                    bundle,
                    pasteboard,
                    uuids,
+                   updaters,
                    *slots} {
     neighbours.processes.setKeeper(application.processIdentifier(), keeper);
 }

@@ -98,6 +98,7 @@ public:
                                 .bundle = rest.platform.bundle,
                                 .pasteboard = *this,
                                 .uuids = rest,
+                                .updaters = rest.platform.updaters,
                                 .slots = rest.platform.slots};
 };
 

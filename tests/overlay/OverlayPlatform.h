@@ -185,6 +185,7 @@ public:
                                 .bundle = *this,
                                 .pasteboard = fake.platform.pasteboard,
                                 .uuids = fake,
+                                .updaters = fake.platform.updaters,
                                 .slots = fake.platform.slots};
 };
 
