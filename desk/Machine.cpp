@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "desk/ports/ApplicationPorts.h"
+#include "desk/processes/KnownApplications.h"
 
 namespace desk {
 
@@ -18,17 +19,24 @@ Machine::Machine(platform::TextSystem& theText)
       sketchedWindows(windows, displays, processes, activation),
       processes(sketchedWindows),
       activation(processes, windows),
+      keyboard(windows, processes, activation),
       launchServices(scheduler, disk, processes, windows, activation),
-      input(*this),
-      menus(*this),
-      toolTips(*this),
       text(theText),
       finder(neighboursOfFinder()),
       scripting(finder, neighboursOfFinder()),
       applications(scheduler, processes, [this](LaunchedApplication& application) { return makePorts(application); }),
+      alertSurface(alerts, displays, appearance, text),
+      toolTips(*this),
+      menus(*this),
+      menuBar(*this),
+      dock(disk, displays, windows, processes, launchServices, appearance, text),
+      windowSurface(windows, processes, pointer, keyboard),
+      input(scheduler, applications, windows, pointer,
+            {&alertSurface, &toolTips, &menus, &menuBar, &dock, &windowSurface}),
       start(startOfStories) {
     subscriptions.push_back(processes.frontmostChanged.subscribe([this] { frontmostHasChanged(); }));
-    subscriptions.push_back(activation.keyboardTaken.subscribe([this] { input.makeKey(0); }));
+    subscriptions.push_back(alerts.changed.subscribe([this] { windows.changed(); }));
+    launchServices.addOwnApplication(finderPath, [this] { finder.launch(); });
     subscriptions.push_back(windows.spaceChanged.subscribe([this] { spaceHasChanged(); }));
     finder.launch();
     processes.activate(finder.pid());
@@ -39,16 +47,15 @@ FinderNeighbours Machine::neighboursOfFinder() {
 }
 
 std::unique_ptr<ApplicationBackend> Machine::makePorts(LaunchedApplication& application) {
-    const PortNeighbours neighbours{clock,          disk,       displays,    windows,   processes, activation,
-                                    launchServices, faults,     permissions, input,     menus,     finder,
-                                    scripting,      appearance, defaults,    clipboard, text,      journal};
+    const PortNeighbours neighbours{clock,     disk,        displays, windows,   processes, activation, launchServices,
+                                    faults,    permissions, pointer,  keyboard,  alerts,    menus,      finder,
+                                    scripting, appearance,  defaults, clipboard, text,      journal};
     return std::make_unique<ApplicationPorts>(neighbours, application);
 }
 
 Machine::~Machine() = default;
 
 void Machine::frontmostHasChanged() {
-    input.frontmostChanged();
     if (processes.frontmost() != nullptr) applications.notify(platform::WorkspaceNotification::didActivateApplication);
 }
 

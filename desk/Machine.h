@@ -13,20 +13,27 @@
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderScripting.h"
 #include "desk/input/Input.h"
+#include "desk/input/WindowSurface.h"
+#include "desk/menus/MenuBar.h"
 #include "desk/menus/MenuLayer.h"
 #include "desk/menus/ToolTips.h"
 #include "desk/processes/Activation.h"
+#include "desk/processes/Alerts.h"
 #include "desk/processes/Applications.h"
 #include "desk/processes/Faults.h"
 #include "desk/processes/Journal.h"
+#include "desk/processes/KeyboardFocus.h"
 #include "desk/processes/LaunchServices.h"
 #include "desk/processes/Permissions.h"
 #include "desk/processes/Processes.h"
 #include "desk/processes/SketchedWindows.h"
 #include "desk/processes/WindowJournal.h"
+#include "desk/system/AlertSurface.h"
+#include "desk/system/Dock.h"
 #include "desk/time/Scheduler.h"
 #include "desk/time/WallClock.h"
 #include "desk/windows/Displays.h"
+#include "desk/windows/Pointer.h"
 #include "desk/windows/WindowStack.h"
 #include "platform/Screens.h"
 #include "platform/Text.h"
@@ -51,20 +58,29 @@ public:
     WindowJournal windowJournal{windows, journal};
     Processes processes;
     Activation activation;
+    KeyboardFocus keyboard;
+    Pointer pointer;
     LaunchServices launchServices;
     Faults faults;
-    Permissions permissions;
-    Input input;
-    MenuLayer menus;
-    ToolTips toolTips;
+    Alerts alerts;
+    Permissions permissions{alerts};
     platform::TextSystem& text;
+    platform::Appearance appearance;
     Finder finder;
     FinderScripting scripting;
-    platform::Appearance appearance;
     // Stored user defaults by domain: a bundle identifier, or the path of a bundle without one. They outlive processes.
     std::map<std::string, platform::Dictionary> defaults;
     std::optional<std::string> clipboard;
     Applications applications;
+
+    // What stands on the screens, front to back.
+    AlertSurface alertSurface;
+    ToolTips toolTips;
+    MenuLayer menus;
+    MenuBar menuBar;
+    Dock dock;
+    WindowSurface windowSurface;
+    Input input;
 
     // From now on its time is the host's; see Scheduler.
     void useRealTime(RealTime& realTime);
@@ -73,10 +89,6 @@ public:
     double secondsSinceStart() const { return secondsAt(scheduler.now()); }
     // Since the start.
     double secondsAt(platform::Date time) const { return platform::inSeconds(time - start); }
-
-    // The system prompt for Automation, while it is up; pressing one of its buttons by label.
-    std::optional<SystemAlert> alert() const { return permissions.prompt(); }
-    bool pressAlertButton(const std::string& label) { return permissions.pressPromptButton(label); }
 
 private:
     FinderNeighbours neighboursOfFinder();

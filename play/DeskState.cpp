@@ -104,11 +104,16 @@ QJsonArray stacking(const Session& session) {
 }
 
 QJsonValue alert(const desk::Machine& machine) {
-    const auto alert = machine.alert();
-    if (!alert) return {};
-    return QJsonObject{{"message", jsonText(std::string_view(alert->message))},
+    static constexpr const char* styles[] = {"warning", "informational", "critical"};
+    const desk::Alert* alert = machine.alerts.shown();
+    if (alert == nullptr) return {};
+    return QJsonObject{{"source", jsonText(std::string_view(alert->source))},
+                       {"message", jsonText(std::string_view(alert->message))},
                        {"informative", jsonText(std::string_view(alert->informative))},
-                       {"buttons", textsOf(alert->buttons)}};
+                       {"buttons", textsOf(alert->buttons)},
+                       {"default", jsonText(alert->defaultButton)},
+                       {"cancel", jsonText(alert->cancelButton)},
+                       {"style", styles[static_cast<std::size_t>(alert->style)]}};
 }
 
 QJsonValue plainValue(const platform::Value& value) {

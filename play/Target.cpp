@@ -5,7 +5,6 @@
 
 #include "desk/finder/FinderBrowser.h"
 #include "desk/finder/FinderHit.h"
-#include "desk/system/ShownAlert.h"
 #include "desk/windows/WindowFrame.h"
 #include "play/BarParts.h"
 #include "play/Commands.h"
@@ -129,12 +128,8 @@ Target barPart(ScriptPlayer& player, const Arguments& words) {
 Target labelled(ScriptPlayer& player, const Arguments& words) {
     const std::string& label = words.text(0);
     auto& machine = player.machine();
-    const auto alert = machine.alert();
-    const auto screen = machine.displays.screens().begin();
-    if (alert && screen != machine.displays.screens().end()) {
-        const desk::ShownAlert shown(*alert, *screen, {}, machine.text);
-        if (const auto button = shown.buttonLabelled(label)) return {middleOf(*button), 2};
-    }
+    if (const auto alert = machine.alertSurface.shown())
+        if (const auto button = alert->buttonLabelled(label)) return {middleOf(*button), 2};
     if (const auto point = popoverControl(machine, label)) return {*point, 2};
     if (const auto point = controlLabelled(player.session(), label)) return {*point, 2};
     missingTarget("nothing is labelled " + label);

@@ -4,11 +4,8 @@
 #include "desk/Machine.h"
 #include "desk/desktop/DesktopLayers.h"
 #include "desk/look/WindowFrameView.h"
-#include "desk/menus/MenuBar.h"
 #include "desk/menus/MenuView.h"
 #include "desk/menus/ToolTipView.h"
-#include "desk/system/Dock.h"
-#include "desk/system/ShownAlert.h"
 
 namespace desk {
 
@@ -60,11 +57,11 @@ void DesktopLayers::addScreenFurniture(std::size_t screen, std::vector<Layer>& l
     const auto place = static_cast<std::int64_t>(screen);
     if (options.dock > 0) {
         const CGRect strip = CGRectMake(frame.minX(), frame.minY(), frame.width(), options.dock);
-        layers.push_back(drawn(firstDockId - place, strip, shownDock(machine, strip.size).drawing()));
+        layers.push_back(drawn(firstDockId - place, strip, machine.dock.shown(strip.size).drawing()));
     }
     if (options.menuBar > 0) {
         const CGRect strip = CGRectMake(frame.minX(), frame.maxY() - options.menuBar, frame.width(), options.menuBar);
-        layers.push_back(drawn(firstMenuBarId - place, strip, machine.input.menuBar().shown(strip).drawing()));
+        layers.push_back(drawn(firstMenuBarId - place, strip, machine.menuBar.shown(strip).drawing()));
     }
 }
 
@@ -91,11 +88,9 @@ void DesktopLayers::addMenus(std::vector<Layer>& layers) {
 }
 
 void DesktopLayers::addAlert(std::vector<Layer>& layers) {
-    const std::optional<SystemAlert> alert = machine.alert();
-    const std::optional<platform::NSScreen> screen = machine.displays.mainScreen();
-    if (!alert || !screen) return;
-    const ShownAlert shown(*alert, *screen, {machine.appearance.colorScheme.get()}, machine.text);
-    layers.push_back(floating(alertId, shown.frame(), shown.drawing(), windowCornerRadius, WindowShadow::Depth::front));
+    if (const auto alert = machine.alertSurface.shown())
+        layers.push_back(
+            floating(alertId, alert->frame(), alert->drawing(), windowCornerRadius, WindowShadow::Depth::front));
 }
 
 }  // namespace desk

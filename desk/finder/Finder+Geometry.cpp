@@ -98,7 +98,7 @@ bool Finder::enterFullScreen(FinderWindow& window) {
     window.frameBeforeFullScreen = shown->frame;
     window.spaceBeforeFullScreen = shown->space;
     window.fullScreen = true;
-    const int ownSpace = neighbours.windows.makeSpace();
+    const int ownSpace = neighbours.windows.makeSpace(shown->space);
     neighbours.windows.setSpace(window.number, ownSpace);
     moveTo(window.number, screen->frame);
     neighbours.windows.switchToSpace(ownSpace);
@@ -111,7 +111,7 @@ void Finder::leaveFullScreen(FinderWindow& window) {
     window.fullScreen = false;
     neighbours.windows.setSpace(window.number, window.spaceBeforeFullScreen);
     moveTo(window.number, window.frameBeforeFullScreen);
-    if (neighbours.windows.currentSpace() == ownSpace) neighbours.windows.switchToSpace(window.spaceBeforeFullScreen);
+    neighbours.windows.removeSpace(ownSpace);
 }
 
 bool Finder::zoom(std::int64_t number) {

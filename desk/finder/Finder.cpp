@@ -59,17 +59,14 @@ void Finder::launch() {
     process.keeper = keeper.get();
     process.end = [this](std::int32_t, Ending) { quit(); };
     processIdentifier = neighbours.processes.add(std::move(process));
+    neighbours.windows.desktopOwner = processIdentifier;
 }
 
 void Finder::quit() {
     if (!isRunning()) return;
-    int spaceLeft = neighbours.windows.currentSpace();
-    for (const FinderWindow& window : list) {
-        const ServerWindow* shown = neighbours.windows.find(window.number);
-        if (window.fullScreen && shown != nullptr && shown->space == spaceLeft)
-            spaceLeft = window.spaceBeforeFullScreen;
-    }
+    std::vector<int> ownSpaces;
     for (const FinderWindow& window : std::exchange(list, {})) {
+        if (window.fullScreen) ownSpaces.push_back(neighbours.windows.find(window.number)->space);
         inside->forget(window.number);
         neighbours.windows.remove(window.number);
     }
@@ -77,7 +74,8 @@ void Finder::quit() {
     announcedMainWindow = 0;
     knownMainWindow.reset();
     const std::int32_t gone = std::exchange(processIdentifier, 0);
-    if (spaceLeft != neighbours.windows.currentSpace()) neighbours.windows.switchToSpace(spaceLeft);
+    neighbours.windows.desktopOwner = 0;
+    for (const int space : ownSpaces) neighbours.windows.removeSpace(space);
     neighbours.processes.remove(gone);
 }
 
@@ -159,14 +157,12 @@ CGRect Finder::defaultFrame(const FinderWindow& window) const {
 bool Finder::close(std::int64_t number) {
     const FinderWindow* window = entry(number);
     if (window == nullptr) return false;
-    const bool takesItsSpaceAlong =
-        window->fullScreen && neighbours.windows.find(number)->space == neighbours.windows.currentSpace();
-    const int spaceBefore = window->spaceBeforeFullScreen;
+    const int space = neighbours.windows.find(number)->space;
     std::erase_if(list, [&](const FinderWindow& each) { return each.number == number; });
     inside->forget(number);
     neighbours.windows.remove(number);
     tree->post(number, "AXUIElementDestroyed");
-    if (takesItsSpaceAlong) neighbours.windows.switchToSpace(spaceBefore);
+    neighbours.windows.removeSpace(space);
     mainWindowMayHaveChanged();
     return true;
 }

@@ -1,5 +1,8 @@
 #include "desk/finder/FinderKeeper.h"
 
+#include <algorithm>
+
+#include "desk/disk/Disk.h"
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderBrowser.h"
 #include "desk/processes/Activation.h"
@@ -31,6 +34,14 @@ void FinderKeeper::bringForward(std::int64_t window) {
         neighbours.windows.raise(window);
     }
     finder.mainWindowMayHaveChanged();
+}
+
+void FinderKeeper::reopen() {
+    const auto windows = finder.windows();
+    const bool showsFolder = std::any_of(windows.begin(), windows.end(), [](const FinderWindow* window) {
+        return window->kind == FinderWindowKind::folder;
+    });
+    if (!showsFolder) finder.open(neighbours.disk.home());
 }
 
 void FinderKeeper::close(std::int64_t window) {

@@ -18,6 +18,8 @@ public:
 
     WindowTraits traits(std::int64_t window) const override;
     void bringForward(std::int64_t window) override;
+    // Without any folder window it shows the home folder.
+    void reopen() override;
     void close(std::int64_t window) override;
     void minimize(std::int64_t window) override;
     void restore(std::int64_t window) override;

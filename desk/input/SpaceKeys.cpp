@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
-#include <string>
 #include <vector>
 
-#include "desk/Machine.h"
+#include "desk/keys/KeyStroke.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -30,43 +29,21 @@ const SpaceKey* spaceKeyOf(const KeyStroke& stroke) {
     return found == spaceKeys.end() ? nullptr : found;
 }
 
-// From left to right: the desktops, each with the full-screen windows that came from it on its right.
-std::vector<int> spacesInOrder(const Machine& machine) {
-    const auto windows = machine.finder.windows();
-    int desktops = fewestDesktops;
-    for (const ServerWindow* shown : machine.windows.all()) {
-        const FinderWindow* window = machine.finder.find(shown->number);
-        desktops =
-            std::max(desktops, window != nullptr && window->fullScreen ? window->spaceBeforeFullScreen : shown->space);
-    }
-    if (!machine.windows.isFullScreenSpace()) desktops = std::max(desktops, machine.windows.currentSpace());
-    std::vector<int> spaces;
-    for (int desktop = 1; desktop <= desktops; ++desktop) {
-        spaces.push_back(desktop);
-        const auto firstOwn = std::ssize(spaces);
-        for (const FinderWindow* window : windows)
-            if (window->fullScreen && window->spaceBeforeFullScreen == desktop)
-                spaces.push_back(machine.windows.find(window->number)->space);
-        std::sort(spaces.begin() + firstOwn, spaces.end());
-    }
-    return spaces;
-}
-
 }  // namespace
 
 bool isSpaceKey(const KeyStroke& stroke) {
     return spaceKeyOf(stroke) != nullptr;
 }
 
-void changeSpaceBy(Machine& machine, const KeyStroke& stroke) {
+void changeSpaceBy(WindowStack& windows, const KeyStroke& stroke) {
     const SpaceKey* key = spaceKeyOf(stroke);
     if (key == nullptr) return;
-    if (key->direction == 0) return machine.windows.switchToSpace(key->desktop);
-    const std::vector<int> spaces = spacesInOrder(machine);
-    const auto here = std::find(spaces.begin(), spaces.end(), machine.windows.currentSpace());
+    if (key->direction == 0) return windows.switchToSpace(key->desktop);
+    const std::vector<int> spaces = windows.spacesFromTheLeft(fewestDesktops);
+    const auto here = std::find(spaces.begin(), spaces.end(), windows.currentSpace());
     const auto next = (here - spaces.begin()) + key->direction;
     if (here != spaces.end() && next >= 0 && next < std::ssize(spaces))
-        machine.windows.switchToSpace(spaces[static_cast<std::size_t>(next)]);
+        windows.switchToSpace(spaces[static_cast<std::size_t>(next)]);
 }
 
 }  // namespace desk

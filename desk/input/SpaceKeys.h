@@ -3,11 +3,11 @@
 
 namespace desk {
 
-class Machine;
+class WindowStack;
 struct KeyStroke;
 
 bool isSpaceKey(const KeyStroke& stroke);
 // Nothing happens at the last space in that direction, or for a number that no space has.
-void changeSpaceBy(Machine& machine, const KeyStroke& stroke);
+void changeSpaceBy(WindowStack& windows, const KeyStroke& stroke);
 
 }  // namespace desk

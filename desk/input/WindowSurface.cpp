@@ -1,7 +1,9 @@
 #include "desk/input/WindowSurface.h"
 
-#include "desk/Machine.h"
-#include "desk/input/Input.h"
+#include "desk/processes/KeyboardFocus.h"
+#include "desk/processes/Processes.h"
+#include "desk/windows/Pointer.h"
+#include "desk/windows/WindowStack.h"
 
 namespace desk {
 
@@ -9,8 +11,13 @@ using platform::CGPoint;
 using platform::NSEvent;
 using platform::NSEventType;
 
-WindowSurface::WindowSurface(Machine& theMachine, Input& theInput)
-    : machine(theMachine), input(theInput), frames(theMachine.windows, theMachine.processes) {}
+WindowSurface::WindowSurface(WindowStack& theWindows, Processes& theProcesses, const Pointer& thePointer,
+                             KeyboardFocus& theKeyboard)
+    : windows(theWindows),
+      processes(theProcesses),
+      pointer(thePointer),
+      keyboard(theKeyboard),
+      frames(theWindows, theProcesses) {}
 
 std::optional<std::int32_t> WindowSurface::take(const NSEvent& event) {
     struct Entry {
@@ -71,29 +78,29 @@ std::int32_t WindowSurface::key(const NSEvent& event) {
 WindowSurface::Target WindowSurface::press(const NSEvent& event) {
     const Target target = targetAt(event.locationInWindow);
     if (target.owner == 0) return target;
-    input.processPressed(target.owner);
-    machine.processes.keeperOf(target.owner).bringForward(target.window);
+    keyboard.processPressed(target.owner);
+    processes.keeperOf(target.owner).bringForward(target.window);
     return target;
 }
 
 std::int32_t WindowSurface::deliver(const NSEvent& event, const Target& target) {
-    if (target.owner != 0) machine.processes.keeperOf(target.owner).handle(target.window, event);
+    if (target.owner != 0) processes.keeperOf(target.owner).handle(target.window, event);
     return target.owner;
 }
 
 WindowSurface::Target WindowSurface::targetAt(const CGPoint& point) const {
-    if (const ServerWindow* window = machine.windows.windowAt(point)) return {window->number, window->owner};
-    return {0, machine.finder.isRunning() ? machine.finder.pid() : 0};
+    if (const ServerWindow* window = windows.windowAt(point)) return {window->number, window->owner};
+    return {0, windows.desktopOwner};
 }
 
 WindowSurface::Target WindowSurface::targetOfKeys() const {
-    if (const ServerWindow* window = machine.windows.find(input.keyWindow())) return {window->number, window->owner};
-    const Process* frontmost = machine.processes.frontmost();
+    if (const ServerWindow* window = windows.find(keyboard.keyWindow())) return {window->number, window->owner};
+    const Process* frontmost = processes.frontmost();
     return {0, frontmost == nullptr ? 0 : frontmost->processIdentifier};
 }
 
 CursorShape WindowSurface::cursorAt(const CGPoint& point) const {
-    return frames.cursorAt(input.isPressed(MouseButton::left) ? left.window : targetAt(point).window, point);
+    return frames.cursorAt(pointer.isPressed(MouseButton::left) ? left.window : targetAt(point).window, point);
 }
 
 }  // namespace desk

@@ -7,19 +7,20 @@
 
 namespace desk {
 
-class Input;
-class Machine;
+class KeyboardFocus;
+class Pointer;
 
 class WindowSurface final : public Surface {
 public:
-    WindowSurface(Machine& theMachine, Input& theInput);
+    WindowSurface(WindowStack& theWindows, Processes& theProcesses, const Pointer& thePointer,
+                  KeyboardFocus& theKeyboard);
 
     bool covers(const platform::CGPoint& /*point*/) const override { return true; }
     std::optional<std::int32_t> take(const platform::NSEvent& event) override;
     CursorShape cursorAt(const platform::CGPoint& point) const override;
 
 private:
-    // Without a window it is the desktop's, which is Finder's; without an owner nobody's.
+    // Without a window it is the desktop's; without an owner nobody's.
     struct Target {
         std::int64_t window = 0;
         std::int32_t owner = 0;
@@ -38,8 +39,10 @@ private:
     Target press(const platform::NSEvent& event);
     std::int32_t deliver(const platform::NSEvent& event, const Target& target);
 
-    Machine& machine;
-    Input& input;
+    WindowStack& windows;
+    Processes& processes;
+    const Pointer& pointer;
+    KeyboardFocus& keyboard;
     WindowFrameMouse frames;
     Target left;  // of the latest press of that button
     Target right;

@@ -152,7 +152,7 @@ int DeskWindow::countClick(const platform::CGPoint& point, MouseButton button) {
 
 void DeskWindow::mousePressEvent(QMouseEvent* event) {
     const auto button = buttonOf(event->button());
-    if (!button || machine.input.isPressed(*button)) return;
+    if (!button || machine.pointer.isPressed(*button)) return;
     const platform::CGPoint point = pointAt(event->position());
     machine.input.mouseDown(point, *button, countClick(point, *button), modifierFlagsOf(event->modifiers()));
     machine.settle();
@@ -161,7 +161,7 @@ void DeskWindow::mousePressEvent(QMouseEvent* event) {
 
 void DeskWindow::mouseMoveEvent(QMouseEvent* event) {
     const platform::CGPoint point = pointAt(event->position());
-    if (machine.input.isPressed())
+    if (machine.pointer.isPressed())
         machine.input.mouseDragged(point);
     else
         machine.input.mouseMoved(point);
@@ -172,7 +172,7 @@ void DeskWindow::mouseMoveEvent(QMouseEvent* event) {
 
 void DeskWindow::mouseReleaseEvent(QMouseEvent* event) {
     const auto button = buttonOf(event->button());
-    if (!button || !machine.input.isPressed(*button)) return;
+    if (!button || !machine.pointer.isPressed(*button)) return;
     machine.input.mouseUp(pointAt(event->position()), *button);
     machine.settle();
     lookAgain();

@@ -79,7 +79,7 @@ bool MenuLayer::isOnAnchor(const ShownPopover& shown, const CGPoint& point) cons
 }
 
 bool MenuLayer::hasKeyboardFocus() const {
-    const ServerWindow* window = machine.windows.find(machine.input.keyWindow());
+    const ServerWindow* window = machine.windows.find(machine.keyboard.keyWindow());
     return window != nullptr && window->window != nullptr && window->window->firstResponder() != nullptr;
 }
 

@@ -63,10 +63,10 @@ std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem
     if (items.empty()) return lastNumber;
     tracked.emplace(
         Tracked{lastNumber, owner, OpenMenu(std::move(items), std::move(layout), frame), source, std::nullopt});
-    if (machine.input.isPressed()) {
-        tracked->pressedAt = machine.input.mouseLocation();
+    if (machine.pointer.isPressed()) {
+        tracked->pressedAt = machine.pointer.location;
         held = HeldPress{owner, {}, {}};
-        machine.input.handOver(*this);
+        machine.pointer.handOver(*this);
     }
     machine.windows.changed();
     return lastNumber;
@@ -183,7 +183,7 @@ void MenuLayer::hover(const CGPoint& point) {
 // While the mouse rests on the arrow at one of the menu's ends; the longer, the faster.
 void MenuLayer::keepScrolling() {
     scrolling.reset();
-    const CGPoint mouse = machine.input.mouseLocation();
+    const CGPoint mouse = machine.pointer.location;
     scrollStep = std::clamp(scrollStep * scrollGrowth, firstScrollStep, mostScrollStep);
     if (tracked->menu.scrollBy(tracked->menu.scrollerAt(mouse) * scrollStep)) machine.windows.changed();
     hover(mouse);

@@ -18,6 +18,16 @@ constexpr double belowPointer = 20;
 
 }  // namespace
 
+std::optional<std::int32_t> ToolTips::take(const platform::NSEvent& event) {
+    using platform::NSEventType;
+    const NSEventType type = event.type;
+    if (type == NSEventType::mouseMoved)
+        mouseMoved();
+    else if (platform::isMouseDown(type) || type == NSEventType::scrollWheel || type == NSEventType::keyDown)
+        dismiss();
+    return std::nullopt;
+}
+
 void ToolTips::mouseMoved() {
     const std::optional<Subject> present = subject();
     if (present && (told == present || dismissed == present)) return;
@@ -41,7 +51,7 @@ void ToolTips::show() {
     told = subject();
     if (!told) return;
     const platform::CGSize size = views::idealSize(toolTipView(told->text, {}), machine.text);
-    const CGPoint mouse = machine.input.mouseLocation();
+    const CGPoint mouse = machine.pointer.location;
     place = placeMenuAt({mouse.x, mouse.y - belowPointer}, size, machine.menus.roomAround(mouse));
     machine.windows.changed();
 }
@@ -52,8 +62,8 @@ std::optional<ToolTips::ShownToolTip> ToolTips::shown() const {
 }
 
 std::optional<ToolTips::Subject> ToolTips::subject() const {
-    const CGPoint mouse = machine.input.mouseLocation();
-    if (machine.input.isCovered(mouse) || machine.input.isPressed()) return std::nullopt;
+    const CGPoint mouse = machine.pointer.location;
+    if (machine.input.isCovered(mouse) || machine.pointer.isPressed()) return std::nullopt;
     const ServerWindow* window = machine.windows.windowAt(mouse);
     const platform::NSWindow* shownWindow = window == nullptr ? nullptr : window->window;
     if (shownWindow == nullptr || shownWindow->contentView() == nullptr) return std::nullopt;

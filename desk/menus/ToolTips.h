@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "desk/windows/Surface.h"
 #include "platform/Drawing.h"
 #include "platform/Geometry.h"
 
@@ -13,7 +14,7 @@ namespace desk {
 
 class Machine;
 
-class ToolTips {
+class ToolTips final : public Surface {
 public:
     explicit ToolTips(Machine& theMachine) : machine(theMachine) {}
     ToolTips(const ToolTips&) = delete;
@@ -25,9 +26,9 @@ public:
     };
     std::optional<ShownToolTip> shown() const;
 
-    void mouseMoved();
-    // Who presses or types knows what it does: nothing more is said of it until the mouse has left it.
-    void dismiss();
+    bool covers(const platform::CGPoint& /*point*/) const override { return false; }
+    // It takes none. Who presses or types knows what it does: nothing more is said of it until the mouse has left it.
+    std::optional<std::int32_t> take(const platform::NSEvent& event) override;
 
 private:
     // What is under the mouse and has something to say.
@@ -38,6 +39,8 @@ private:
     };
 
     std::optional<Subject> subject() const;
+    void mouseMoved();
+    void dismiss();
     void show();
     void hide();
 

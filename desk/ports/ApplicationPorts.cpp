@@ -1,8 +1,9 @@
 #include "desk/ports/ApplicationPorts.h"
 
-#include "desk/input/Input.h"
 #include "desk/menus/MenuLayer.h"
+#include "desk/processes/Alerts.h"
 #include "desk/processes/Journal.h"
+#include "desk/processes/KeyboardFocus.h"
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Processes.h"
 #include "desk/time/WallClock.h"
@@ -16,13 +17,13 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
       application(theApplication),
       workspace(neighbours.processes, neighbours.activation, neighbours.launchServices, neighbours.journal,
                 application),
-      windowServer(neighbours.windows, neighbours.displays, neighbours.finder, neighbours.faults),
+      windowServer(neighbours.windows, neighbours.displays, neighbours.faults),
       accessibility(neighbours.finder, neighbours.permissions, application),
       appleEvents(neighbours.scripting, application),
-      events(neighbours.input),
+      events(neighbours.pointer),
       applicationPort(neighbours.clock, neighbours.processes, neighbours.activation, neighbours.journal, images,
                       application),
-      windows(neighbours.windows, neighbours.input, application),
+      windows(neighbours.windows, neighbours.keyboard, application),
       keeper(application, neighbours.windows, neighbours.displays, neighbours.processes),
       menus(neighbours.menus, neighbours.windows, application),
       images(neighbours.disk),
@@ -66,8 +67,9 @@ void ApplicationPorts::answeredTermination(bool agreed) {
 void ApplicationPorts::processEnded() {
     for (const auto& [number, window] : application.windows()) {
         neighbours.windows.remove(number);
-        neighbours.input.windowOrderedOut(number);
+        neighbours.keyboard.windowOrderedOut(number);
     }
+    neighbours.alerts.withdrawAllOf(application.processIdentifier());
     neighbours.menus.applicationEnded(application.processIdentifier());
     neighbours.processes.remove(application.processIdentifier());
 }

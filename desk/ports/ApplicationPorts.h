@@ -28,6 +28,7 @@
 
 namespace desk {
 
+class Alerts;
 class Disk;
 class Journal;
 class WallClock;
@@ -43,7 +44,9 @@ struct PortNeighbours {
     LaunchServices& launchServices;
     Faults& faults;
     Permissions& permissions;
-    Input& input;
+    Pointer& pointer;
+    KeyboardFocus& keyboard;
+    Alerts& alerts;
     MenuLayer& menus;
     Finder& finder;
     FinderScripting& scripting;

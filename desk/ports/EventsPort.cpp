@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "desk/input/Input.h"
+#include "desk/windows/Pointer.h"
 
 namespace desk {
 
@@ -25,7 +25,7 @@ platform::Token EventsPort::addLocalMonitorForEventsMatchingMask(
 }
 
 platform::CGPoint EventsPort::mouseLocation() {
-    return input.mouseLocation();
+    return pointer.location;
 }
 
 bool EventsPort::hasGlobalMonitorFor(platform::NSEventType type) const {

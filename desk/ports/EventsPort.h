@@ -9,11 +9,11 @@
 
 namespace desk {
 
-class Input;
+class Pointer;
 
 class EventsPort final : public platform::Events {
 public:
-    explicit EventsPort(const Input& theInput) : input(theInput) {}
+    explicit EventsPort(const Pointer& thePointer) : pointer(thePointer) {}
 
     platform::Token addGlobalMonitorForEventsMatchingMask(
         platform::NSEventMask mask, std::function<void(const platform::NSEvent&)> handler) override;
@@ -40,7 +40,7 @@ private:
         std::function<std::optional<platform::NSEvent>(const platform::NSEvent&)> handler;
     };
 
-    const Input& input;
+    const Pointer& pointer;
     platform::Registry<GlobalMonitor> globalMonitors;
     platform::Registry<LocalMonitor> localMonitors;
 };

@@ -1,16 +1,16 @@
 #include "desk/ports/PanelHandle.h"
 
-#include "desk/input/Input.h"
+#include "desk/processes/KeyboardFocus.h"
 #include "desk/processes/LaunchedApplication.h"
 
 namespace desk {
 
 using platform::NSWindowOrderingMode;
 
-PanelHandle::PanelHandle(WindowStack& theWindows, Input& theInput, LaunchedApplication& theApplication,
+PanelHandle::PanelHandle(WindowStack& theWindows, KeyboardFocus& theKeyboard, LaunchedApplication& theApplication,
                          platform::NSWindow& theWindow, const platform::CGRect& frame)
     : windows(theWindows),
-      input(theInput),
+      keyboard(theKeyboard),
       application(theApplication),
       window(theWindow),
       number(theWindows.makePanelNumber()),
@@ -30,7 +30,7 @@ PanelHandle::~PanelHandle() {
     application.ownWindows.erase(number);
     application.loop().forgetWindow(&window);
     windows.order(number, NSWindowOrderingMode::out, 0);
-    input.windowOrderedOut(number);
+    keyboard.windowOrderedOut(number);
     windows.remove(number);
 }
 
@@ -63,12 +63,12 @@ bool PanelHandle::isVisible() const {
 
 void PanelHandle::orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo) {
     windows.order(number, mode, relativeTo);
-    if (mode == NSWindowOrderingMode::out) input.windowOrderedOut(number);
+    if (mode == NSWindowOrderingMode::out) keyboard.windowOrderedOut(number);
 }
 
 void PanelHandle::setMiniaturized(bool miniaturized) {
     windows.setMinimized(number, miniaturized);
-    if (miniaturized) input.windowOrderedOut(number);
+    if (miniaturized) keyboard.windowOrderedOut(number);
 }
 
 bool PanelHandle::isMiniaturized() const {
@@ -77,11 +77,11 @@ bool PanelHandle::isMiniaturized() const {
 }
 
 void PanelHandle::makeKey() {
-    if (!application.isDead()) input.makeKey(number);
+    if (!application.isDead()) keyboard.makeKey(number);
 }
 
 bool PanelHandle::isKey() const {
-    return input.keyWindow() == number;
+    return keyboard.keyWindow() == number;
 }
 
 void PanelHandle::settingsChanged() {

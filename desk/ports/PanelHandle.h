@@ -9,12 +9,12 @@
 
 namespace desk {
 
-class Input;
+class KeyboardFocus;
 class LaunchedApplication;
 
 class PanelHandle final : public platform::WindowHandle {
 public:
-    PanelHandle(WindowStack& theWindows, Input& theInput, LaunchedApplication& theApplication,
+    PanelHandle(WindowStack& theWindows, KeyboardFocus& theKeyboard, LaunchedApplication& theApplication,
                 platform::NSWindow& theWindow, const platform::CGRect& frame);
     ~PanelHandle() override;
 
@@ -36,7 +36,7 @@ private:
     const ServerWindow* entry() const;
 
     WindowStack& windows;
-    Input& input;
+    KeyboardFocus& keyboard;
     LaunchedApplication& application;
     platform::NSWindow& window;
     const std::int64_t number;

@@ -17,7 +17,7 @@ double titleBarOf(unsigned styleMask) {
 
 std::unique_ptr<platform::WindowHandle> WindowPort::makeWindow(platform::NSWindow& window,
                                                                const platform::CGRect& frame) {
-    return std::make_unique<PanelHandle>(windows, input, application, window, frame);
+    return std::make_unique<PanelHandle>(windows, keyboard, application, window, frame);
 }
 
 platform::CGRect WindowPort::frameRectForContentRect(const platform::CGRect& content, unsigned styleMask) const {

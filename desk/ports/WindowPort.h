@@ -5,14 +5,14 @@
 
 namespace desk {
 
-class Input;
+class KeyboardFocus;
 class LaunchedApplication;
 class WindowStack;
 
 class WindowPort final : public platform::WindowSystem {
 public:
-    WindowPort(WindowStack& theWindows, Input& theInput, LaunchedApplication& theApplication)
-        : windows(theWindows), input(theInput), application(theApplication) {}
+    WindowPort(WindowStack& theWindows, KeyboardFocus& theKeyboard, LaunchedApplication& theApplication)
+        : windows(theWindows), keyboard(theKeyboard), application(theApplication) {}
     std::unique_ptr<platform::WindowHandle> makeWindow(platform::NSWindow& window,
                                                        const platform::CGRect& frame) override;
     platform::CGRect frameRectForContentRect(const platform::CGRect& content, unsigned styleMask) const override;
@@ -20,7 +20,7 @@ public:
 
 private:
     WindowStack& windows;
-    Input& input;
+    KeyboardFocus& keyboard;
     LaunchedApplication& application;
 };
 

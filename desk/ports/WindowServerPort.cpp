@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "desk/finder/Finder.h"
 #include "desk/processes/Faults.h"
 #include "desk/windows/Displays.h"
 #include "desk/windows/WindowStack.h"
@@ -18,10 +17,10 @@ using platform::Value;
 constexpr int desktopIconLevel = -2147483603;
 constexpr std::int64_t desktopWindowNumber = 2;
 
-ServerWindow desktopOf(const Finder& finder, const Displays& displays) {
+ServerWindow desktopOf(std::int32_t owner, const Displays& displays) {
     ServerWindow desktop;
     desktop.number = desktopWindowNumber;
-    desktop.owner = finder.pid();
+    desktop.owner = owner;
     desktop.level = desktopIconLevel;
     for (const auto& options : displays.options()) {
         desktop.frame = options.frame;
@@ -51,7 +50,8 @@ Value WindowServerPort::CGWindowListCopyWindowInfo(std::uint32_t option, std::in
     platform::Array entries;
     entries.reserve(listed.size() + 1);
     for (const ServerWindow* window : listed) entries.emplace_back(describe(*window));
-    if (withDesktop && finder.isRunning()) entries.emplace_back(describe(desktopOf(finder, displays)));
+    if (withDesktop && windows.desktopOwner != 0)
+        entries.emplace_back(describe(desktopOf(windows.desktopOwner, displays)));
     return entries;
 }
 

@@ -7,14 +7,13 @@ namespace desk {
 
 class Displays;
 class Faults;
-class Finder;
 class WindowStack;
 struct ServerWindow;
 
 class WindowServerPort final : public platform::WindowServer {
 public:
-    explicit WindowServerPort(WindowStack& theWindows, Displays& theDisplays, Finder& theFinder, Faults& theFaults)
-        : windows(theWindows), displays(theDisplays), finder(theFinder), faults(theFaults) {}
+    WindowServerPort(WindowStack& theWindows, Displays& theDisplays, Faults& theFaults)
+        : windows(theWindows), displays(theDisplays), faults(theFaults) {}
     platform::Value CGWindowListCopyWindowInfo(std::uint32_t option, std::int64_t relativeToWindow) override;
 
 private:
@@ -22,7 +21,6 @@ private:
 
     WindowStack& windows;
     Displays& displays;
-    Finder& finder;
     Faults& faults;
 };
 

@@ -9,6 +9,7 @@
 #include "desk/processes/KnownApplications.h"
 #include "desk/processes/Processes.h"
 #include "desk/time/Scheduler.h"
+#include "desk/windows/WindowKeeper.h"
 #include "desk/windows/WindowStack.h"
 #include "platform/FileURL.h"
 
@@ -103,16 +104,27 @@ void LaunchServices::openDocuments(const std::vector<std::string>& paths) {
 }
 
 void LaunchServices::openApplication(const std::string& applicationPath) {
-    const auto& all = processes.running();
-    const bool runs = std::any_of(all.begin(), all.end(),
-                                  [&](const Process& process) { return process.bundlePath == applicationPath; });
-    if (!runs && disk.kind(applicationPath) != platform::FileKind::directory) return;
-    if (!runs && startProgram && startProgram(applicationPath)) return;
+    if (!runs(applicationPath)) {
+        const auto own = ownApplications.find(applicationPath);
+        if (own != ownApplications.end())
+            own->second();
+        else if (disk.kind(applicationPath) != platform::FileKind::directory ||
+                 (startProgram && startProgram(applicationPath)))
+            return;
+    }
     const std::int32_t owner = runningAt(applicationPath);
     const Process& process = *processes.find(owner);
-    if (process.keeper == nullptr && !hasWindow(owner))
+    WindowKeeper* keeper = process.keeper;
+    if (keeper == nullptr && !hasWindow(owner))
         addWindow(owner, process.name, frameOfOtherWindow, platform::NSWindowOrderingMode::above);
     activation.activate(owner, true);
+    if (keeper != nullptr) keeper->reopen();
+}
+
+bool LaunchServices::runs(const std::string& bundlePath) const {
+    const auto& all = processes.running();
+    return std::any_of(all.begin(), all.end(),
+                       [&](const Process& process) { return process.bundlePath == bundlePath; });
 }
 
 bool LaunchServices::hasWindow(std::int32_t processIdentifier) const {

@@ -4,8 +4,10 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Geometry.h"
@@ -46,7 +48,7 @@ public:
     void openDocuments(const std::vector<std::string>& paths);
     // An address of the network. Nothing comes to the front: what would show it isn't there.
     void openAddress(const std::string& url) { openedFiles.push_back({"", {url}}); }
-    // The application at that path, as from the Dock: it is started if it doesn't run, has a window, and comes to the front with all it has.
+    // The application at that path, as from the Dock: it is started if it doesn't run, comes to the front with all it has, and has a window.
     void openApplication(const std::string& applicationPath);
 
     // In order, since the start.
@@ -54,6 +56,10 @@ public:
 
     // Set by who has programs to run: starts the one of the bundle at that path; false leaves it to be sketched.
     std::function<bool(const std::string& bundlePath)> startProgram;
+    // The desk's own application at that path, which is there whatever the disk holds; `start` makes its process.
+    void addOwnApplication(std::string path, std::function<void()> start) {
+        ownApplications.insert_or_assign(std::move(path), std::move(start));
+    }
 
 private:
     void openNow(const std::vector<std::string>& paths, const std::string& applicationPath);
@@ -61,6 +67,7 @@ private:
     std::int32_t addSketched(Process process);
     // The process of the application at that path, started if there is none.
     std::int32_t runningAt(const std::string& bundlePath);
+    bool runs(const std::string& bundlePath) const;
     bool hasWindow(std::int32_t processIdentifier) const;
     void addWindow(std::int32_t owner, const std::string& title, const platform::CGRect& frame,
                    platform::NSWindowOrderingMode place);
@@ -71,6 +78,7 @@ private:
     WindowStack& windows;
     Activation& activation;
     std::vector<OpenedFiles> openedFiles;
+    std::map<std::string, std::function<void()>> ownApplications;
     // Apart from the numbers of Finder's windows and of applications' own.
     std::int64_t nextNumber = 1'000'001;
 };

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "desk/processes/Alerts.h"
+
 namespace desk {
 
 namespace {
@@ -22,27 +24,23 @@ void Permissions::setAutomation(AutomationPermission permission) {
 }
 
 void Permissions::beginWait(const std::string& application) {
-    if (waiters++ == 0) asker = application;
+    if (waiters++ > 0) return;
+    Alert alert;
+    alert.source = "system";
+    alert.icon = "Finder";
+    alert.message = "“" + application +
+                    "” wants access to control “Finder”. Allowing control will provide access to documents and data in "
+                    "“Finder”, and to perform actions within that app.";
+    alert.buttons = {dontAllow, allow};
+    alert.defaultButton = allow;
+    alert.cancelButton = dontAllow;
+    prompt = alerts.show(std::move(alert), [this](const std::string& button) {
+        setAutomation(button == allow ? AutomationPermission::allowed : AutomationPermission::denied);
+    });
 }
 
 void Permissions::endWait() {
-    if (--waiters == 0) asker.reset();
-}
-
-std::optional<SystemAlert> Permissions::prompt() const {
-    if (!asker) return std::nullopt;
-    return SystemAlert{"“" + *asker +
-                           "” wants access to control “Finder”. Allowing control will provide access to documents and "
-                           "data in “Finder”, and to perform actions within that app.",
-                       "",
-                       {dontAllow, allow}};
-}
-
-bool Permissions::pressPromptButton(const std::string& label) {
-    if (!asker || (label != dontAllow && label != allow)) return false;
-    asker.reset();
-    setAutomation(label == allow ? AutomationPermission::allowed : AutomationPermission::denied);
-    return true;
+    if (--waiters == 0) alerts.withdraw(prompt);
 }
 
 }  // namespace desk

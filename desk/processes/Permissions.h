@@ -2,24 +2,21 @@
 // a system prompt and its sender waits for the answer; the machine goes on.
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <string>
-#include <vector>
 
-#include "platform/Published.h"
+#include "platform/Signal.h"
 
 namespace desk {
 
-enum class AutomationPermission { allowed, denied, ask };
+class Alerts;
 
-struct SystemAlert {
-    std::string message;
-    std::string informative;
-    std::vector<std::string> buttons;
-};
+enum class AutomationPermission { allowed, denied, ask };
 
 class Permissions {
 public:
+    explicit Permissions(Alerts& theAlerts) : alerts(theAlerts) {}
+
     bool accessibility = true;
     AutomationPermission automation = AutomationPermission::allowed;
     platform::Signal<> changed;
@@ -27,15 +24,13 @@ public:
     void setAccessibility(bool granted);
     void setAutomation(AutomationPermission permission);
 
-    // Somebody waits for the user; the prompt is up while anybody does, in the name of the first, and goes when it is answered.
+    // Somebody waits for the user; the prompt is up while anybody does, in the name of the first. Answering it sets `automation` and wakes who waits.
     void beginWait(const std::string& application);
     void endWait();
-    std::optional<SystemAlert> prompt() const;
-    // By label; answering it sets `automation` and wakes who waits. False when there is no such button.
-    bool pressPromptButton(const std::string& label);
 
 private:
-    std::optional<std::string> asker;
+    Alerts& alerts;
+    std::uint64_t prompt = 0;
     int waiters = 0;
 };
 

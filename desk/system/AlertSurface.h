@@ -1,24 +1,37 @@
-// The system's prompt while it is up: it stands above everything and takes presses on itself. What it says and what its buttons do is the machine's.
+// The alert that is up: it stands above everything and has the presses on itself. A button acts when the press is released over it; Return and Escape press the buttons that the alert names.
+// What pressing does is said by who put the alert up.
 #pragma once
+
+#include <string>
 
 #include "desk/system/ShownAlert.h"
 #include "desk/windows/Surface.h"
 
 namespace desk {
 
-class Machine;
+class Displays;
 
 class AlertSurface final : public Surface {
 public:
-    explicit AlertSurface(Machine& theMachine) : machine(theMachine) {}
+    AlertSurface(Alerts& theAlerts, Displays& theDisplays, const platform::Appearance& theAppearance,
+                 platform::TextSystem& theText)
+        : alerts(theAlerts), displays(theDisplays), appearance(theAppearance), text(theText) {}
+
+    // Empty when none is up, and without a screen.
+    std::optional<ShownAlert> shown() const;
 
     bool covers(const platform::CGPoint& point) const override;
     std::optional<std::int32_t> take(const platform::NSEvent& event) override;
 
 private:
-    std::optional<ShownAlert> shownAlert() const;
+    bool takeKey(const platform::NSEvent& event);
+    std::optional<std::string> buttonAt(const platform::CGPoint& point) const;
 
-    Machine& machine;
+    Alerts& alerts;
+    Displays& displays;
+    const platform::Appearance& appearance;
+    platform::TextSystem& text;
+    std::optional<std::string> pressed;
 };
 
 }  // namespace desk

@@ -1,12 +1,17 @@
 #include "desk/system/Dock.h"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
-#include "desk/Machine.h"
+#include "desk/disk/Disk.h"
 #include "desk/processes/KnownApplications.h"
+#include "desk/processes/LaunchServices.h"
+#include "desk/processes/Processes.h"
 #include "desk/system/DockView.h"
+#include "desk/windows/Displays.h"
 #include "desk/windows/WindowFrame.h"
+#include "desk/windows/WindowKeeper.h"
+#include "desk/windows/WindowStack.h"
 #include "platform/FileURL.h"
 
 namespace desk {
@@ -15,19 +20,27 @@ namespace {
 
 using platform::CGPoint;
 using platform::CGRect;
-using platform::CGRectMake;
-
-bool isInApplications(const Machine& machine, const std::string& path) {
-    return machine.disk.kind(path) == platform::FileKind::directory;
-}
 
 std::string nameOfApplication(const std::string& path) {
     const std::string_view name = platform::lastPathComponent(path);
     return std::string(name.substr(0, name.rfind('.')));
 }
 
-void addRunning(const Machine& machine, std::vector<DockItem>& items) {
-    for (const Process& process : machine.processes.running()) {
+}  // namespace
+
+std::vector<DockItem> Dock::items() const {
+    std::vector<DockItem> items{{"Finder", finderPath}};
+    for (const std::string& path :
+         {std::string(browserPath), std::string(terminalPath), knownEditor(disk).value_or("")})
+        if (disk.kind(path) == platform::FileKind::directory) items.push_back({nameOfApplication(path), path});
+    addRunning(items);
+    for (const ServerWindow* window : windows.all())
+        if (window->minimized) items.push_back({window->title, {}, false, window->number});
+    return items;
+}
+
+void Dock::addRunning(std::vector<DockItem>& items) const {
+    for (const Process& process : processes.running()) {
         if (process.policy != platform::NSApplicationActivationPolicy::regular) continue;
         const auto same = std::find_if(items.begin(), items.end(),
                                        [&](const DockItem& item) { return item.path == process.bundlePath; });
@@ -38,85 +51,61 @@ void addRunning(const Machine& machine, std::vector<DockItem>& items) {
     }
 }
 
-// The Dock's strip on the screen that shows that point.
-std::optional<CGRect> stripAt(const Machine& machine, const CGPoint& point) {
-    for (const DisplayOptions& options : machine.displays.options()) {
-        const CGRect& frame = options.frame;
-        const CGRect strip = CGRectMake(frame.minX(), frame.minY(), frame.width(), options.dock);
-        if (options.dock > 0 && platform::CGRectContainsPoint(strip, point)) return strip;
+views::LaidOutView Dock::shown(platform::CGSize strip) const {
+    return {dockView(items(), strip.height, {appearance.colorScheme.get()}), strip, text};
+}
+
+std::string Dock::idAt(const CGPoint& point) const {
+    for (const DisplayOptions& options : displays.options()) {
+        const CGRect strip = {options.frame.origin, {options.frame.width(), options.dock}};
+        if (options.dock <= 0 || !platform::CGRectContainsPoint(strip, point)) continue;
+        const views::LaidOutView dock = shown(strip.size);
+        const std::string* id = dock.idAt(insideLaidOut(strip, point));
+        return id == nullptr ? std::string() : *id;
     }
-    return std::nullopt;
+    return {};
 }
 
-std::string idAt(const Machine& machine, const CGPoint& point) {
-    const auto strip = stripAt(machine, point);
-    if (!strip) return {};
-    const views::LaidOutView dock = shownDock(machine, strip->size);
-    const std::string* id = dock.idAt(insideLaidOut(*strip, point));
-    return id == nullptr ? std::string() : *id;
-}
-
-void openFinder(Machine& machine) {
-    Finder& finder = machine.finder;
-    finder.launch();
-    machine.activation.activate(finder.pid(), true);
-    const auto windows = finder.windows();
-    const bool hasFolderWindow = std::any_of(windows.begin(), windows.end(), [](const FinderWindow* window) {
-        return window->kind == FinderWindowKind::folder;
-    });
-    if (!hasFolderWindow) finder.open(machine.disk.home());
-}
-
-// Whoever has all of its windows on another space is followed there.
-void followToItsSpace(Machine& machine, std::int32_t owner) {
-    std::optional<int> elsewhere;
-    for (const ServerWindow* window : machine.windows.all()) {
-        if (window->owner != owner || !window->orderedIn || window->minimized) continue;
-        if (machine.windows.isOnScreen(*window)) return;
-        if (!elsewhere) elsewhere = window->space;
-    }
-    if (elsewhere) machine.windows.switchToSpace(*elsewhere);
-}
-
-}  // namespace
-
-std::vector<DockItem> dockItems(const Machine& machine) {
-    std::vector<DockItem> items{{"Finder", finderPath}};
-    const std::optional<std::string> editor = knownEditor(machine.disk);
-    for (const std::string& path : {std::string(browserPath), std::string(terminalPath), editor.value_or("")})
-        if (isInApplications(machine, path)) items.push_back({nameOfApplication(path), path});
-    addRunning(machine, items);
-    for (const ServerWindow* window : machine.windows.all())
-        if (window->minimized) items.push_back({window->title, {}, false, window->number});
-    return items;
-}
-
-views::LaidOutView shownDock(const Machine& machine, platform::CGSize strip) {
-    const Shades shades{machine.appearance.colorScheme.get()};
-    return {dockView(dockItems(machine), strip.height, shades), strip, machine.text};
-}
-
-bool isOnDock(const Machine& machine, const CGPoint& point) {
-    return !idAt(machine, point).empty();
-}
-
-std::optional<std::size_t> dockItemAt(const Machine& machine, const CGPoint& point) {
-    const std::string id = idAt(machine, point);
+std::optional<std::size_t> Dock::itemAt(const CGPoint& point) const {
+    const std::string id = idAt(point);
     if (id.empty() || id == dockPlateId) return std::nullopt;
     return std::stoul(id);
 }
 
-void openDockItem(Machine& machine, const DockItem& item) {
-    if (item.window != 0) {
-        if (const ServerWindow* window = machine.windows.find(item.window))
-            machine.processes.keeperOf(window->owner).restore(item.window);
-    } else if (item.path == finderPath) {
-        openFinder(machine);
-    } else {
-        machine.launchServices.openApplication(item.path);
+bool Dock::covers(const CGPoint& point) const {
+    return !windows.isFullScreenSpace() && !idAt(point).empty();
+}
+
+std::optional<std::int32_t> Dock::take(const platform::NSEvent& event) {
+    using platform::NSEventType;
+    const CGPoint& point = event.locationInWindow;
+    if (event.type == NSEventType::leftMouseUp) {
+        const auto item = std::exchange(pressed, std::nullopt);
+        if (item && item == itemAt(point)) open(items()[*item]);
+        return 0;
     }
-    const Process* frontmost = machine.processes.frontmost();
-    if (frontmost != nullptr) followToItsSpace(machine, frontmost->processIdentifier);
+    if (platform::isKeyEvent(event.type) || !covers(point)) return std::nullopt;
+    if (event.type == NSEventType::leftMouseDown) pressed = itemAt(point);
+    return 0;
+}
+
+void Dock::open(const DockItem& item) {
+    if (item.window == 0)
+        launchServices.openApplication(item.path);
+    else if (const ServerWindow* window = windows.find(item.window))
+        processes.keeperOf(window->owner).restore(item.window);
+    const Process* frontmost = processes.frontmost();
+    if (frontmost != nullptr) followToItsSpace(frontmost->processIdentifier);
+}
+
+void Dock::followToItsSpace(std::int32_t owner) {
+    std::optional<int> elsewhere;
+    for (const ServerWindow* window : windows.all()) {
+        if (window->owner != owner || !window->isIn()) continue;
+        if (windows.isOnScreen(*window)) return;
+        if (!elsewhere) elsewhere = window->space;
+    }
+    if (elsewhere) windows.switchToSpace(*elsewhere);
 }
 
 }  // namespace desk

@@ -1,5 +1,5 @@
-// The Dock at the lower edge of a screen: the applications that always stand in it, those that run besides, and minimised windows at its right end. What is drawn and what a
-// click hits come from here; it holds nothing itself.
+// The Dock at the lower edge of each screen: the applications that always stand in it, those that run besides, and minimised windows at its right end. An item opens when the left button is
+// released over the one that was pressed. How it is drawn is said in DockView.h.
 #pragma once
 
 #include <cstddef>
@@ -8,12 +8,19 @@
 #include <string>
 #include <vector>
 
+#include "desk/windows/Surface.h"
 #include "platform/Geometry.h"
+#include "platform/Screens.h"
+#include "platform/Text.h"
 #include "views/LaidOutView.h"
 
 namespace desk {
 
-class Machine;
+class Disk;
+class Displays;
+class LaunchServices;
+class Processes;
+class WindowStack;
 
 struct DockItem {
     std::string name;
@@ -22,15 +29,42 @@ struct DockItem {
     std::int64_t window = 0;  // a minimised window, then there is no path
 };
 
-std::vector<DockItem> dockItems(const Machine& machine);
+class Dock final : public Surface {
+public:
+    Dock(const Disk& theDisk, Displays& theDisplays, WindowStack& theWindows, Processes& theProcesses,
+         LaunchServices& theLaunchServices, const platform::Appearance& theAppearance, platform::TextSystem& theText)
+        : disk(theDisk),
+          displays(theDisplays),
+          windows(theWindows),
+          processes(theProcesses),
+          launchServices(theLaunchServices),
+          appearance(theAppearance),
+          text(theText) {}
 
-// In the strip of that size at the screen's lower edge; see DockView.h.
-views::LaidOutView shownDock(const Machine& machine, platform::CGSize strip);
+    std::vector<DockItem> items() const;
+    // In the strip of that size at the screen's lower edge.
+    views::LaidOutView shown(platform::CGSize strip) const;
 
-// Which of the items stands there (a point of the screen); empty beside the Dock and between icons.
-std::optional<std::size_t> dockItemAt(const Machine& machine, const platform::CGPoint& point);
-bool isOnDock(const Machine& machine, const platform::CGPoint& point);
-// As a click does: an application comes to the front, started if it doesn't run; a window is restored.
-void openDockItem(Machine& machine, const DockItem& item);
+    bool covers(const platform::CGPoint& point) const override;
+    std::optional<std::int32_t> take(const platform::NSEvent& event) override;
+
+private:
+    void addRunning(std::vector<DockItem>& items) const;
+    // What stands there: an item's index, or the plate beside them; empty beside the Dock.
+    std::string idAt(const platform::CGPoint& point) const;
+    std::optional<std::size_t> itemAt(const platform::CGPoint& point) const;
+    // An application comes to the front, started if it doesn't run; a window is restored. Whoever has its windows on another space is followed there.
+    void open(const DockItem& item);
+    void followToItsSpace(std::int32_t owner);
+
+    const Disk& disk;
+    Displays& displays;
+    WindowStack& windows;
+    Processes& processes;
+    LaunchServices& launchServices;
+    const platform::Appearance& appearance;
+    platform::TextSystem& text;
+    std::optional<std::size_t> pressed;
+};
 
 }  // namespace desk

@@ -18,51 +18,56 @@ using platform::ColorRole;
 using platform::FontWeight;
 using views::View;
 
-constexpr platform::CGSize alertSize{420, 170};
-constexpr platform::CGSize buttonSize{120, 28};
+constexpr double alertWidth = 420;
+constexpr double leastLabelWidth = 80;
 constexpr double margin = 20;
+constexpr double iconSide = 48;
 
-CGRect frameOn(const CGRect& visible) {
-    const double x = visible.midX() - alertSize.width / 2;
-    const double y = visible.minY() + (visible.height() - alertSize.height) * 2 / 3;
-    return {{std::floor(x), std::floor(y)}, alertSize};
+CGRect frameOn(const CGRect& visible, platform::CGSize size) {
+    const double x = visible.midX() - size.width / 2;
+    const double y = visible.minY() + (visible.height() - size.height) * 2 / 3;
+    return {{std::floor(x), std::floor(y)}, size};
 }
 
-View buttonView(const std::string& label, bool isDefault, const Shades& shades) {
-    const double border = isDefault ? 0 : 0.15;
-    return views::Text(label)
-        .font({13, FontWeight::regular})
-        .foregroundStyle(isDefault ? ColorRole::white : ColorRole::primary)
-        .frame({.width = buttonSize.width, .height = buttonSize.height})
-        .background(
-            views::RoundedRectangle(6).fill(isDefault ? Color::of(ColorRole::accent) : shades(0xFFFFFF, 0x5A5A5E)))
-        .overlay(views::RoundedRectangle(6).strokeBorder(Color::of(ColorRole::primary, border), 0.5))
+View buttonView(const std::string& label, bool isDefault) {
+    return views::Button(nullptr, views::Text(label).frame({.minWidth = leastLabelWidth}))
+        .buttonStyle(views::ButtonStyle::bordered)
+        .keyboardShortcut(isDefault ? views::KeyboardShortcut::defaultAction : views::KeyboardShortcut::none)
         .id(label);
 }
 
-View alertView(const SystemAlert& alert, const Shades& shades) {
+View buttonsView(const Alert& alert) {
     View buttons = views::HStack({.spacing = 12}, views::Spacer(0));
     for (const std::string& label : alert.buttons)
-        buttons.addChildren(buttonView(label, &label == &alert.buttons.back(), shades));
+        if (label != alert.defaultButton) buttons.addChildren(buttonView(label, false));
+    if (alert.defaultButton) buttons.addChildren(buttonView(*alert.defaultButton, true));
+    return buttons;
+}
+
+View textsView(const Alert& alert) {
     View texts = views::VStack({.alignment = views::HorizontalAlignment::leading, .spacing = 6},
-                               views::Text(alert.message).font({13, FontWeight::bold}),
-                               views::Text(alert.informative).font({11, FontWeight::regular}));
-    return views::VStack({.spacing = 0},
+                               views::Text(alert.message).font({13, FontWeight::bold}));
+    if (!alert.informative.empty()) texts.addChildren(views::Text(alert.informative).font({11, FontWeight::regular}));
+    return std::move(texts).frame({.maxWidth = views::infinity, .alignment = views::Alignment::leading});
+}
+
+View alertView(const Alert& alert, const Shades& shades) {
+    return views::VStack({.spacing = 16},
                          views::HStack({.alignment = views::VerticalAlignment::top, .spacing = 16},
-                                       applicationIcon("Finder", 48), std::move(texts))
-                             .frame({.maxWidth = views::infinity, .alignment = views::Alignment::leading}),
-                         views::Spacer(0), std::move(buttons))
+                                       applicationIcon(alert.icon, iconSide), textsView(alert)),
+                         buttonsView(alert))
         .padding(margin)
-        .frame({.width = alertSize.width, .height = alertSize.height})
+        .frame({.width = alertWidth})
         .background(Color::of(ColorRole::windowBackground))
         .overlay(windowEdgeView(shades));
 }
 
 }  // namespace
 
-ShownAlert::ShownAlert(const SystemAlert& alert, const platform::NSScreen& screen, const Shades& shades,
+ShownAlert::ShownAlert(const Alert& alert, const platform::NSScreen& screen, const Shades& shades,
                        platform::TextSystem& text)
-    : place(frameOn(screen.visibleFrame)), view(alertView(alert, shades), alertSize, text) {}
+    : place(frameOn(screen.visibleFrame, views::idealSize(alertView(alert, shades), text))),
+      view(alertView(alert, shades), place.size, text) {}
 
 std::optional<std::string> ShownAlert::buttonAt(const platform::CGPoint& point) const {
     const std::string* label = view.idAt(insideLaidOut(place, point));

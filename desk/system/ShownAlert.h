@@ -1,11 +1,11 @@
-// A system alert as it stands on a screen, a little above the middle: what it shows, and which button lies where. The button's label is its id; the last one is the default button.
+// An alert as it stands on a screen, a little above the middle, as high as its texts ask for: what it shows, and which button lies where. The default button is at the right. It presses nothing.
 #pragma once
 
 #include <optional>
 #include <string>
 
 #include "desk/look/Shades.h"
-#include "desk/processes/Permissions.h"
+#include "desk/processes/Alerts.h"
 #include "platform/Geometry.h"
 #include "platform/Screens.h"
 #include "views/LaidOutView.h"
@@ -14,8 +14,7 @@ namespace desk {
 
 class ShownAlert {
 public:
-    ShownAlert(const SystemAlert& alert, const platform::NSScreen& screen, const Shades& shades,
-               platform::TextSystem& text);
+    ShownAlert(const Alert& alert, const platform::NSScreen& screen, const Shades& shades, platform::TextSystem& text);
 
     // AppKit screen points, as all others here.
     const platform::CGRect& frame() const { return place; }

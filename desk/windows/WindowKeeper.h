@@ -31,6 +31,9 @@ public:
     // The press was on the frame, so that the content won't hear of it.
     virtual void makeKey(std::int64_t /*window*/) {}
 
+    // The application was opened once more, from the Dock or by another one, and is in front now.
+    virtual void reopen() {}
+
     virtual void close(std::int64_t window) = 0;
     virtual void minimize(std::int64_t window) = 0;
     // From the Dock.

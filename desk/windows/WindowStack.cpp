@@ -213,4 +213,31 @@ bool WindowStack::move(ServerWindow& window, Where where) {
     return before != after;
 }
 
+int WindowStack::makeSpace(int desktop) {
+    desktopOfOwnSpace.emplace(++lastOwnSpace, desktop);
+    return lastOwnSpace;
+}
+
+void WindowStack::removeSpace(int ownSpace) {
+    const auto removed = desktopOfOwnSpace.extract(ownSpace);
+    if (!removed.empty() && space == ownSpace) switchToSpace(removed.mapped());
+}
+
+std::vector<int> WindowStack::spacesFromTheLeft(int fewestDesktops) const {
+    int desktops = fewestDesktops;
+    const auto reach = [&](int desktop) {
+        if (desktop <= firstOwnSpace) desktops = std::max(desktops, desktop);
+    };
+    reach(space);
+    for (const ServerWindow* window : frontToBack) reach(window->space);
+    for (const auto& [own, desktop] : desktopOfOwnSpace) reach(desktop);
+    std::vector<int> spaces;
+    for (int each = 1; each <= desktops; ++each) {
+        spaces.push_back(each);
+        for (const auto& [own, desktop] : desktopOfOwnSpace)
+            if (desktop == each) spaces.push_back(own);
+    }
+    return spaces;
+}
+
 }  // namespace desk

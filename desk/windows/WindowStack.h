@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -68,8 +69,14 @@ public:
     void setSpace(std::int64_t number, int newSpace);
     // The current space is that of a single full-screen window, which covers menu bar and Dock.
     bool isFullScreenSpace() const { return space > firstOwnSpace; }
-    // A number that no space has yet, for a full-screen window; counts up from 1000.
-    int makeSpace() { return ++lastOwnSpace; }
+    // A number that no space has yet, for a full-screen window of that desktop; counts up from 1000.
+    int makeSpace(int desktop);
+    // Whoever is on it goes to the desktop that it was made for.
+    void removeSpace(int ownSpace);
+    // That many desktops, or as many as there are windows on, each with the full-screen spaces made for it on its right.
+    std::vector<int> spacesFromTheLeft(int fewestDesktops) const;
+    // The process behind all windows; 0 when there is none.
+    std::int32_t desktopOwner = 0;
 
     // Ordered in, not minimised, on the current space.
     bool isOnScreen(const ServerWindow& window) const;
@@ -107,6 +114,7 @@ private:
     int space = 1;
     static constexpr int firstOwnSpace = 1000;
     int lastOwnSpace = firstOwnSpace;
+    std::map<int, int> desktopOfOwnSpace;
     std::int64_t nextPanelNumber = firstPanelNumber;
 };
 

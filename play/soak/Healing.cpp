@@ -22,14 +22,14 @@ Line giveScreen(const Machine& machine) {
 }
 
 Line answerPrompt(const Machine& machine) {
-    if (!machine.alert()) return std::nullopt;
+    if (machine.alerts.shown() == nullptr) return std::nullopt;
     return "click label OK";
 }
 
 Line releaseMouse(const Machine& machine) {
-    if (!machine.input.isPressed()) return std::nullopt;
-    const platform::CGPoint at = machine.input.mouseLocation();
-    const bool isLeft = machine.input.isPressed(desk::MouseButton::left);
+    if (!machine.pointer.isPressed()) return std::nullopt;
+    const platform::CGPoint at = machine.pointer.location;
+    const bool isLeft = machine.pointer.isPressed(desk::MouseButton::left);
     return "mouse up " + numberWord(at.x) + ' ' + numberWord(at.y) + (isLeft ? "" : " right");
 }
 

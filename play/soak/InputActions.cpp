@@ -70,7 +70,7 @@ Lines dragBrand(const Chooser& choose) {
 // Whatever else happens comes between it and the release.
 Lines mouseDown(const Chooser& choose) {
     const auto& machine = choose.session.machine;
-    if (machine.input.isPressed()) return {};
+    if (machine.pointer.isPressed()) return {};
     const auto all = machine.windows.onScreen();
     if (all.empty()) return {};
     const platform::CGRect& frame = choose.random.pick(all)->frame;
@@ -80,18 +80,18 @@ Lines mouseDown(const Chooser& choose) {
 }
 
 Lines mouseDrag(const Chooser& choose) {
-    const auto& input = choose.session.machine.input;
-    if (!input.isPressed()) return {};
-    const platform::CGPoint at = input.mouseLocation();
+    const desk::Pointer& pointer = choose.session.machine.pointer;
+    if (!pointer.isPressed()) return {};
+    const platform::CGPoint at = pointer.location;
     return {"mouse drag " + numberWord(at.x + choose.random.between(-80, 80)) + ' ' +
             numberWord(at.y + choose.random.between(-80, 80))};
 }
 
 Lines mouseUp(const Chooser& choose) {
-    const auto& input = choose.session.machine.input;
-    if (!input.isPressed()) return {};
-    return {"mouse up " + numberWord(input.mouseLocation().x) + ' ' + numberWord(input.mouseLocation().y) +
-            (input.isPressed(desk::MouseButton::left) ? "" : " right")};
+    const desk::Pointer& pointer = choose.session.machine.pointer;
+    if (!pointer.isPressed()) return {};
+    return {"mouse up " + numberWord(pointer.location.x) + ' ' + numberWord(pointer.location.y) +
+            (pointer.isPressed(desk::MouseButton::left) ? "" : " right")};
 }
 
 Lines mouseMove(const Chooser& choose) {

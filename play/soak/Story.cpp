@@ -108,7 +108,7 @@ private:
 
     // A mouse can't: its button is down.
     bool pressesTwice(std::string_view line) const {
-        return session.machine.input.isPressed() &&
+        return session.machine.pointer.isPressed() &&
                (line.starts_with("mouse down ") || line.starts_with("click ") || line.starts_with("drag "));
     }
 

@@ -129,7 +129,7 @@ TEST_F(FinderTree, EveryWayOfFocusingBringsTheWindowForwardOnce) {
         focus(finder.mainWindow());
     }
     EXPECT_EQ(kit::stacking(machine).front(), finder.mainWindow());
-    EXPECT_EQ(machine.input.keyWindow(), 0);
+    EXPECT_EQ(machine.keyboard.keyWindow(), 0);
 }
 
 TEST_F(FinderTree, ReadsFailAsAsked) {

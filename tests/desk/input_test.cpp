@@ -167,7 +167,7 @@ TEST_F(InputTest, APanelClosedInItsOwnEventIsLetGoAfterIt) {
     panel->onEvent = [&](const NSEvent&) { panel.reset(); };
     desk.click({500, 720});
     EXPECT_TRUE(watch.expired());
-    EXPECT_EQ(desk.machine.input.keyWindow(), 0);
+    EXPECT_EQ(desk.machine.keyboard.keyWindow(), 0);
     EXPECT_EQ(desk.machine.applications.all().front()->registrations().windows, 0U);
 }
 

@@ -1,7 +1,6 @@
 // What connects the machine's parts: launching and ending applications, spaces, trust, the window list, the system prompt.
 #include <gtest/gtest.h>
 
-#include "desk/system/ShownAlert.h"
 #include "tests/desk/Probe.h"
 
 namespace {
@@ -23,7 +22,7 @@ TEST_F(MachineTest, StartsWithFinderInFrontAndNoWindow) {
     EXPECT_EQ(desk.machine.processes.frontmost()->bundleIdentifier, "com.apple.finder");
     EXPECT_TRUE(desk.machine.windows.all().empty());
     EXPECT_EQ(desk.machine.disk.kind("/Applications/Orvane.app"), platform::FileKind::directory);
-    EXPECT_FALSE(desk.machine.alert());
+    EXPECT_EQ(desk.machine.alerts.shown(), nullptr);
 }
 
 TEST_F(MachineTest, LaunchCallbacksRunWhenTheMachineSettles) {
@@ -267,14 +266,14 @@ TEST_F(MachineTest, TheSystemPromptIsAnsweredByItsButtons) {
     std::optional<platform::NSAppleScriptResult> result;
     queue->async([&] { result = script->executeAndReturnError(); });
     desk.run(5);
-    ASSERT_TRUE(desk.machine.alert());
-    EXPECT_EQ(desk.machine.alert()->buttons, (std::vector<std::string>{"Don't Allow", "OK"}));
-    EXPECT_FALSE(desk.machine.pressAlertButton("Maybe"));
-    const desk::ShownAlert shown(*desk.machine.alert(), desk.machine.displays.screens().front(), {}, desk.machine.text);
+    ASSERT_NE(desk.machine.alerts.shown(), nullptr);
+    EXPECT_EQ(desk.machine.alerts.shown()->buttons, (std::vector<std::string>{"Don't Allow", "OK"}));
+    EXPECT_FALSE(desk.machine.alerts.press("Maybe"));
+    const desk::ShownAlert shown = *desk.machine.alertSurface.shown();
     const auto button = shown.buttonLabelled("Don't Allow");
     ASSERT_TRUE(button);
     desk.click({button->midX(), button->midY()});
-    EXPECT_FALSE(desk.machine.alert());
+    EXPECT_EQ(desk.machine.alerts.shown(), nullptr);
     EXPECT_EQ(desk.machine.permissions.automation, desk::AutomationPermission::denied);
     ASSERT_TRUE(result);
     EXPECT_EQ(result->error->at(platform::NSAppleScriptErrorNumber).integer(), -1743);

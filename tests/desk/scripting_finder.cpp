@@ -137,24 +137,24 @@ TEST_F(FinderScripts, WaitForTheUsersWordAndObeyIt) {
     runOnQueue(inFinder("(count of Finder windows) as text"));
     runOnQueue(inFinder("name of front Finder window"));
     desk.run(2);
-    ASSERT_TRUE(machine.alert());
-    EXPECT_EQ(machine.alert()->buttons, (Lines{"Don't Allow", "OK"}));
+    ASSERT_NE(machine.alerts.shown(), nullptr);
+    EXPECT_EQ(machine.alerts.shown()->buttons, (Lines{"Don't Allow", "OK"}));
     EXPECT_EQ(answers, Lines{});
     machine.permissions.setAccessibility(false);
     desk.run(1);
     EXPECT_EQ(answers, Lines{});
-    machine.pressAlertButton("OK");
+    machine.alerts.press("OK");
     desk.run(1);
     EXPECT_EQ(answers, (Lines{"2 at 3.00", "Two at 3.00"}));
-    EXPECT_FALSE(machine.alert());
+    EXPECT_EQ(machine.alerts.shown(), nullptr);
 
     // On the main thread, with the person's answer as the next step; and without one.
     machine.permissions.setAutomation(desk::AutomationPermission::ask);
-    desk.then([&] { EXPECT_TRUE(machine.pressAlertButton("Don't Allow")); });
+    desk.then([&] { EXPECT_TRUE(machine.alerts.press("Don't Allow")); });
     EXPECT_EQ(run(inFinder("activate")), "-1743 Not authorized to send Apple events to Finder.");
     machine.permissions.setAutomation(desk::AutomationPermission::ask);
     EXPECT_EQ(run(inFinder("activate")), "-1743 Not authorized to send Apple events to Finder.");
-    EXPECT_FALSE(machine.alert());
+    EXPECT_EQ(machine.alerts.shown(), nullptr);
     EXPECT_EQ(run("\"1\" & 1"), "11");
 }
 

@@ -86,7 +86,7 @@ protected:
     UsingMenus() { machine.displays.set({{CGRectMake(0, 0, 1440, 900), 60, 24, 70}}); }
 
     CGPoint title(const std::string& text) {
-        const views::LaidOutView bar = input.menuBar().shown(CGRectMake(0, 876, 1440, 24));
+        const views::LaidOutView bar = machine.menuBar.shown(CGRectMake(0, 876, 1440, 24));
         const auto titles = desk::menuBarMenus(machine, *machine.processes.frontmost());
         for (std::size_t i = 0; i < titles.size(); ++i)
             if (const auto box = bar.frameOf(std::to_string(i)); titles[i] == text && box)
@@ -112,8 +112,8 @@ protected:
         return {};
     }
     CGPoint dockIcon(const std::string& name) {
-        const auto items = desk::dockItems(machine);
-        const views::LaidOutView dock = desk::shownDock(machine, {1440, 70});
+        const auto items = machine.dock.items();
+        const views::LaidOutView dock = machine.dock.shown({1440, 70});
         for (std::size_t i = 0; i < items.size(); ++i)
             if (const auto icon = dock.frameOf(std::to_string(i)); items[i].name == name)
                 return {icon->midX(), 70 - icon->midY()};
@@ -122,7 +122,7 @@ protected:
     }
     std::string dock() {
         std::string names;
-        for (const desk::DockItem& item : desk::dockItems(machine))
+        for (const desk::DockItem& item : machine.dock.items())
             names += item.name + (item.isRunning ? "* " : item.window != 0 ? "_ " : " ");
         return names;
     }

@@ -47,10 +47,10 @@ struct Windows {
                      << ')';
             text << ' ';
         }
-        std::int64_t key = machine.input.keyWindow();
+        std::int64_t key = machine.keyboard.keyWindow();
         if (key == 0) key = machine.activation.mainWindow(machine.processes.frontmost()->processIdentifier);
         text << "key " << (key == 0 ? "none" : nameOf(key));
-        for (const auto& item : desk::dockItems(machine))
+        for (const auto& item : machine.dock.items())
             if (item.window != 0) text << " Dock " << nameOf(item.window);
         return text.str();
     }
@@ -61,8 +61,8 @@ struct Windows {
         }
     }
     void clickInDock(std::int64_t window) {
-        const auto items = desk::dockItems(machine);
-        const views::LaidOutView dock = desk::shownDock(machine, {1440, 70});
+        const auto items = machine.dock.items();
+        const views::LaidOutView dock = machine.dock.shown({1440, 70});
         for (std::size_t i = 0; i < items.size(); ++i)
             if (const auto icon = dock.frameOf(std::to_string(i)); items[i].window == window)
                 desk.click({icon->midX(), 70 - icon->midY()});

@@ -1,0 +1,47 @@
+// The mouse: where it is on the screen, which of its buttons are held, and the surface that has each press until its release. What a press does is the surface's affair.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "platform/Geometry.h"
+
+namespace desk {
+
+class Surface;
+
+enum class MouseButton { left, right };
+
+class Pointer {
+public:
+    struct Press {
+        int clickCount = 1;
+        std::uint64_t modifiers = 0;  // as in KeyStroke
+        Surface* holder = nullptr;
+    };
+
+    platform::CGPoint location;
+
+    std::optional<Press>& press(MouseButton button) { return presses[static_cast<std::size_t>(button)]; }
+    const std::optional<Press>& press(MouseButton button) const { return presses[static_cast<std::size_t>(button)]; }
+    bool isPressed(MouseButton button) const { return press(button).has_value(); }
+    bool isPressed() const { return isPressed(MouseButton::left) || isPressed(MouseButton::right); }
+    std::uint64_t modifiers() const {
+        std::uint64_t held = 0;
+        for (const std::optional<Press>& each : presses)
+            if (each) held |= each->modifiers;
+        return held;
+    }
+    // Presses that last are this surface's from now on.
+    void handOver(Surface& surface) {
+        for (std::optional<Press>& each : presses)
+            if (each) each->holder = &surface;
+    }
+
+private:
+    std::array<std::optional<Press>, 2> presses;
+};
+
+}  // namespace desk
