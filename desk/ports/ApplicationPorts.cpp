@@ -32,7 +32,7 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
       bundle(application.bundle(), neighbours.disk),
       pasteboard(neighbours.clipboard),
       uuids(application.processIdentifier()),
-      updaters(neighbours.journal, application),
+      updaters(neighbours.updater, application),
       platformOfIt{neighbours.clock,
                    application.loop(),
                    application.loop(),

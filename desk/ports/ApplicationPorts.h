@@ -55,6 +55,7 @@ struct PortNeighbours {
     std::optional<std::string>& clipboard;
     platform::TextSystem& text;
     Journal& journal;
+    UpdaterNeighbours updater;
 };
 
 class ApplicationPorts final : public ApplicationBackend {

@@ -9,19 +9,19 @@ namespace desk {
 
 class UpdaterPort final : public platform::UpdaterFramework {
 public:
-    UpdaterPort(Journal& theJournal, LaunchedApplication& theApplication)
-        : journal(theJournal), application(theApplication) {}
+    UpdaterPort(const UpdaterNeighbours& theNeighbours, LaunchedApplication& theApplication)
+        : neighbours(theNeighbours), application(theApplication) {}
 
     std::unique_ptr<platform::SPUStandardUpdaterController> makeStandardUpdaterController(
-        bool startingUpdater, platform::SPUUpdaterDelegate* /*updaterDelegate*/,
+        bool startingUpdater, platform::SPUUpdaterDelegate* updaterDelegate,
         platform::SPUStandardUserDriverDelegate* /*userDriverDelegate*/) override {
-        auto made = std::make_unique<Updater>(journal, application);
+        auto made = std::make_unique<Updater>(neighbours, application, updaterDelegate);
         if (startingUpdater) made->startUpdater();
         return made;
     }
 
 private:
-    Journal& journal;
+    UpdaterNeighbours neighbours;
     LaunchedApplication& application;
 };
 

@@ -27,7 +27,8 @@ AppcastItem readItem(QXmlStreamReader& xml) {
         } else if (isAt(xml, u"shortVersionString", sparkle)) {
             item.displayVersion = textOf(xml);
         } else {
-            if (isAt(xml, u"enclosure")) item.url = xml.attributes().value(u"url").trimmed().toString().toStdString();
+            if (isAt(xml, u"enclosure"))
+                item.url = xml.attributes().value(QLatin1String("url")).trimmed().toString().toStdString();
             xml.skipCurrentElement();
         }
     }
