@@ -123,6 +123,7 @@ public:
                                 unused<platform::NSBundle>(),
                                 *this,
                                 *this,
+                                unused<platform::UpdaterFramework>(),
                                 slots};
 };
 
