@@ -99,15 +99,14 @@ void Updater::received(const std::optional<std::string>& feed, Asked asked) {
 void Updater::foundNone(Asked asked) {
     if (delegate != nullptr) delegate->updaterDidNotFindUpdate(*this);
     if (asked == Asked::byTheUser)
-        tell("“" + application.bundle().name() + "” is up to date.", "There is no newer version.",
-             AlertStyle::informational);
+        tell(application.bundle().name() + " is up to date.", "There is no newer version.", AlertStyle::informational);
 }
 
 void Updater::found(const AppcastItem& item, Asked asked) {
     if (delegate != nullptr) delegate->updaterDidFindValidUpdate(*this, {item.displayVersion});
     if (asked == Asked::byNobody) return;
     Alert alert;
-    alert.message = "“" + application.bundle().name() + "” " + item.displayVersion + " is available.";
+    alert.message = application.bundle().name() + " " + item.displayVersion + " is available.";
     alert.informative = "To install it, the application quits and opens again.";
     alert.buttons = {installNow, later};
     alert.defaultButton = installNow;

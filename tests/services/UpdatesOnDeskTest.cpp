@@ -42,9 +42,9 @@ protected:
         machine.disk.makeFile(std::string(newer) + "/Contents/new", "");
     }
 
-    Updating& launch(const std::string& path = installed) {
+    Updating& launch(const std::string& path = installed, const platform::Dictionary& over = {}) {
         desk::LaunchedApplication& launched =
-            machine.applications.launch(desk::bundleAt(machine.disk, path), [](platform::Platform& platform) {
+            machine.applications.launch(desk::bundleAt(machine.disk, path, over), [](platform::Platform& platform) {
                 return std::make_unique<Updating>(platform);
             });
         machine.settle();
@@ -77,8 +77,8 @@ protected:
     void expectInstalled(bool isNew) const {
         EXPECT_EQ(machine.disk.exists(std::string(installed) + "/Contents/new"), isNew);
         EXPECT_TRUE(machine.disk.exists(std::string(installed) + "/Contents/MacOS/Orvane"));
-        for (const desk::DiskEntry& entry : machine.disk.list("/Applications").value())
-            EXPECT_FALSE(entry.isHidden) << entry.name;
+        const auto entries = machine.disk.list("/Applications");
+        for (const desk::DiskEntry& entry : *entries) EXPECT_FALSE(entry.isHidden) << entry.name;
     }
 
     std::vector<std::string> opened;
@@ -158,11 +158,37 @@ TEST_F(Updates, VersionsAreComparedPartByPart) {
                     EXPECT_EQ(desk::compareVersions(one, other), left <=> right) << one << " and " << other;
 }
 
+TEST_F(Updates, ACopyWithoutAVersionCantTellWhatIsNewer) {
+    for (const platform::Value& version : {platform::Value(), platform::Value(1), platform::Value("")}) {
+        Updating& program = launch(installed, {{"CFBundleVersion", version}});
+        check(program, feed(item("2", "file:///Users/ana/Orvane.app")));
+        EXPECT_EQ(message(), "The check for updates failed.");
+        EXPECT_EQ(program.manager.availableVersion.get(), std::nullopt);
+        press("OK");
+    }
+}
+
+TEST_F(Updates, AskingAgainBringsTheOpenDialogForward) {
+    const std::string offer = feed(item("2", "file:///Users/ana/Orvane.app"));
+    Updating& first = launch();
+    Updating& second = launch();
+    check(first, offer);
+    check(second, offer);
+    for (Updating* each : {&second, &first, &second}) {
+        const auto& all = machine.applications.all();
+        const auto& process = each == &first ? all.front() : all.back();
+        check(*each, feed(""));
+        EXPECT_EQ(message(), "Orvane 2 is available.");
+        EXPECT_EQ(machine.alerts.shown()->owner, process->processIdentifier());
+    }
+    press("Later");
+    EXPECT_EQ(machine.alerts.shown()->owner, machine.applications.all().front()->processIdentifier());
+}
+
 TEST_F(Updates, AnUpdateThatCantBeHadLeavesTheOldVersionAndItsProcess) {
     machine.disk.makeFile("/Users/ana/file", "");
     machine.disk.makeFolder("/Users/ana/Empty.app");
-    const auto image = machine.disk.hostPath("/Users").value();
-    ASSERT_EQ(machine.disk.mount("/Volumes/Image", image), std::nullopt);
+    ASSERT_EQ(machine.disk.mount("/Applications/Mounted.app", *machine.disk.hostPath(newer)), std::nullopt);
     struct Case {
         std::string copy, url;
     };
@@ -173,7 +199,7 @@ TEST_F(Updates, AnUpdateThatCantBeHadLeavesTheOldVersionAndItsProcess) {
                              {installed, "/Users/ana/Orvane.app"},
                              {installed, "file:///Users/ana/Orvane.app%00"},
                              {installed, "file:///"},
-                             {"/Volumes/Image/ana/Orvane.app", "file:///Applications/Orvane.app"}}) {
+                             {"/Applications/Mounted.app", "file:///Users/ana/Orvane.app"}}) {
         Updating& program = launch(each.copy);
         program.agrees = true;
         check(program, feed(item("2", each.url)));
@@ -188,7 +214,8 @@ TEST_F(Updates, AnUpdateThatCantBeHadLeavesTheOldVersionAndItsProcess) {
 }
 
 TEST_F(Updates, AReplacementTakesPlaceOnlyIfTheProcessAgreesToEnd) {
-    const std::string offer = feed(item("2", "file:///Users/ana/Orvane.app"));
+    machine.disk.makeSymbolicLink("/Users/ana/The newest.app", "Orvane.app");
+    const std::string offer = feed(item("2", "file:///Users/ana/The%20newest.app"));
     Updating& program = launch();
     check(program, offer);
     press("Install and Relaunch");
@@ -202,6 +229,10 @@ TEST_F(Updates, AReplacementTakesPlaceOnlyIfTheProcessAgreesToEnd) {
     expectInstalled(true);
     EXPECT_EQ(opened, std::vector<std::string>{installed});
     EXPECT_TRUE(machine.disk.exists(newer));
+    std::vector<std::string> told;
+    for (const desk::JournalEntry& entry : machine.journal.entries()) told.push_back(entry.what);
+    EXPECT_EQ(told, (std::vector<std::string>{"updater start", "updater check", "updater relaunch", "terminate refused",
+                                              "updater check", "updater relaunch", "terminate accepted"}));
 }
 
 TEST_F(Updates, AProcessThatEndsTakesItsCheckItsDialogAndItsFetchAlong) {
