@@ -25,6 +25,7 @@ Machine::Machine(platform::TextSystem& theText)
       finder(neighboursOfFinder()),
       scripting(finder, neighboursOfFinder()),
       applications(scheduler, processes, [this](LaunchedApplication& application) { return makePorts(application); }),
+      systemSettings(disk, applications, launchServices, permissions),
       alertSurface(alerts, displays, appearance, text),
       toolTips(*this),
       menus(*this),

@@ -28,6 +28,7 @@
 #include "desk/processes/Processes.h"
 #include "desk/processes/SketchedWindows.h"
 #include "desk/processes/WindowJournal.h"
+#include "desk/settings/SystemSettings.h"
 #include "desk/system/AlertSurface.h"
 #include "desk/system/Dock.h"
 #include "desk/time/Scheduler.h"
@@ -74,6 +75,7 @@ public:
     std::map<std::string, platform::Dictionary> defaults;
     std::optional<std::string> clipboard;
     Applications applications;
+    SystemSettings systemSettings;
 
     // What stands on the screens, front to back.
     AlertSurface alertSurface;

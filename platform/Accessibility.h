@@ -10,9 +10,13 @@
 #include <variant>
 #include <vector>
 
+#include "platform/Dictionary.h"
 #include "platform/Geometry.h"
 
 namespace platform {
+
+// Of AXIsProcessTrustedWithOptions: a boolean.
+inline constexpr const char* kAXTrustedCheckOptionPrompt = "AXTrustedCheckOptionPrompt";
 
 enum class AXError { success, failure, invalidUIElement, cannotComplete, apiDisabled };
 
@@ -74,6 +78,8 @@ public:
     virtual ~Accessibility() = default;
 
     virtual bool AXIsProcessTrusted() = 0;
+    // The same answer, that of this moment. Without trust, and with kAXTrustedCheckOptionPrompt true, the system also asks the user, for whom nobody waits.
+    virtual bool AXIsProcessTrustedWithOptions(const Dictionary& options) = 0;
 
     virtual AXUIElement AXUIElementCreateApplication(std::int32_t processIdentifier) = 0;
     // Empty on any error and for a missing value. A synchronous call into the other process.

@@ -13,6 +13,8 @@ public:
     virtual ~NSUserDefaults() = default;
     // Empty when nothing is stored or registered, or it isn't text.
     virtual std::optional<std::string> stringForKey(const std::string& key) = 0;
+    // Booleans, numbers other than 0, and the texts "YES", "true" and such numbers count as true, whatever their case; anything else is false.
+    virtual bool boolForKey(const std::string& key) = 0;
     // A failed write loses that preference and nothing else.
     virtual void setObject(const std::string& key, Value value) = 0;
 };

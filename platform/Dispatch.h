@@ -56,6 +56,9 @@ public:
     virtual void mainTask(Block block) = 0;
 
     virtual std::unique_ptr<SerialQueue> makeSerialQueue(std::string label, QualityOfService qualityOfService) = 0;
+    // Runs the block once, off the main thread, on a thread that goes when it has ended. Called on the main thread; a block that hasn't begun when the application
+    // ends is dropped.
+    virtual void detachedTask(QualityOfService qualityOfService, Block block) = 0;
     virtual bool isMainThread() const = 0;
 
     // For the calling thread, any. Null where calls leave nothing behind.

@@ -46,6 +46,8 @@ public:
 
     // Opens the files with the application at that path, with a default configuration and nobody told of the outcome. Paths, absolute.
     virtual void openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) = 0;
+    // Starts the application at that path, or brings it forward, with a default configuration and nobody told of the outcome.
+    virtual void openApplicationAtURL(const std::string& applicationPath) = 0;
     // Opens an address with whatever the user has for it. Answers whether anything took it.
     virtual bool openURL(const std::string& url) = 0;
 };

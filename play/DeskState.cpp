@@ -176,6 +176,12 @@ QJsonValue updates(const Session& session) {
                        {"canCheckForUpdates", updates.canCheckForUpdates.get()}};
 }
 
+QJsonObject permissions(const desk::Machine& machine) {
+    constexpr const char* automation[] = {"allowed", "denied", "ask"};
+    return {{"accessibility", machine.permissions.accessibility},
+            {"automation", automation[static_cast<int>(machine.permissions.automation)]}};
+}
+
 QJsonObject counts(Session& session) {
     brindle::FinderObserver::Counts observed;
     if (const auto* orvane = session.orvane()) observed = orvane->appDelegate.finderObserver().counts();
@@ -220,6 +226,8 @@ QJsonObject stateOf(Session& session) {
             {"popover", popoverOf(machine)},
             {"alert", alert(machine)},
             {"windows", windowsOf(session)},
+            {"systemSettings", systemSettingsOf(machine)},
+            {"permissions", permissions(machine)},
             {"clipboard", jsonText(machine.clipboard)},
             {"opened", opened(machine)},
             {"defaults", plainValue(session.defaults())},

@@ -93,12 +93,38 @@ void setAppearance(ScriptPlayer& player, const Arguments& arguments) {
     player.machine().appearance.colorScheme.setIfChanged(choose(schemes, arguments, 0));
 }
 
+void setAutomationCode(desk::Faults& faults, const Arguments& arguments) {
+    faults.automationCode.reset();
+    if (arguments.is(2, "off")) return;
+    const std::int64_t code = arguments.integer(2);
+    if (code != static_cast<std::int32_t>(code)) badCommand("no code of 32 bits: " + arguments.text(2));
+    faults.automationCode = static_cast<std::int32_t>(code);
+}
+
+void setAutomationLatency(desk::Faults& faults, const Arguments& arguments) {
+    faults.automationLatency = platform::seconds(arguments.seconds(2));
+}
+
+void setAutomationFault(ScriptPlayer& player, const Arguments& arguments) {
+    static constexpr Choice<void (*)(desk::Faults&, const Arguments&)> faults[] = {{"code", setAutomationCode},
+                                                                                   {"latency", setAutomationLatency}};
+    if (!arguments.is(0, "automation")) badCommand("unknown permission: " + arguments.text(0));
+    choose(faults, arguments, 1)(player.machine().faults, arguments);
+}
+
+void setUrls(ScriptPlayer& player, const Arguments& arguments) {
+    static constexpr Choice<bool> outcomes[] = {{"work", false}, {"fail", true}};
+    arguments.requireCount(1, 1);
+    player.machine().faults.urlsFail = choose(outcomes, arguments, 0);
+}
+
 void setPermission(ScriptPlayer& player, const Arguments& arguments) {
     static constexpr Choice<bool> trust[] = {{"granted", true}, {"missing", false}};
     static constexpr Choice<desk::AutomationPermission> automation[] = {
         {"allowed", desk::AutomationPermission::allowed},
         {"denied", desk::AutomationPermission::denied},
         {"ask", desk::AutomationPermission::ask}};
+    if (arguments.count() == 3) return setAutomationFault(player, arguments);
     arguments.requireCount(2, 2);
     auto& permissions = player.machine().permissions;
     if (arguments.is(0, "accessibility")) {
@@ -142,6 +168,7 @@ const std::vector<Command>& machineCommands() {
                                             {"screens", removeScreens},
                                             {"appearance", setAppearance},
                                             {"permission", setPermission},
+                                            {"urls", setUrls},
                                             {"clock", setClock}};
     return table;
 }

@@ -4,6 +4,7 @@
 
 #include <QJsonObject>
 
+#include "desk/settings/SettingsProgram.h"
 #include "play/Json.h"
 #include "play/Session.h"
 #include "views/HostingView.h"
@@ -60,38 +61,50 @@ QJsonObject controlOf(const NSWindow& window, const AccessibilityElement& elemen
             {"visible", element.isVisible}};
 }
 
-QJsonObject windowOf(const NSWindow& window) {
+// Frame, texts and controls.
+QJsonObject contentsOf(const NSWindow& window) {
     QJsonArray texts;
     QJsonArray controls;
     for (const AccessibilityElement& element : elementsOf(window)) {
         for (const std::string& text : element.texts) texts.append(jsonText(std::string_view(text)));
         if (const char* role = roleOf(element)) controls.append(controlOf(window, element, role));
     }
-    return {{"title", jsonText(std::string_view(window.settings().title))},
-            {"number", static_cast<double>(window.windowNumber())},
-            {"frame", frameOf(window.frame())},
-            {"key", window.isKeyWindow()},
-            {"style", static_cast<double>(window.settings().styleMask)},
-            {"texts", texts},
-            {"controls", controls}};
+    return {{"frame", frameOf(window.frame())}, {"texts", texts}, {"controls", controls}};
 }
 
-}  // namespace
+QJsonObject windowOf(const NSWindow& window) {
+    QJsonObject object = contentsOf(window);
+    object.insert("title", jsonText(std::string_view(window.settings().title)));
+    object.insert("number", static_cast<double>(window.windowNumber()));
+    object.insert("key", window.isKeyWindow());
+    object.insert("style", static_cast<double>(window.settings().styleMask));
+    return object;
+}
 
-std::vector<NSWindow*> ordinaryWindows(const Session& session) {
+// Of these processes, on screen, front to back.
+std::vector<NSWindow*> ordinaryWindows(const Session& session, std::initializer_list<std::int32_t> owners) {
     std::vector<NSWindow*> windows;
-    const auto* application = session.application();
-    if (application == nullptr) return windows;
     for (const desk::ServerWindow* shown : session.machine.windows.onScreen()) {
-        const bool isOrdinary = shown->owner == application->processIdentifier() && shown->window != nullptr &&
-                                !shown->window->settings().isPanel;
-        if (isOrdinary) windows.push_back(shown->window);
+        const bool isOrdinary = shown->window != nullptr && !shown->window->settings().isPanel;
+        if (isOrdinary && std::find(owners.begin(), owners.end(), shown->owner) != owners.end())
+            windows.push_back(shown->window);
     }
     return windows;
 }
 
+std::int32_t applicationsProcess(const Session& session) {
+    const auto* application = session.application();
+    return application == nullptr ? 0 : application->processIdentifier();
+}
+
+std::vector<NSWindow*> reachableWindows(const Session& session) {
+    return ordinaryWindows(session, {applicationsProcess(session), session.machine.systemSettings.processIdentifier()});
+}
+
+}  // namespace
+
 NSWindow* ordinaryWindow(const Session& session, std::string_view title) {
-    const auto windows = ordinaryWindows(session);
+    const auto windows = reachableWindows(session);
     const auto found = std::find_if(windows.begin(), windows.end(),
                                     [&](const NSWindow* each) { return each->settings().title == title; });
     return found == windows.end() ? nullptr : *found;
@@ -99,12 +112,23 @@ NSWindow* ordinaryWindow(const Session& session, std::string_view title) {
 
 QJsonArray windowsOf(const Session& session) {
     QJsonArray list;
-    for (const NSWindow* window : ordinaryWindows(session)) list.append(windowOf(*window));
+    for (const NSWindow* window : ordinaryWindows(session, {applicationsProcess(session)}))
+        list.append(windowOf(*window));
     return list;
 }
 
+QJsonValue systemSettingsOf(const desk::Machine& machine) {
+    constexpr const char* panes[] = {"accessibility", "automation"};
+    const desk::SettingsProgram* program = machine.systemSettings.program();
+    const NSWindow* window = program == nullptr ? nullptr : program->shownWindow();
+    if (window == nullptr) return {};
+    QJsonObject object = contentsOf(*window);
+    object.insert("pane", panes[static_cast<int>(program->pane())]);
+    return object;
+}
+
 std::optional<platform::CGPoint> controlLabelled(const Session& session, std::string_view label) {
-    const auto windows = ordinaryWindows(session);
+    const auto windows = reachableWindows(session);
     if (windows.empty()) return std::nullopt;
     for (const AccessibilityElement& element : elementsOf(*windows.front())) {
         const bool hasText = std::find(element.texts.begin(), element.texts.end(), label) != element.texts.end();

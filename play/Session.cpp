@@ -59,7 +59,7 @@ void Session::setDefault(const std::string& key, const std::optional<platform::V
 desk::LaunchedApplication* Session::application() const {
     const auto& all = machine.applications.all();
     for (auto entry = all.rbegin(); entry != all.rend(); ++entry)
-        if (!(*entry)->isDead() && (*entry)->program() != nullptr) return entry->get();
+        if (orvane(**entry) != nullptr) return entry->get();
     return nullptr;
 }
 

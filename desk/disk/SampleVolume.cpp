@@ -74,6 +74,7 @@ void makeSampleVolume(Disk& disk) {
 
 void makeScratchContents(Disk& disk) {
     constexpr SampleFile scratchFiles[] = {
+        {"/System/Applications/System Settings.app/Contents/Info.plist", "<plist/>\n"},
         {"/System/Applications/Utilities/Terminal.app/Contents/Info.plist", "<plist/>\n"},
         {"/System/Library/CoreServices/Finder.app/Contents/Info.plist", "<plist/>\n"},
     };

@@ -41,7 +41,7 @@ public:
         if (!compiled) return failed(compilation);
 
         const WorkerQueue::Visit visit;
-        ScriptSender sender(scripting, application);
+        ScriptSender sender(scripting.neighbours.permissions, application);
         if (sender.isGone()) return failed({-609, "Connection is invalid."});
         const platform::Duration latency = scripting.neighbours.faults.scriptLatency;
         const std::uint64_t place = scripting.record(source);

@@ -37,7 +37,6 @@ public:
     const std::deque<SentScript>& sentScripts() const { return scripts; }
 
 private:
-    friend class ScriptSender;
     class Script;
 
     // A script is listed when it is sent; its error is filled in when that is known.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 
-#include "desk/finder/FinderScripting.h"
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Permissions.h"
 #include "desk/time/WorkerQueue.h"
@@ -34,7 +33,6 @@ bool ScriptSender::wait(platform::Duration duration) {
 }
 
 bool ScriptSender::waitForAutomationAnswer() {
-    Permissions& permissions = scripting.neighbours.permissions;
     permissions.beginWait(application.bundle().name());
     const bool answered = parkUntilAnswered();
     permissions.endWait();
@@ -42,11 +40,10 @@ bool ScriptSender::waitForAutomationAnswer() {
 }
 
 bool ScriptSender::parkUntilAnswered() {
-    const Permissions& permissions = scripting.neighbours.permissions;
     const auto isAnswered = [&] { return permissions.automation != AutomationPermission::ask; };
     WorkerQueue* queue = WorkerQueue::current();
     if (queue == nullptr) return application.loop().blockUntil(isAnswered) && !isGone();
-    const platform::Token token = scripting.neighbours.permissions.changed.subscribe([&isAnswered, queue] {
+    const platform::Token token = permissions.changed.subscribe([&isAnswered, queue] {
         if (isAnswered()) queue->resume();
     });
     while (!isGone() && !isAnswered()) gone = !queue->waitForResume();

@@ -1,5 +1,5 @@
-// The thread that has sent a script to Finder, as something that can wait: the application's main thread or one of its queues. While it waits the machine
-// goes on. It decides nothing about how long.
+// The thread that has sent a script to Finder, or asked whether it may, as something that can wait: the application's main thread or one of its queues. While it
+// waits the machine goes on. It decides nothing about how long.
 #pragma once
 
 #include "platform/Time.h"
@@ -7,12 +7,12 @@
 namespace desk {
 
 class LaunchedApplication;
-class FinderScripting;
+class Permissions;
 
 class ScriptSender {
 public:
-    ScriptSender(FinderScripting& theScripting, LaunchedApplication& theApplication)
-        : scripting(theScripting), application(theApplication) {}
+    ScriptSender(Permissions& thePermissions, LaunchedApplication& theApplication)
+        : permissions(thePermissions), application(theApplication) {}
 
     // False when the application ended meanwhile, and from then on.
     bool wait(platform::Duration duration);
@@ -23,7 +23,7 @@ public:
 private:
     bool parkUntilAnswered();
 
-    FinderScripting& scripting;
+    Permissions& permissions;
     LaunchedApplication& application;
     bool gone = false;
 };

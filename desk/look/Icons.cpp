@@ -23,11 +23,13 @@ constexpr double plateRounding = 0.225;
 struct Plate {
     std::string_view name;
     std::uint32_t color;
-    std::string_view glyph;  // none: a folder
-    double glyphSize;        // of the plate's side
+    std::string_view glyph;
+    double glyphSize;              // of the plate's side
+    const char* symbol = nullptr;  // in place of the glyph
 };
-constexpr std::array knownPlates{Plate{"Finder", 0x1E88F7, "", 0.68}, Plate{"Terminal", 0x26282C, ">_", 0.3},
-                                 Plate{"TextEdit", 0x2563C9, "{ }", 0.34},
+constexpr std::array knownPlates{Plate{"Finder", 0x1E88F7, "", 0.68, "folder.icon"},
+                                 Plate{"System Settings", 0x7A7A80, "", 0.6, "gearshape"},
+                                 Plate{"Terminal", 0x26282C, ">_", 0.3}, Plate{"TextEdit", 0x2563C9, "{ }", 0.34},
                                  Plate{"Visual Studio Code", 0x2563C9, "{ }", 0.34}};
 constexpr double initialSize = 0.52;
 
@@ -75,9 +77,10 @@ View applicationIcon(std::string_view name, double side) {
     const auto known =
         std::find_if(knownPlates.begin(), knownPlates.end(), [name](const Plate& each) { return each.name == name; });
     const bool isKnown = known != knownPlates.end();
-    View glyph = !isKnown               ? glyphView(initialOf(name), initialSize * plate)
-                 : known->glyph.empty() ? folderIcon(known->glyphSize * plate)
-                                        : glyphView(known->glyph, known->glyphSize * plate);
+    View glyph = !isKnown ? glyphView(initialOf(name), initialSize * plate)
+                 : known->symbol != nullptr
+                     ? picture(known->symbol, known->glyphSize * plate).foregroundStyle(ColorRole::white)
+                     : glyphView(known->glyph, known->glyphSize * plate);
     const Color color = Color::hex(isKnown ? known->color : plateColorOf(name));
     return views::ZStack(
                {}, views::RoundedRectangle(plateRounding * plate).fill(color).frame({.width = plate, .height = plate}),

@@ -55,10 +55,10 @@ std::vector<const ServerWindow*> windowsOf(const Machine& machine, std::int32_t 
     return own;
 }
 
-void quit(Machine& machine, std::int32_t process) {
-    for (const ServerWindow* window : machine.windows.all())
-        if (window->owner == process) machine.windows.remove(window->number);
-    machine.processes.remove(process);
+// An agent's menu bar holds its name alone.
+bool isAgent(Machine& machine, const Process& process) {
+    return machine.applications.find(process.processIdentifier) != nullptr &&
+           process.policy != platform::NSApplicationActivationPolicy::regular;
 }
 
 std::vector<MenuItem> otherItems(Machine& machine, const Process& process, const std::string& title) {
@@ -66,11 +66,12 @@ std::vector<MenuItem> otherItems(Machine& machine, const Process& process, const
     const auto own = windowsOf(machine, owner);
     std::vector<MenuItem> items;
     if (title.empty())
-        items.push_back({"Quit " + process.name, "", true, false, [&machine, owner] { quit(machine, owner); }});
+        items.push_back({"Quit " + process.name, "", true, false,
+                         [&machine, owner] { machine.processes.end(owner, Ending::asked); }});
     if (title == "File")
         items.push_back({"Close Window", "", !own.empty(), false, [&machine, owner] {
                              const auto left = windowsOf(machine, owner);
-                             if (!left.empty()) machine.windows.remove(left.front()->number);
+                             if (!left.empty()) machine.processes.keeperOf(owner).close(left.front()->number);
                          }});
     if (title == "Window")
         for (const ServerWindow* window : own)
@@ -83,13 +84,13 @@ std::vector<MenuItem> otherItems(Machine& machine, const Process& process, const
 
 std::vector<std::string> menuBarMenus(Machine& machine, const Process& frontmost) {
     if (isFindersProcess(machine, frontmost)) return {frontmost.name, "File", "Edit", "View", "Go", "Window"};
-    if (machine.applications.find(frontmost.processIdentifier) != nullptr) return {frontmost.name};
+    if (isAgent(machine, frontmost)) return {frontmost.name};
     return {frontmost.name, "File", "Window"};
 }
 
 std::vector<platform::MenuItem> menuBarItems(Machine& machine, const Process& frontmost, const std::string& title) {
     if (isFindersProcess(machine, frontmost)) return finderItems(machine, title);
-    if (machine.applications.find(frontmost.processIdentifier) != nullptr) return {};
+    if (isAgent(machine, frontmost)) return {};
     return otherItems(machine, frontmost, title);
 }
 

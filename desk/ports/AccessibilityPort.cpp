@@ -3,6 +3,7 @@
 #include "desk/finder/Finder.h"
 #include "desk/finder/FinderAccessibility.h"
 #include "desk/ports/ObserverPort.h"
+#include "desk/processes/Journal.h"
 #include "desk/processes/LaunchedApplication.h"
 #include "desk/processes/Permissions.h"
 
@@ -12,6 +13,15 @@ using platform::AXError;
 using platform::AXUIElement;
 
 bool AccessibilityPort::AXIsProcessTrusted() {
+    return permissions.accessibility;
+}
+
+bool AccessibilityPort::AXIsProcessTrustedWithOptions(const platform::Dictionary& options) {
+    const platform::Value* mayAsk = platform::find(options, platform::kAXTrustedCheckOptionPrompt);
+    if (application.isDead() || mayAsk == nullptr || !mayAsk->boolean().value_or(false))
+        return permissions.accessibility;
+    journal.note(application.processIdentifier(), "accessibility request");
+    if (!permissions.accessibility) permissions.askForAccessibility(application.bundle().name());
     return permissions.accessibility;
 }
 

@@ -10,15 +10,18 @@
 namespace desk {
 
 class Finder;
+class Journal;
 class LaunchedApplication;
 class Permissions;
 
 class AccessibilityPort final : public platform::Accessibility {
 public:
-    AccessibilityPort(Finder& theFinder, Permissions& thePermissions, LaunchedApplication& theApplication)
-        : finder(theFinder), permissions(thePermissions), application(theApplication) {}
+    AccessibilityPort(Finder& theFinder, Permissions& thePermissions, Journal& theJournal,
+                      LaunchedApplication& theApplication)
+        : finder(theFinder), permissions(thePermissions), journal(theJournal), application(theApplication) {}
 
     bool AXIsProcessTrusted() override;
+    bool AXIsProcessTrustedWithOptions(const platform::Dictionary& options) override;
     platform::AXUIElement AXUIElementCreateApplication(std::int32_t processIdentifier) override;
     std::optional<platform::AXAttributeValue> AXUIElementCopyAttributeValue(const platform::AXUIElement& element,
                                                                             std::string_view attribute) override;
@@ -37,6 +40,7 @@ private:
 
     Finder& finder;
     Permissions& permissions;
+    Journal& journal;
     LaunchedApplication& application;
     std::shared_ptr<std::size_t> subscriptions = std::make_shared<std::size_t>(0);  // of all observers
 };

@@ -37,6 +37,17 @@ void ApplicationWindows::makeKey(std::int64_t window) {
     post(window, [](NSWindow& shown) { shown.makeKeyWindow(); });
 }
 
+// Without a window to be seen, one that is minimised comes back.
+void ApplicationWindows::reopen() {
+    std::int64_t minimized = 0;
+    for (const ServerWindow* window : stack.all()) {
+        if (window->owner != application.processIdentifier()) continue;
+        if (stack.isOnScreen(*window)) return;
+        if (window->minimized) minimized = window->number;
+    }
+    if (minimized != 0) restore(minimized);
+}
+
 void ApplicationWindows::close(std::int64_t window) {
     post(window, [](NSWindow& shown) { shown.performClose(); });
 }

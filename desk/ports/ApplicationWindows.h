@@ -21,6 +21,7 @@ public:
     WindowTraits traits(std::int64_t window) const override;
     void bringForward(std::int64_t window) override;
     void makeKey(std::int64_t window) override;
+    void reopen() override;
     void close(std::int64_t window) override;
     void minimize(std::int64_t window) override;
     void restore(std::int64_t window) override;

@@ -15,6 +15,7 @@ public:
         : domain(theDomain), application(theApplication) {}
 
     std::optional<std::string> stringForKey(const std::string& key) override;
+    bool boolForKey(const std::string& key) override;
     void setObject(const std::string& key, platform::Value value) override;
 
 private:

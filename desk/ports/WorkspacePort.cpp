@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "desk/processes/Activation.h"
+#include "desk/processes/Faults.h"
 #include "desk/processes/Journal.h"
 #include "desk/processes/LaunchServices.h"
 #include "desk/processes/LaunchedApplication.h"
@@ -50,8 +51,12 @@ void WorkspacePort::openURLs(const std::vector<std::string>& filePaths, const st
     if (!application.isDead()) launchServices.openFiles(filePaths, applicationPath);
 }
 
+void WorkspacePort::openApplicationAtURL(const std::string& applicationPath) {
+    openURLs({}, applicationPath);
+}
+
 bool WorkspacePort::openURL(const std::string& url) {
-    if (application.isDead()) return false;
+    if (application.isDead() || faults.urlsFail) return false;
     launchServices.openAddress(url);
     return true;
 }

@@ -12,6 +12,7 @@
 namespace desk {
 
 class Activation;
+class Faults;
 class Journal;
 class LaunchServices;
 class LaunchedApplication;
@@ -21,10 +22,11 @@ struct Process;
 class WorkspacePort final : public platform::Workspace {
 public:
     WorkspacePort(Processes& theProcesses, Activation& theActivation, LaunchServices& theLaunchServices,
-                  Journal& theJournal, LaunchedApplication& theApplication)
+                  Faults& theFaults, Journal& theJournal, LaunchedApplication& theApplication)
         : processes(theProcesses),
           activation(theActivation),
           launchServices(theLaunchServices),
+          faults(theFaults),
           journal(theJournal),
           application(theApplication) {}
 
@@ -34,6 +36,7 @@ public:
     bool activate(std::int32_t processIdentifier, unsigned options) override;
     platform::Token addObserver(platform::WorkspaceNotification notification, std::function<void()> block) override;
     void openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) override;
+    void openApplicationAtURL(const std::string& applicationPath) override;
     bool openURL(const std::string& url) override;
 
     // Inside a turn of the application.
@@ -51,6 +54,7 @@ private:
     Processes& processes;
     Activation& activation;
     LaunchServices& launchServices;
+    Faults& faults;
     Journal& journal;
     LaunchedApplication& application;
     platform::Registry<Observer> observers;

@@ -1,4 +1,5 @@
-// What goes wrong on the machine on request: Accessibility reads, entries of the window list, scripts to Finder, notifications. The machine's parts ask here;
+// What goes wrong on the machine on request: Accessibility reads, entries of the window list, scripts to Finder, checks of
+// permissions, notifications, opening of URLs. The machine's parts ask here;
 // nothing in here acts.
 #pragma once
 
@@ -26,8 +27,11 @@ public:
     bool hasWindowListFaults() const { return !windowList.empty(); }
 
     platform::Duration scriptLatency{0};
-    std::optional<std::string> scriptError;   // every script fails with this message
-    std::optional<std::string> scriptAnswer;  // every script answers this text
+    std::optional<std::string> scriptError;      // every script fails with this message
+    std::optional<std::string> scriptAnswer;     // every script answers this text
+    std::optional<std::int32_t> automationCode;  // every check of the Automation permission answers it
+    platform::Duration automationLatency{0};     // of such a check, beside the user's time at the prompt
+    bool urlsFail = false;                       // no URL can be opened
     NotificationFault notifications = NotificationFault::deliver;
     platform::Duration notificationDelay{0};  // of NotificationFault::late
 

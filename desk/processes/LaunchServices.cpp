@@ -90,6 +90,7 @@ void LaunchServices::openNow(const std::vector<std::string>& paths, const std::s
     const bool isThere = std::all_of(paths.begin(), paths.end(), [&](const auto& path) { return disk.exists(path); });
     if (!isThere || disk.kind(applicationPath) != platform::FileKind::directory) return;
     openedFiles.push_back({applicationPath, paths});
+    if (paths.empty()) return openApplication(applicationPath);
     const std::int32_t owner = runningAt(applicationPath);
     for (const std::string& path : paths) {
         const double shift = cascadeStep * static_cast<double>(nextNumber % cascadeLength);
@@ -101,6 +102,12 @@ void LaunchServices::openNow(const std::vector<std::string>& paths, const std::s
 
 void LaunchServices::openDocuments(const std::vector<std::string>& paths) {
     if (const auto editor = knownEditor(disk)) openFiles(paths, *editor);
+}
+
+void LaunchServices::openAddress(const std::string& url) {
+    openedFiles.push_back({"", {url}});
+    for (const auto& [beginning, open] : addressHandlers)
+        if (url.starts_with(beginning)) scheduler.after({}, [open = open, url] { open(url); });
 }
 
 void LaunchServices::openApplication(const std::string& applicationPath) {

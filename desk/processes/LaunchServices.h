@@ -41,13 +41,14 @@ public:
     // Another process with one ordinary window, behind all others. Its bundle stands in /Applications unless a path is given; an empty one: it has none.
     void startOtherProcess(const std::string& bundleIdentifier,
                            const std::optional<std::string>& bundlePath = std::nullopt);
-    // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front. Nothing happens when one of the
+    // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front; without any
+    // it is opened as from the Dock. Nothing happens when one of the
     // files or the application isn't there.
     void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
     // Files with the application that documents belong to; nothing happens without one.
     void openDocuments(const std::vector<std::string>& paths);
-    // An address of the network. Nothing comes to the front: what would show it isn't there.
-    void openAddress(const std::string& url) { openedFiles.push_back({"", {url}}); }
+    // An address goes to who takes its kind, later in this instant. Of the network, nothing comes to the front: what would show it isn't there.
+    void openAddress(const std::string& url);
     // The application at that path, as from the Dock: it is started if it doesn't run, comes to the front with all it has, and has a window.
     void openApplication(const std::string& applicationPath);
 
@@ -59,6 +60,10 @@ public:
     // The desk's own application at that path, which is there whatever the disk holds; `start` makes its process.
     void addOwnApplication(std::string path, std::function<void()> start) {
         ownApplications.insert_or_assign(std::move(path), std::move(start));
+    }
+    // Whoever takes the addresses that begin so.
+    void addAddressHandler(std::string beginning, std::function<void(const std::string& url)> open) {
+        addressHandlers.insert_or_assign(std::move(beginning), std::move(open));
     }
 
 private:
@@ -79,6 +84,7 @@ private:
     Activation& activation;
     std::vector<OpenedFiles> openedFiles;
     std::map<std::string, std::function<void()>> ownApplications;
+    std::map<std::string, std::function<void(const std::string& url)>> addressHandlers;
     // Apart from the numbers of Finder's windows and of applications' own.
     std::int64_t nextNumber = 1'000'001;
 };

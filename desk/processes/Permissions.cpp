@@ -10,17 +10,36 @@ namespace {
 
 constexpr const char* dontAllow = "Don't Allow";
 constexpr const char* allow = "OK";
+constexpr const char* deny = "Deny";
+constexpr const char* openSettings = "Open System Settings";
 
 }  // namespace
 
 void Permissions::setAccessibility(bool granted) {
     accessibility = granted;
+    if (granted) alerts.withdraw(std::exchange(accessibilityPrompt, 0));
     changed();
 }
 
 void Permissions::setAutomation(AutomationPermission permission) {
     automation = permission;
     changed();
+}
+
+void Permissions::askForAccessibility(const std::string& application) {
+    if (accessibilityPrompt != 0) return;
+    Alert alert;
+    alert.source = "system";
+    alert.icon = "System Settings";
+    alert.message = "“" + application + "” would like to control this computer using accessibility features.";
+    alert.informative = "Grant access to this application in Accessibility settings, located in System Settings.";
+    alert.buttons = {deny, openSettings};
+    alert.defaultButton = openSettings;
+    alert.cancelButton = deny;
+    accessibilityPrompt = alerts.show(std::move(alert), [this](const std::string& button) {
+        accessibilityPrompt = 0;
+        if (button == openSettings) accessibilitySettingsWanted();
+    });
 }
 
 void Permissions::beginWait(const std::string& application) {

@@ -23,6 +23,10 @@ public:
 
     void setAccessibility(bool granted);
     void setAutomation(AutomationPermission permission);
+    // Puts up the system's prompt for an application, unless it is up already; nobody waits. It only leads to System Settings, and goes when the permission is given.
+    void askForAccessibility(const std::string& application);
+    // The user wants to see where Accessibility is given.
+    platform::Signal<> accessibilitySettingsWanted;
 
     // Somebody waits for the user; the prompt is up while anybody does, in the name of the first. Answering it sets `automation` and wakes who waits.
     void beginWait(const std::string& application);
@@ -31,6 +35,7 @@ public:
 private:
     Alerts& alerts;
     std::uint64_t prompt = 0;
+    std::uint64_t accessibilityPrompt = 0;
     int waiters = 0;
 };
 

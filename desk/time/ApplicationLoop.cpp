@@ -154,6 +154,16 @@ std::unique_ptr<platform::SerialQueue> ApplicationLoop::makeSerialQueue(
     return std::make_unique<QueueHandle>(queues.back());
 }
 
+// The queue goes in a turn after its one block; a shut-down ends it with the others.
+void ApplicationLoop::detachedTask(platform::QualityOfService /*qualityOfService*/, platform::Block block) {
+    if (isShutDown()) return;
+    queues.push_back(std::make_shared<WorkerQueue>(scheduler, "detached"));
+    queues.back()->async([this, queue = queues.back().get(), block = std::move(block)] {
+        block();
+        mainAsync([this, queue] { std::erase_if(queues, [&](const auto& each) { return each.get() == queue; }); });
+    });
+}
+
 void ApplicationLoop::pruneQueues() {
     std::erase_if(queues, [](const auto& queue) { return queue->isClosed() && queue->isIdle(); });
 }

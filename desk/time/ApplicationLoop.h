@@ -30,6 +30,7 @@ public:
     void mainTask(platform::Block block) override;
     std::unique_ptr<platform::SerialQueue> makeSerialQueue(std::string label,
                                                            platform::QualityOfService qualityOfService) override;
+    void detachedTask(platform::QualityOfService qualityOfService, platform::Block block) override;
     bool isMainThread() const override;
     std::unique_ptr<platform::Timer> addTimer(platform::Duration period, bool repeats, platform::Duration tolerance,
                                               platform::Block block) override;

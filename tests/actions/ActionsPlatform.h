@@ -45,6 +45,11 @@ public:
         return refusesScripts ? nullptr : std::make_unique<Script>(*this, source);
     }
 
+    platform::OSStatus AEDeterminePermissionToAutomateTarget(const platform::NSAppleEventDescriptor&, std::uint32_t,
+                                                             std::uint32_t, bool) override {
+        return platform::noErr;
+    }
+
     void clearContents() override { pasteboard.clear(); }
     bool setString(const std::string& text) override {
         pasteboard.push_back(text);
@@ -57,6 +62,7 @@ public:
     std::int32_t currentProcessIdentifier() const override { return 1; }
     bool activate(std::int32_t, unsigned) override { return false; }
     platform::Token addObserver(platform::WorkspaceNotification, std::function<void()>) override { return {}; }
+    void openApplicationAtURL(const std::string&) override {}
     bool openURL(const std::string&) override { return false; }
     void openURLs(const std::vector<std::string>& filePaths, const std::string& applicationPath) override {
         opened.emplace_back(applicationPath, filePaths);

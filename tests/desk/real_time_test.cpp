@@ -4,6 +4,8 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <filesystem>
+#include <iterator>
 #include <mutex>
 #include <thread>
 
@@ -141,6 +143,44 @@ TEST_F(InRealTime, EndTurnsAwayWhoWaitsAndWhoComesLater) {
     EXPECT_LT(atTheEnd, rounds);
     scheduler.settle();
     EXPECT_EQ(begun, atTheEnd);
+}
+
+std::ptrdiff_t threadCount() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
+
+// A thread that has been joined may be listed a moment longer.
+bool threadsComeDownTo(std::ptrdiff_t count, desk::Scheduler& scheduler) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (threadCount() != count && std::chrono::steady_clock::now() < deadline) {
+        scheduler.settle();
+        std::this_thread::yield();
+    }
+    return threadCount() == count;
+}
+
+TEST_F(InRealTime, DetachedTasksGoWhenTheyHaveEndedAndAreEndedWithTheApplication) {
+    const std::ptrdiff_t before = threadCount();
+    int done = 0;
+    for (int i = 0; i < rounds; ++i)
+        loop.detachedTask(platform::QualityOfService::userInitiated, [&] {
+            const WorkerQueue::Visit visit;
+            ++done;
+        });
+    runUntil([&] { return done == rounds; });
+    EXPECT_TRUE(threadsComeDownTo(before, scheduler));
+
+    bool isWaiting = false;
+    bool isRefused = false;
+    loop.detachedTask(platform::QualityOfService::userInitiated, [&] {
+        const WorkerQueue::Visit visit;
+        isWaiting = true;
+        isRefused = !WorkerQueue::current()->waitForResume();
+    });
+    runUntil([&] { return isWaiting; });
+    loop.shutDown();
+    EXPECT_TRUE(isRefused);
+    EXPECT_TRUE(threadsComeDownTo(before, scheduler));
 }
 
 // The thread sanitizer would see the main thread and the queue meet.

@@ -170,6 +170,9 @@ public:
     std::unique_ptr<platform::SerialQueue> makeSerialQueue(std::string label, platform::QualityOfService) override {
         return std::make_unique<FakeQueue>(*this, std::move(label));
     }
+    void detachedTask(platform::QualityOfService, platform::Block block) override {
+        queued.emplace_back("detached", std::move(block));
+    }
     bool isMainThread() const override { return isOnMain; }
     std::unique_ptr<platform::Timer> addTimer(platform::Duration period, bool, platform::Duration,
                                               platform::Block block) override {
@@ -195,6 +198,7 @@ public:
         return signal.subscribe(std::move(block));
     }
     void openURLs(const std::vector<std::string>&, const std::string&) override {}
+    void openApplicationAtURL(const std::string&) override {}
     bool openURL(const std::string&) override { return false; }
 
     const std::vector<platform::NSScreen>& screens() override { return displays; }
@@ -218,6 +222,7 @@ public:
     }
 
     bool AXIsProcessTrusted() override { return isTrusted; }
+    bool AXIsProcessTrustedWithOptions(const platform::Dictionary&) override { return isTrusted; }
     platform::AXUIElement AXUIElementCreateApplication(std::int32_t pid) override { return {pid, 0}; }
     std::optional<platform::AXAttributeValue> AXUIElementCopyAttributeValue(const platform::AXUIElement& element,
                                                                             std::string_view attribute) override {
@@ -245,6 +250,10 @@ public:
         return std::make_unique<FakeAXObserver>(*this, callback);
     }
 
+    platform::OSStatus AEDeterminePermissionToAutomateTarget(const platform::NSAppleEventDescriptor&, std::uint32_t,
+                                                             std::uint32_t, bool) override {
+        return platform::noErr;
+    }
     std::unique_ptr<platform::NSAppleScript> makeAppleScript(const std::string& source) override {
         scriptsMade += 1;
         return std::make_unique<FakeScript>(*this, source);
@@ -388,6 +397,7 @@ private:
     };
     struct NoDefaults final : platform::NSUserDefaults {
         std::optional<std::string> stringForKey(const std::string&) override { return std::nullopt; }
+        bool boolForKey(const std::string&) override { return false; }
         void setObject(const std::string&, platform::Value) override {}
     };
     struct NoBundle final : platform::NSBundle {

@@ -65,6 +65,7 @@ public:
     std::unique_ptr<platform::SerialQueue> makeSerialQueue(std::string, platform::QualityOfService) override {
         return nullptr;
     }
+    void detachedTask(platform::QualityOfService, platform::Block) override {}
     bool isMainThread() const override { return true; }
     std::unique_ptr<platform::Timer> addTimer(platform::Duration, bool, platform::Duration, platform::Block) override {
         return nullptr;
@@ -74,6 +75,7 @@ public:
         const auto found = stored.find(key);
         return found == stored.end() ? std::nullopt : std::optional(found->second);
     }
+    bool boolForKey(const std::string&) override { return false; }
     void setObject(const std::string& key, platform::Value value) override {
         defaultsWrites += 1;
         stored[key] = *value.as<std::string>();

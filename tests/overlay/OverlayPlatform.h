@@ -64,6 +64,7 @@ public:
     void terminate() override { note("terminate"); }
 
     bool AXIsProcessTrusted() override { return fake.isTrusted; }
+    bool AXIsProcessTrustedWithOptions(const platform::Dictionary&) override { return fake.isTrusted; }
     platform::AXUIElement AXUIElementCreateApplication(std::int32_t pid) override { return {pid, 0}; }
     std::optional<platform::AXAttributeValue> AXUIElementCopyAttributeValue(const platform::AXUIElement& element,
                                                                             std::string_view attribute) override {
@@ -96,6 +97,7 @@ public:
         return fake.addObserver(notification, std::move(block));
     }
     void openURLs(const std::vector<std::string>&, const std::string&) override {}
+    void openApplicationAtURL(const std::string&) override {}
     bool openURL(const std::string&) override { return false; }
 
     std::optional<std::string> bundleIdentifier() override { return ownBundleIdentifier; }

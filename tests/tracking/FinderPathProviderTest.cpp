@@ -92,6 +92,10 @@ TEST(FinderPathProvider, AnErrorIsAnEmptyAnswerAndScriptsAreMadeOnce) {
 
 TEST(FinderPathProvider, ARefusedSourceIsNotTriedAgain) {
     struct Refusing final : platform::AppleEvents {
+        platform::OSStatus AEDeterminePermissionToAutomateTarget(const platform::NSAppleEventDescriptor&, std::uint32_t,
+                                                                 std::uint32_t, bool) override {
+            return platform::noErr;
+        }
         std::unique_ptr<platform::NSAppleScript> makeAppleScript(const std::string&) override {
             asked += 1;
             return nullptr;
