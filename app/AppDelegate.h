@@ -12,7 +12,9 @@
 
 #include "app/AboutWindowController.h"
 #include "overlay/FinderOverlayCoordinator.h"
+#include "platform/Lifetime.h"
 #include "platform/Platform.h"
+#include "services/UpdateManager.h"
 #include "tracking/AccessibilityManager.h"
 #include "tracking/FinderObserver.h"
 
@@ -31,6 +33,7 @@ public:
     // The about window, centred and in front.
     void showAbout() { aboutWindowController.show(); }
 
+    const UpdateManager& updates() const { return *updateManager; }
     const FinderObserver& finderObserver() const { return *observer; }
     // Null until the launch has made it.
     const FinderOverlayCoordinator* coordinator() const { return overlayCoordinator.get(); }
@@ -42,14 +45,16 @@ private:
     void startObserverOnce();
 
     platform::Platform& platform;
-    // In the order in which they are made. The login item, updates, analytics, the installer and the Automation permission
-    // belong before the coordinator, in this order; the other two windows behind the first.
+    // In the order in which they are made. The login item belongs before the updates; analytics, the installer and the
+    // Automation permission before the coordinator, in this order; the other two windows behind the first.
+    std::shared_ptr<UpdateManager> updateManager;
     std::unique_ptr<FinderOverlayCoordinator> overlayCoordinator;
     AboutWindowController aboutWindowController;
     bool observerStarted = false;
     bool allowsTermination = false;
     std::shared_ptr<AccessibilityManager> accessibilityManager;
     std::shared_ptr<FinderObserver> observer;
+    platform::Lifetime lifetime;
 };
 
 }  // namespace brindle

@@ -167,7 +167,7 @@ std::optional<Finding> checkRegistrations(const Rest& rest) {
     constexpr std::size_t globalMonitors = 3;
     constexpr std::size_t localMonitors = 1;
     constexpr std::size_t workspaceObservers = 2;
-    constexpr std::size_t timers = 1;
+    constexpr std::size_t timers = 2;  // the poll and the daily check for updates
     const auto registered = rest.application.registrations();
     if (registered.globalMonitors != globalMonitors || registered.localMonitors != localMonitors ||
         registered.workspaceObservers != workspaceObservers || registered.timers != timers)
