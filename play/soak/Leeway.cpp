@@ -118,9 +118,9 @@ void Leeway::noteFalls() {
 
 bool Leeway::isInnocent(const std::string& id) const {
     const auto& bar = *coordinatorOf(session)->liveControllers().at(id);
-    // The field that is closing in this turn may still take the keyboard, and the bar forward with it.
-    const bool isClosingField = !bar.viewModel->isEditing.get() && showsPathField(session, bar.panel->windowNumber());
-    return otherWindowsMoved || isClosingField || hasComeForward(*bar.parentWindowNumber) || bar.isDragging ||
+    // A field that has not had the keyboard yet asks for it, even while it closes. If its bar has lost the keyboard by then, the bar comes forward.
+    const bool fieldAsks = bar.panel->firstResponder() == nullptr && showsPathField(session, bar.panel->windowNumber());
+    return otherWindowsMoved || fieldAsks || hasComeForward(*bar.parentWindowNumber) || bar.isDragging ||
            (bar.viewModel->isEditing.get() && clickMissesWindow(bar));
 }
 
