@@ -47,6 +47,8 @@ Leeway::Leeway(Session& theSession) : session(theSession) {
 }
 
 void Leeway::look() {
+    const bool wasPressed = std::exchange(isPressed, session.machine.input.isPressed(desk::MouseButton::left));
+    if (isPressed && !wasPressed) frontAtPress = frontWindow();
     if (coordinatorOf(session) == nullptr || listenedTo == coordinatorOf(session)) return;
     listenedTo = coordinatorOf(session);
     const auto& application = *session.orvane();
@@ -121,7 +123,19 @@ bool Leeway::isInnocent(const std::string& id) const {
     // A field that has not had the keyboard yet asks for it, even while it closes. If its bar has lost the keyboard by then, the bar comes forward.
     const bool fieldAsks = bar.panel->firstResponder() == nullptr && showsPathField(session, bar.panel->windowNumber());
     return otherWindowsMoved || fieldAsks || hasComeForward(*bar.parentWindowNumber) || bar.isDragging ||
-           (bar.viewModel->isEditing.get() && clickMissesWindow(bar));
+           (bar.viewModel->isEditing.get() &&
+            (clickMissesWindow(bar) || wasOvertakenSincePress(*bar.parentWindowNumber)));
+}
+
+// The press brings the window forward, the release opens the field and brings the bar forward.
+bool Leeway::wasOvertakenSincePress(std::int64_t window) const {
+    return frontAtPress == window && frontWindow() != window;
+}
+
+std::int64_t Leeway::frontWindow() const {
+    for (const auto* shown : session.machine.windows.onScreen())
+        if (shown->level == 0 && shown->window == nullptr) return shown->number;
+    return 0;
 }
 
 // A window that was in front of all others but its bar, and is raised all the same.
