@@ -49,6 +49,7 @@ Leeway::Leeway(Session& theSession) : session(theSession) {
 void Leeway::look() {
     const bool wasPressed = std::exchange(isPressed, session.machine.input.isPressed(desk::MouseButton::left));
     if (isPressed && !wasPressed) frontAtPress = frontWindow();
+    if (!isPressed) missedByPress.clear();
     if (coordinatorOf(session) == nullptr || listenedTo == coordinatorOf(session)) return;
     listenedTo = coordinatorOf(session);
     const auto& application = *session.orvane();
@@ -88,8 +89,19 @@ void Leeway::published() {
 }
 
 void Leeway::stackChanged() {
+    notePress();
     noteMoves();
     noteFalls();
+}
+
+// A bar that takes another window for its own brings that one forward, and a pass may move it before the release, so that it is no longer where the bar looked.
+void Leeway::notePress() {
+    const auto* coordinator = coordinatorOf(session);
+    if (coordinator == nullptr || !session.machine.input.isPressed(desk::MouseButton::left)) return;
+    const platform::CGPoint mouse = session.machine.input.mouseLocation();
+    for (const auto& [id, bar] : coordinator->liveControllers())
+        if (platform::CGRectContainsPoint(bar->panel->frame(), mouse) && clickMissesWindow(*bar))
+            missedByPress.insert(id);
 }
 
 void Leeway::noteMoves() {
@@ -124,7 +136,7 @@ bool Leeway::isInnocent(const std::string& id) const {
     const bool fieldAsks = bar.panel->firstResponder() == nullptr && showsPathField(session, bar.panel->windowNumber());
     return otherWindowsMoved || fieldAsks || hasComeForward(*bar.parentWindowNumber) || bar.isDragging ||
            (bar.viewModel->isEditing.get() &&
-            (clickMissesWindow(bar) || wasOvertakenSincePress(*bar.parentWindowNumber)));
+            (missedByPress.contains(id) || clickMissesWindow(bar) || wasOvertakenSincePress(*bar.parentWindowNumber)));
 }
 
 // The press brings the window forward, the release opens the field and brings the bar forward.
@@ -150,7 +162,7 @@ bool Leeway::hasComeForward(std::int64_t window) const {
 // Opening the path field brings the bar forward, and the window with it where the bar finds it: by the frame that it had when something shown last changed.
 bool Leeway::clickMissesWindow(const brindle::FinderOverlayWindowController& bar) const {
     const desk::Machine& machine = session.machine;
-    const auto* own = machine.windows.find(*bar.parentWindowNumber);
+    const auto* own = machine.windows.find(bar.parentWindowNumber.value_or(0));
     const auto& state = bar.viewModel->windowState.get();
     if (own == nullptr || !state) return false;
     // Without a screen there are no coordinates to compare.

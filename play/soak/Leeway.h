@@ -51,6 +51,7 @@ private:
 
     void stackChanged();
     void published();
+    void notePress();
     void noteMoves();
     void noteFalls();
     bool isInnocent(const std::string& id) const;
@@ -68,8 +69,9 @@ private:
     std::map<std::string, Fall> falls;
     std::vector<std::int64_t> otherWindows;  // on screen, front to back, without the application's own
     bool otherWindowsMoved = false;
-    bool isPressed = false;         // the left button
-    std::int64_t frontAtPress = 0;  // the window that was in front once that press had been handled
+    bool isPressed = false;               // the left button
+    std::set<std::string> missedByPress;  // bars that couldn't find their windows when they were pressed
+    std::int64_t frontAtPress = 0;        // the window that was in front once that press had been handled
     std::vector<platform::Token> subscriptions;
 };
 
