@@ -165,8 +165,8 @@ bool Leeway::clickMissesWindow(const brindle::FinderOverlayWindowController& bar
     const auto* own = machine.windows.find(bar.parentWindowNumber.value_or(0));
     const auto& state = bar.viewModel->windowState.get();
     if (own == nullptr || !state) return false;
-    // Without a screen there are no coordinates to compare.
-    if (machine.displays.options().empty()) return true;
+    // Without a screen there are no coordinates to compare, and without trust nothing can be read.
+    if (machine.displays.options().empty() || !machine.permissions.accessibility) return true;
     for (const char* attribute : {"AXWindows", "AXRole", "AXMinimized", "AXPosition", "AXSize"})
         if (machine.faults.accessibilityFault(attribute, own->number) != desk::ReadFault::none) return true;
     const double distance = brindle::frameDistance(own->frame, state->frame);
