@@ -87,6 +87,12 @@ void checkForUpdates(ScriptPlayer& player, const Arguments& arguments) {
     player.machine().updateFeed.checkNow(living->processIdentifier());
 }
 
+void showAbout(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(0, 0);
+    if (player.session().orvane() == nullptr) missingTarget("no copy of the application runs");
+    Session::showAbout(*player.session().application());
+}
+
 }  // namespace
 
 const std::vector<Command>& applicationCommands() {
@@ -94,6 +100,7 @@ const std::vector<Command>& applicationCommands() {
                                             {"info", setInfo},
                                             {"process", startProcess},
                                             {"launch", launchApplication},
+                                            {"about", showAbout},
                                             {"terminate", endProcess<desk::Ending::asked>},
                                             {"kill", endProcess<desk::Ending::forced>},
                                             {"feed", setFeed},

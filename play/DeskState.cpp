@@ -168,18 +168,18 @@ QJsonArray opened(const desk::Machine& machine) {
     });
 }
 
+QJsonObject permissions(const desk::Machine& machine) {
+    constexpr const char* automation[] = {"allowed", "denied", "ask"};
+    return {{"accessibility", machine.permissions.accessibility},
+            {"automation", automation[static_cast<int>(machine.permissions.automation)]}};
+}
+
 QJsonValue updates(const Session& session) {
     const auto* orvane = session.orvane();
     if (orvane == nullptr) return {};
     const brindle::UpdateManager& updates = orvane->appDelegate.updates();
     return QJsonObject{{"availableVersion", jsonText(updates.availableVersion.get())},
                        {"canCheckForUpdates", updates.canCheckForUpdates.get()}};
-}
-
-QJsonObject permissions(const desk::Machine& machine) {
-    constexpr const char* automation[] = {"allowed", "denied", "ask"};
-    return {{"accessibility", machine.permissions.accessibility},
-            {"automation", automation[static_cast<int>(machine.permissions.automation)]}};
 }
 
 QJsonObject counts(Session& session) {

@@ -39,7 +39,10 @@ void Session::launch(const std::string& bundlePath) {
         machine.applications.launch(desk::bundleAt(machine.disk, bundlePath, info), [](platform::Platform& platform) {
             return std::make_unique<OrvaneProgram>(platform);
         });
-    if (!showsAbout) return;
+    if (showsAbout) showAbout(copy);
+}
+
+void Session::showAbout(desk::LaunchedApplication& copy) {
     copy.loop().mainAsync([&copy] { orvaneIn(copy).appDelegate.showAbout(); });
 }
 

@@ -39,6 +39,8 @@ public:
     void launch(const std::string& bundlePath);
     // A copy shows its about window once it has been launched.
     bool showsAbout = false;
+    // In a turn of that copy, which is alive.
+    static void showAbout(desk::LaunchedApplication& copy);
     bool hasLaunched() const { return launched; }
 
     // The living copy that was launched last, and what runs in it; null without one.

@@ -46,27 +46,28 @@ CGRect MenuLayer::roomAround(const CGPoint& point) const {
 std::uint64_t MenuLayer::openBelow(std::int32_t owner, const CGRect& anchor, std::vector<platform::MenuItem> items) {
     MenuLayout layout(items, machine.text);
     const CGRect frame = placeMenuBelow(anchor, layout.size(), roomAround({anchor.minX(), anchor.minY()}));
-    return open(owner, std::move(items), std::move(layout), frame, anchor);
+    return open(owner, std::move(items), std::move(layout), frame, anchor, MouseButton::left);
 }
 
 std::uint64_t MenuLayer::openAt(std::int32_t owner, const CGPoint& point, std::vector<platform::MenuItem> items) {
     MenuLayout layout(items, machine.text);
     const CGRect frame = placeMenuAt(point, layout.size(), roomAround(point));
     return open(owner, std::move(items), std::move(layout), frame,
-                CGRectMake(point.x - slop, point.y - slop, 2 * slop, 2 * slop));
+                CGRectMake(point.x - slop, point.y - slop, 2 * slop, 2 * slop),
+                machine.pointer.isPressed(MouseButton::right) ? MouseButton::right : MouseButton::left);
 }
 
 std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem> items, MenuLayout layout,
-                              const CGRect& frame, const CGRect& source) {
+                              const CGRect& frame, const CGRect& source, MouseButton button) {
     closeMenu();
     ++lastNumber;
     if (items.empty()) return lastNumber;
     tracked.emplace(
         Tracked{lastNumber, owner, OpenMenu(std::move(items), std::move(layout), frame), source, std::nullopt});
-    if (machine.pointer.isPressed()) {
+    if (machine.pointer.isPressed(button)) {
         tracked->pressedAt = machine.pointer.location;
         held = HeldPress{owner, {}, {}};
-        machine.pointer.handOver(*this);
+        machine.pointer.handOver(button, *this);
     }
     machine.windows.changed();
     return lastNumber;

@@ -26,6 +26,7 @@ namespace desk {
 
 class LaunchedApplication;
 class Machine;
+enum class MouseButton;
 
 struct ShownPopover {
     const OpenPopover* popover;
@@ -84,8 +85,9 @@ private:
     };
     using Taker = std::optional<std::int32_t>;
 
+    // `button`: whose press, if it is held, opened it and goes on in it.
     std::uint64_t open(std::int32_t owner, std::vector<platform::MenuItem> items, MenuLayout layout,
-                       const platform::CGRect& frame, const platform::CGRect& source);
+                       const platform::CGRect& frame, const platform::CGRect& source, MouseButton button);
 
     Taker mouseDown(const platform::NSEvent& event);
     Taker mouseDragged(const platform::NSEvent& event);

@@ -116,6 +116,10 @@ std::deque<std::string> clearingLines(const Session& session) {
     for (const auto* window : session.machine.finder.windows())
         lines.push_back("finder close " + numberWord(window->number));
     lines.emplace_back("finder close front");
+    if (session.orvane() == nullptr) return lines;
+    // Wherever it is, it comes to the front with the keyboard.
+    lines.emplace_back("about");
+    lines.emplace_back("key cmd+w");
     return lines;
 }
 
