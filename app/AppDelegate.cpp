@@ -6,6 +6,7 @@ namespace brindle {
 
 AppDelegate::AppDelegate(platform::Platform& thePlatform)
     : platform(thePlatform),
+      updateManager(std::make_shared<UpdateManager>(thePlatform)),
       aboutWindowController(thePlatform),
       accessibilityManager(std::make_shared<AccessibilityManager>(thePlatform)),
       observer(std::make_shared<FinderObserver>(thePlatform, accessibilityManager,
@@ -18,6 +19,8 @@ void AppDelegate::applicationWillFinishLaunching() {
 
 void AppDelegate::applicationDidFinishLaunching() {
     if (terminateIfAnotherInstanceIsRunning()) return;
+    updateManager->updaterController().startUpdater();
+    updateManager->onWillRelaunchApplication = lifetime.guard([this] { allowsTermination = true; });
     DebugLog::write(platform, accessibilityManager->isTrusted.get() ? "launch trusted=true" : "launch trusted=false");
     makeOverlayCoordinator();
     startObserverOnce();

@@ -12,7 +12,9 @@
 
 #include "app/AboutWindowController.h"
 #include "overlay/FinderOverlayCoordinator.h"
+#include "platform/Lifetime.h"
 #include "platform/Platform.h"
+#include "services/UpdateManager.h"
 #include "tracking/AccessibilityManager.h"
 #include "tracking/FinderObserver.h"
 
@@ -33,7 +35,9 @@ public:
     void quit();
 
     AccessibilityManager& accessibility() { return *accessibilityManager; }
+    UpdateManager& updates() { return *updateManager; }
 
+    const UpdateManager& updates() const { return *updateManager; }
     const FinderObserver& finderObserver() const { return *observer; }
     // Null until the launch has made it.
     const FinderOverlayCoordinator* coordinator() const { return overlayCoordinator.get(); }
@@ -45,14 +49,16 @@ private:
     void startObserverOnce();
 
     platform::Platform& platform;
-    // In the order in which they are made. The login item, updates, analytics, the installer and the Automation permission
-    // belong before the coordinator, in this order; the other two windows behind the first.
+    // In the order in which they are made. The login item belongs before the updates; analytics, the installer and the
+    // Automation permission before the coordinator, in this order; the other two windows behind the first.
+    std::shared_ptr<UpdateManager> updateManager;
     std::unique_ptr<FinderOverlayCoordinator> overlayCoordinator;
     AboutWindowController aboutWindowController;
     bool observerStarted = false;
     bool allowsTermination = false;
     std::shared_ptr<AccessibilityManager> accessibilityManager;
     std::shared_ptr<FinderObserver> observer;
+    platform::Lifetime lifetime;
 };
 
 }  // namespace brindle

@@ -15,7 +15,10 @@ views::MenuBarExtra OrvaneApp::body() {
     return views::MenuBarExtra(
                [this, nothing] {
                    return OrvaneMenuView{views::ObservedObject<AccessibilityManager>(appDelegate.accessibility()),
-                                         nothing, nothing, [this] { appDelegate.showAbout(); },
+                                         views::ObservedObject<UpdateManager>(appDelegate.updates()),
+                                         nothing,
+                                         nothing,
+                                         [this] { appDelegate.showAbout(); },
                                          [this] { appDelegate.quit(); }};
                },
                views::Image(MenuBarIcon::image()).accessibilityLabel("Orvane"))

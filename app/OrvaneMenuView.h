@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "services/UpdateManager.h"
 #include "tracking/AccessibilityManager.h"
 #include "views/Views.h"
 
@@ -10,13 +11,17 @@ namespace brindle {
 
 struct OrvaneMenuView {
     views::ObservedObject<AccessibilityManager> accessibilityManager;
+    views::ObservedObject<UpdateManager> updateManager;
     std::function<void()> showPermissionGuide;
     std::function<void()> showSettings;
     std::function<void()> showAbout;
     std::function<void()> quit;
 
-    void connect(views::Context& context) { context.connect(accessibilityManager); }
+    void connect(views::Context& context) { context.connect(accessibilityManager, updateManager); }
     views::View body() const;
+
+private:
+    views::View updateRow() const;
 };
 
 }  // namespace brindle

@@ -85,29 +85,18 @@ struct Stage {
 
 platform::Platform withEvents(const platform::Platform& original, platform::Events& events,
                               platform::SharedSlots& slots) {
-    return {original.clock,
-            original.dispatch,
-            original.runLoop,
-            original.workspace,
-            original.screens,
-            original.appearance,
-            original.windowServer,
-            original.accessibility,
-            original.appleEvents,
-            events,
-            original.application,
-            original.windows,
-            original.menus,
-            original.text,
-            original.images,
-            original.textBoundaries,
-            original.collation,
-            original.files,
-            original.defaults,
-            original.bundle,
-            original.pasteboard,
-            original.uuids,
-            slots};
+    return {original.clock,        original.dispatch,
+            original.runLoop,      original.workspace,
+            original.screens,      original.appearance,
+            original.windowServer, original.accessibility,
+            original.appleEvents,  events,
+            original.application,  original.windows,
+            original.menus,        original.text,
+            original.images,       original.textBoundaries,
+            original.collation,    original.files,
+            original.defaults,     original.bundle,
+            original.pasteboard,   original.uuids,
+            original.updaters,     slots};
 }
 
 // The calls that a pass makes, in its order.

@@ -33,6 +33,7 @@
 #include "desk/system/Dock.h"
 #include "desk/time/Scheduler.h"
 #include "desk/time/WallClock.h"
+#include "desk/updates/UpdateFeed.h"
 #include "desk/windows/Displays.h"
 #include "desk/windows/Pointer.h"
 #include "desk/windows/WindowStack.h"
@@ -65,6 +66,7 @@ public:
     Faults faults;
     Alerts alerts;
     Permissions permissions{alerts};
+    UpdateFeed updateFeed{disk};
     platform::TextSystem& text;
     platform::Appearance appearance;
     Finder finder;

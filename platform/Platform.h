@@ -24,6 +24,7 @@
 #include "platform/Text.h"
 #include "platform/TextBoundaries.h"
 #include "platform/Time.h"
+#include "platform/Updater.h"
 #include "platform/Uuid.h"
 #include "platform/WindowServer.h"
 #include "platform/Windows.h"
@@ -77,6 +78,7 @@ struct Platform {
     NSBundle& bundle;
     NSPasteboard& pasteboard;
     UUIDSource& uuids;
+    UpdaterFramework& updaters;
     SharedSlots& slots;
 
     // The one T of this application; T is made from the Platform on first use.

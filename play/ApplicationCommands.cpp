@@ -67,6 +67,26 @@ void launchApplication(ScriptPlayer& player, const Arguments& arguments) {
     player.session().launch(path);
 }
 
+void setFeed(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1000);
+    auto& feed = player.machine().updateFeed;
+    if (arguments.is(0, "latency")) {
+        arguments.requireCount(2, 2);
+        feed.latency = platform::seconds(arguments.seconds(1));
+    } else if (arguments.count() == 1 && arguments.is(0, "off")) {
+        feed.goOff();
+    } else {
+        feed.answer(arguments.rest(0));
+    }
+}
+
+void checkForUpdates(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(0, 0);
+    const auto* living = player.session().application();
+    if (living == nullptr) missingTarget("no copy of the application runs");
+    player.machine().updateFeed.checkNow(living->processIdentifier());
+}
+
 }  // namespace
 
 const std::vector<Command>& applicationCommands() {
@@ -75,7 +95,9 @@ const std::vector<Command>& applicationCommands() {
                                             {"process", startProcess},
                                             {"launch", launchApplication},
                                             {"terminate", endProcess<desk::Ending::asked>},
-                                            {"kill", endProcess<desk::Ending::forced>}};
+                                            {"kill", endProcess<desk::Ending::forced>},
+                                            {"feed", setFeed},
+                                            {"update-check", checkForUpdates}};
     return table;
 }
 

@@ -174,6 +174,14 @@ QJsonObject permissions(const desk::Machine& machine) {
             {"automation", automation[static_cast<int>(machine.permissions.automation)]}};
 }
 
+QJsonValue updates(const Session& session) {
+    const auto* orvane = session.orvane();
+    if (orvane == nullptr) return {};
+    const brindle::UpdateManager& updates = orvane->appDelegate.updates();
+    return QJsonObject{{"availableVersion", jsonText(updates.availableVersion.get())},
+                       {"canCheckForUpdates", updates.canCheckForUpdates.get()}};
+}
+
 QJsonObject counts(Session& session) {
     brindle::FinderObserver::Counts observed;
     if (const auto* orvane = session.orvane()) observed = orvane->appDelegate.finderObserver().counts();
@@ -244,6 +252,7 @@ QJsonObject stateOf(Session& session) {
             {"processes", processes(machine)},
             {"scripts", scripts(machine)},
             {"counts", counts(session)},
+            {"updates", updates(session)},
             {"journal", journal(machine)},
             {"log", log(machine)},
             {"date", dateOf(machine)}};

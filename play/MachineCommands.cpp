@@ -44,6 +44,13 @@ void removeEntry(ScriptPlayer& player, const Arguments& arguments) {
     if (!player.machine().disk.remove(arguments.path(0))) badCommand("it can't be removed: " + arguments.path(0));
 }
 
+void copyEntry(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(2, 2);
+    player.requirePath(arguments.path(0));
+    if (!player.machine().disk.copy(arguments.path(0), arguments.path(1)))
+        badCommand("it can't be copied there: " + arguments.path(1));
+}
+
 void makeUnreadable(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1);
     player.requirePath(arguments.path(0));
@@ -155,6 +162,7 @@ const std::vector<Command>& machineCommands() {
                                             {"folder", makeFolder},
                                             {"file", makeFile},
                                             {"remove", removeEntry},
+                                            {"copy", copyEntry},
                                             {"unreadable", makeUnreadable},
                                             {"screen", addScreen},
                                             {"screens", removeScreens},

@@ -64,7 +64,6 @@ bool HostingView::openContextMenu(const platform::NSEvent& event) {
 }
 
 void HostingView::rightMouseDown(const platform::NSEvent& event) {
-    press.reset();
     openContextMenu(event);
 }
 

@@ -55,8 +55,12 @@ bool Disk::copy(const std::string& source, const std::string& destination) {
 
 bool Disk::move(const std::string& source, const std::string& destination) {
     const auto from = placeToWrite(source, Last::taken);
-    if (!from || isMountOrParentOfOne(from->path)) return false;
-    return copy(source, destination) && remove(source);
+    const auto to = placeToWrite(destination, Last::taken);
+    const bool isAllowed = from && from->exists && to && !to->exists && !isMountOrParentOfOne(from->path) &&
+                           !isAtOrBelow(from->path, to->path);
+    if (!isAllowed) return false;
+    if (&mountOf(from->path) != &mountOf(to->path)) return copy(source, destination) && remove(source);
+    return host::makeFolders(platform::deletingLastPathComponent(to->host)) && host::rename(from->host, to->host);
 }
 
 }  // namespace desk

@@ -67,6 +67,7 @@ public:
     bool remove(const std::string& path);
     // Folders with all that they hold; links are copied as links. The destination is the new entry itself, and nothing may be there.
     bool copy(const std::string& source, const std::string& destination);
+    // The same; one step, within one volume.
     bool move(const std::string& source, const std::string& destination);
     bool isWritable(const std::string& path) const;
     std::optional<std::string> read(const std::string& path) const;

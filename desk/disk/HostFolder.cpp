@@ -164,6 +164,13 @@ bool copyAll(const std::string& source, const std::string& destination) {
     return !error;
 }
 
+bool rename(const std::string& source, const std::string& destination) {
+    if (::rename(source.c_str(), destination.c_str()) != 0) return false;
+    setFixedDate(source);
+    setFixedDate(destination);
+    return true;
+}
+
 void setFixedDate(const std::string& path) {
     const timespec times[2] = {{fixedDate, 0}, {fixedDate, 0}};
     ::utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW);

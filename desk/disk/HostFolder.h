@@ -39,6 +39,8 @@ bool makeFolders(const std::string& path);
 bool makeLink(const std::string& path, const std::string& target);
 bool removeAll(const std::string& path);
 bool copyAll(const std::string& source, const std::string& destination);
+// At one stroke, and only within a file system of the host.
+bool rename(const std::string& source, const std::string& destination);
 
 // Things made on the machine carry one date, so that no test sees the day on which it runs.
 void setFixedDate(const std::string& path);

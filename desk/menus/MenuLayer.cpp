@@ -48,27 +48,32 @@ CGRect MenuLayer::roomAround(const CGPoint& point) const {
 }
 
 std::uint64_t MenuLayer::openBelow(std::int32_t owner, const CGRect& anchor, std::vector<platform::MenuItem> items) {
-    return open(owner, std::move(items), anchor, [this, anchor](CGSize size) {
-        return placeMenuBelow(anchor, size, roomAround({anchor.minX(), anchor.minY()}));
-    });
+    return open(
+        owner, std::move(items), anchor,
+        [this, anchor](CGSize size) {
+            return placeMenuBelow(anchor, size, roomAround({anchor.minX(), anchor.minY()}));
+        },
+        MouseButton::left);
 }
 
 std::uint64_t MenuLayer::openAt(std::int32_t owner, const CGPoint& point, std::vector<platform::MenuItem> items) {
-    return open(owner, std::move(items), CGRectMake(point.x - slop, point.y - slop, 2 * slop, 2 * slop),
-                [this, point](CGSize size) { return placeMenuAt(point, size, roomAround(point)); });
+    return open(
+        owner, std::move(items), CGRectMake(point.x - slop, point.y - slop, 2 * slop, 2 * slop),
+        [this, point](CGSize size) { return placeMenuAt(point, size, roomAround(point)); },
+        pointer.isPressed(MouseButton::right) ? MouseButton::right : MouseButton::left);
 }
 
 std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem> items, const CGRect& source,
-                              Placing place) {
+                              Placing place, MouseButton button) {
     closeMenu();
     ++lastNumber;
     if (items.empty()) return lastNumber;
     OpenMenu menu = placed(std::move(items), place);
     tracked.emplace(Tracked{lastNumber, owner, std::move(menu), std::move(place), source, std::nullopt});
-    if (pointer.isPressed()) {
+    if (pointer.isPressed(button)) {
         tracked->pressedAt = pointer.location;
         held = HeldPress{owner, {}, {}};
-        pointer.handOver(*this);
+        pointer.handOver(button, *this);
     }
     windows.changed();
     return lastNumber;

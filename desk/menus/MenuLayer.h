@@ -31,6 +31,7 @@ class KeyboardFocus;
 class Pointer;
 class Scheduler;
 class WindowStack;
+enum class MouseButton;
 
 struct ShownPopover {
     const OpenPopover* popover;
@@ -102,8 +103,9 @@ private:
     };
     using Taker = std::optional<std::int32_t>;
 
+    // `button`: whose press, if it is held, opened it and goes on in it.
     std::uint64_t open(std::int32_t owner, std::vector<platform::MenuItem> items, const platform::CGRect& source,
-                       Placing place);
+                       Placing place, MouseButton button);
     OpenMenu placed(std::vector<platform::MenuItem> items, const Placing& place) const;
 
     Taker mouseDown(const platform::NSEvent& event);

@@ -41,8 +41,9 @@ void ToolTips::mouseMoved() {
     waiting = scheduler.after(restingTime, [this] { show(); });
 }
 
+// The press is under way by now.
 void ToolTips::dismiss() {
-    dismissed = subject();
+    dismissed = subjectUnderMouse();
     hide();
 }
 
@@ -67,10 +68,14 @@ std::optional<ToolTips::ShownToolTip> ToolTips::shown() const {
 }
 
 std::optional<ToolTips::Subject> ToolTips::subject() const {
+    return pointer.isPressed() ? std::nullopt : subjectUnderMouse();
+}
+
+std::optional<ToolTips::Subject> ToolTips::subjectUnderMouse() const {
     const CGPoint mouse = pointer.location;
     const bool isCovered =
         std::any_of(inFront.begin(), inFront.end(), [&](const Surface* each) { return each->covers(mouse); });
-    if (isCovered || pointer.isPressed()) return std::nullopt;
+    if (isCovered) return std::nullopt;
     const ServerWindow* window = windows.windowAt(mouse);
     const platform::NSWindow* shownWindow = window == nullptr ? nullptr : window->window;
     if (shownWindow == nullptr || shownWindow->contentView() == nullptr) return std::nullopt;

@@ -34,6 +34,7 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
       bundle(application.bundle(), neighbours.disk),
       pasteboard(neighbours.clipboard),
       uuids(application.processIdentifier()),
+      updaters(neighbours.updater, application),
       platformOfIt{neighbours.clock,
                    application.loop(),
                    application.loop(),
@@ -56,6 +57,7 @@ ApplicationPorts::ApplicationPorts(const PortNeighbours& theNeighbours, Launched
                    bundle,
                    pasteboard,
                    uuids,
+                   updaters,
                    *slots} {
     neighbours.processes.setKeeper(application.processIdentifier(), keeper);
 }

@@ -17,6 +17,7 @@
 #include "desk/ports/MenusPort.h"
 #include "desk/ports/NSApplicationPort.h"
 #include "desk/ports/PasteboardPort.h"
+#include "desk/ports/UpdaterPort.h"
 #include "desk/ports/UuidPort.h"
 #include "desk/ports/WindowPort.h"
 #include "desk/ports/WindowServerPort.h"
@@ -55,6 +56,7 @@ struct PortNeighbours {
     std::optional<std::string>& clipboard;
     platform::TextSystem& text;
     Journal& journal;
+    UpdaterNeighbours updater;
 };
 
 class ApplicationPorts final : public ApplicationBackend {
@@ -95,6 +97,7 @@ private:
     BundlePort bundle;
     PasteboardPort pasteboard;
     UuidPort uuids;
+    UpdaterPort updaters;
     std::unique_ptr<platform::SharedSlots> slots = std::make_unique<platform::SharedSlots>();
     platform::Platform platformOfIt;
 };

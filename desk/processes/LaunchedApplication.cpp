@@ -1,5 +1,6 @@
 #include "desk/processes/LaunchedApplication.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -72,7 +73,14 @@ platform::NSEvent LaunchedApplication::inItsWindow(platform::NSEvent event) {
     return event;
 }
 
-void LaunchedApplication::sendEvent(const platform::NSEvent& event) {
+platform::NSWindow* LaunchedApplication::keyWindow() const {
+    const auto found = std::find_if(ownWindows.begin(), ownWindows.end(),
+                                    [](const auto& entry) { return entry.second->isKeyWindow(); });
+    return found == ownWindows.end() ? nullptr : found->second;
+}
+
+void LaunchedApplication::sendEvent(platform::NSEvent event) {
+    if (platform::isKeyEvent(event.type)) event.window = keyWindow();
     const auto keepAlive = event.window == nullptr ? nullptr : event.window->weak_from_this().lock();
     const auto answered = backend->runLocalMonitors(event);
     if (dead || !answered) return;

@@ -70,8 +70,9 @@ private:
     friend class PanelHandle;
 
     void die();
-    // Local monitors first, then the keys of the main menu, then the window.
-    void sendEvent(const platform::NSEvent& event);
+    // Local monitors first, then the keys of the main menu, then the window. Keys may have been waiting: they are for the window that has the keyboard by now.
+    void sendEvent(platform::NSEvent event);
+    platform::NSWindow* keyWindow() const;
 
     Bundle launchedBundle;
     std::int32_t pid;

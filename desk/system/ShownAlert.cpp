@@ -33,6 +33,7 @@ View buttonView(const std::string& label, bool isDefault) {
     return views::Button(nullptr, views::Text(label).frame({.minWidth = leastLabelWidth}))
         .buttonStyle(views::ButtonStyle::bordered)
         .keyboardShortcut(isDefault ? views::KeyboardShortcut::defaultAction : views::KeyboardShortcut::none)
+        .layoutPriority(1)
         .id(label);
 }
 

@@ -34,10 +34,9 @@ public:
             if (each) held |= each->modifiers;
         return held;
     }
-    // Presses that last are this surface's from now on.
-    void handOver(Surface& surface) {
-        for (std::optional<Press>& each : presses)
-            if (each) each->holder = &surface;
+    // A press of that button, if it lasts, is this surface's from now on.
+    void handOver(MouseButton button, Surface& surface) {
+        if (std::optional<Press>& held = press(button)) held->holder = &surface;
     }
 
 private:

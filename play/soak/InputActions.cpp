@@ -1,5 +1,9 @@
 // What the user's hands do: clicks on every part of every bar, drags, keys, typing, and single mouse events with other things in between.
+#include <string>
+
 #include "desk/Machine.h"
+#include "play/BarParts.h"
+#include "play/OrdinaryWindows.h"
 #include "play/Session.h"
 #include "play/soak/Actions.h"
 #include "play/soak/Lines.h"
@@ -8,19 +12,25 @@ namespace play {
 
 namespace {
 
-std::string partOfBar(const Chooser& choose, const std::string& window) {
+constexpr const char* aboutTitle = "About Orvane";
+
+std::string partOfBar(const Chooser& choose) {
     static constexpr const char* barParts[] = {"crumb", "crumb", "crumb", "chevron", "chevron", "ellipsis",
                                                "copy",  "brand", "empty", "empty",   "field",   "plate"};
-    const std::string part = choose.random.pick(barParts);
-    const bool isTitled = part == "crumb" || part == "chevron";
-    return joinWords({"bar", window, part, isTitled ? textWord(choose.crumbTitle(window)) : std::string()});
+    return choose.random.pick(barParts);
+}
+
+std::string targetOnBar(const Chooser& choose, const std::string& window) {
+    const std::string part = partOfBar(choose);
+    return joinWords(
+        {"bar", window, part, barPartHasTitle(part) ? textWord(choose.crumbTitle(window)) : std::string()});
 }
 
 Lines clickBar(const Chooser& choose) {
     static constexpr const char* buttons[] = {"", "", "", "right", "double"};
     const auto window = choose.windowWithBar();
     if (!window) return {};
-    return {joinWords({"click", choose.random.pick(buttons), partOfBar(choose, *window)})};
+    return {joinWords({"click", choose.random.pick(buttons), targetOnBar(choose, *window)})};
 }
 
 Lines clickWindow(const Chooser& choose) {
@@ -39,7 +49,8 @@ Lines clickMenuItem(const Chooser& choose) {
     const auto* menu = choose.session.machine.menus.menu();
     if (menu == nullptr || menu->items().empty()) return {};
     const auto& item = choose.random.pick(menu->items());
-    if (item.isSeparator) return {};
+    // Stories end with the application.
+    if (item.isSeparator || item.title == "Quit Orvane") return {};
     return {"click item " + textWord(item.title)};
 }
 
@@ -67,31 +78,69 @@ Lines dragBrand(const Chooser& choose) {
     return {joinWords({"drag bar", *window, "brand by", way(choose), pace(choose)})};
 }
 
-// Whatever else happens comes between it and the release.
-Lines mouseDown(const Chooser& choose) {
-    const auto& machine = choose.session.machine;
-    if (machine.pointer.isPressed()) return {};
-    const auto all = machine.windows.onScreen();
-    if (all.empty()) return {};
+using desk::MouseButton;
+
+std::optional<platform::CGPoint> pointOnBar(const Chooser& choose) {
+    const auto window = choose.windowWithBar();
+    if (!window) return std::nullopt;
+    const std::string part = partOfBar(choose);
+    const std::int64_t panel = panelNumber(choose.session, std::stoll(*window));
+    const auto inside = barPartPoint(choose.session, panel, part, choose.crumbTitle(*window));
+    const auto* shown = choose.session.machine.windows.find(panel);
+    if (!inside || shown == nullptr) return std::nullopt;
+    return platform::CGPoint{shown->frame.minX() + inside->x, shown->frame.maxY() - inside->y};
+}
+
+// Near a corner that has the buttons of a window or the brand label of a bar.
+std::optional<platform::CGPoint> pointOnWindow(const Chooser& choose) {
+    const auto all = choose.session.machine.windows.onScreen();
+    if (all.empty()) return std::nullopt;
     const platform::CGRect& frame = choose.random.pick(all)->frame;
-    const double x = frame.minX() + choose.random.between(2, 60);
-    const double y = frame.maxY() - choose.random.between(2, 40);
-    return {"mouse down " + numberWord(x) + ' ' + numberWord(y) + (choose.random.oneIn(6) ? " right" : "")};
+    return platform::CGPoint{frame.minX() + choose.random.between(2, 60), frame.maxY() - choose.random.between(2, 40)};
+}
+
+std::string pointWords(const platform::CGPoint& point) {
+    return numberWord(point.x) + ' ' + numberWord(point.y);
+}
+
+// Whatever else happens comes between it and the release, presses of the other button too.
+Lines mouseDown(const Chooser& choose) {
+    const desk::Pointer& pointer = choose.session.machine.pointer;
+    const bool isRight = pointer.isPressed(MouseButton::left) || (!pointer.isPressed() && choose.random.oneIn(6));
+    if (pointer.isPressed(isRight ? MouseButton::right : MouseButton::left)) return {};
+    const auto point = choose.random.oneIn(2) ? pointOnBar(choose) : pointOnWindow(choose);
+    if (!point) return {};
+    return {"mouse down " + pointWords(*point) + (isRight ? " right" : "")};
 }
 
 Lines mouseDrag(const Chooser& choose) {
     const desk::Pointer& pointer = choose.session.machine.pointer;
     if (!pointer.isPressed()) return {};
     const platform::CGPoint at = pointer.location;
-    return {"mouse drag " + numberWord(at.x + choose.random.between(-80, 80)) + ' ' +
-            numberWord(at.y + choose.random.between(-80, 80))};
+    return {"mouse drag " + pointWords({at.x + choose.random.between(-80, 80), at.y + choose.random.between(-80, 80)})};
 }
 
 Lines mouseUp(const Chooser& choose) {
     const desk::Pointer& pointer = choose.session.machine.pointer;
     if (!pointer.isPressed()) return {};
-    return {"mouse up " + numberWord(pointer.location.x) + ' ' + numberWord(pointer.location.y) +
-            (pointer.isPressed(desk::MouseButton::left) ? "" : " right")};
+    const bool isRight =
+        !pointer.isPressed(MouseButton::left) || (pointer.isPressed(MouseButton::right) && choose.random.oneIn(2));
+    return {"mouse up " + pointWords(pointer.location) + (isRight ? " right" : "")};
+}
+
+Lines clickStatusItem(const Chooser& choose) {
+    if (choose.session.statusItem() == nullptr) return {};
+    return {"click status-item"};
+}
+
+Lines useAbout(const Chooser& choose) {
+    static constexpr const char* parts[] = {"titlebar", "content", "minimize", "zoom", "close"};
+    const auto* about = ordinaryWindow(choose.session, aboutTitle);
+    if (about == nullptr) return {};
+    const std::string window = joinWords({"window", textWord(aboutTitle)});
+    if (choose.random.oneIn(3)) return {joinWords({"drag", window, "titlebar by", way(choose), pace(choose)})};
+    if (about->isKeyWindow() && choose.random.oneIn(3)) return {"key cmd+w"};
+    return {joinWords({"click", window, choose.random.pick(parts)})};
 }
 
 Lines mouseMove(const Chooser& choose) {
@@ -127,6 +176,8 @@ const std::vector<Action>& inputActions() {
                                            {"mouse-down", 2, mouseDown},
                                            {"mouse-drag", 4, mouseDrag},
                                            {"mouse-up", 3, mouseUp},
+                                           {"status-item", 1.5, clickStatusItem},
+                                           {"about-window", 2, useAbout},
                                            {"mouse-move", 0.5, mouseMove},
                                            {"key", 5, key},
                                            {"type", 2, type},

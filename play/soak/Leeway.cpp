@@ -47,6 +47,9 @@ Leeway::Leeway(Session& theSession) : session(theSession) {
 }
 
 void Leeway::look() {
+    const bool wasPressed = std::exchange(isPressed, session.machine.pointer.isPressed(desk::MouseButton::left));
+    if (isPressed && !wasPressed) frontAtPress = frontWindow();
+    if (!isPressed) missedByPress.clear();
     if (coordinatorOf(session) == nullptr || listenedTo == coordinatorOf(session)) return;
     listenedTo = coordinatorOf(session);
     const auto& application = *session.orvane();
@@ -86,8 +89,19 @@ void Leeway::published() {
 }
 
 void Leeway::stackChanged() {
+    notePress();
     noteMoves();
     noteFalls();
+}
+
+// A bar that takes another window for its own brings that one forward, and a pass may move it before the release, so that it is no longer where the bar looked.
+void Leeway::notePress() {
+    const auto* coordinator = coordinatorOf(session);
+    if (coordinator == nullptr || !session.machine.pointer.isPressed(desk::MouseButton::left)) return;
+    const platform::CGPoint mouse = session.machine.pointer.location;
+    for (const auto& [id, bar] : coordinator->liveControllers())
+        if (platform::CGRectContainsPoint(bar->panel->frame(), mouse) && clickMissesWindow(*bar))
+            missedByPress.insert(id);
 }
 
 void Leeway::noteMoves() {
@@ -118,10 +132,22 @@ void Leeway::noteFalls() {
 
 bool Leeway::isInnocent(const std::string& id) const {
     const auto& bar = *coordinatorOf(session)->liveControllers().at(id);
-    // The field that is closing in this turn may still take the keyboard, and the bar forward with it.
-    const bool isClosingField = !bar.viewModel->isEditing.get() && showsPathField(session, bar.panel->windowNumber());
-    return otherWindowsMoved || isClosingField || hasComeForward(*bar.parentWindowNumber) || bar.isDragging ||
-           (bar.viewModel->isEditing.get() && clickMissesWindow(bar));
+    // A field that has not had the keyboard yet asks for it, even while it closes. If its bar has lost the keyboard by then, the bar comes forward.
+    const bool fieldAsks = bar.panel->firstResponder() == nullptr && showsPathField(session, bar.panel->windowNumber());
+    return otherWindowsMoved || fieldAsks || hasComeForward(*bar.parentWindowNumber) || bar.isDragging ||
+           (bar.viewModel->isEditing.get() &&
+            (missedByPress.contains(id) || clickMissesWindow(bar) || wasOvertakenSincePress(*bar.parentWindowNumber)));
+}
+
+// The press brings the window forward, the release opens the field and brings the bar forward.
+bool Leeway::wasOvertakenSincePress(std::int64_t window) const {
+    return frontAtPress == window && frontWindow() != window;
+}
+
+std::int64_t Leeway::frontWindow() const {
+    for (const auto* shown : session.machine.windows.onScreen())
+        if (shown->level == 0 && shown->window == nullptr) return shown->number;
+    return 0;
 }
 
 // A window that was in front of all others but its bar, and is raised all the same.
@@ -136,11 +162,11 @@ bool Leeway::hasComeForward(std::int64_t window) const {
 // Opening the path field brings the bar forward, and the window with it where the bar finds it: by the frame that it had when something shown last changed.
 bool Leeway::clickMissesWindow(const brindle::FinderOverlayWindowController& bar) const {
     const desk::Machine& machine = session.machine;
-    const auto* own = machine.windows.find(*bar.parentWindowNumber);
+    const auto* own = machine.windows.find(bar.parentWindowNumber.value_or(0));
     const auto& state = bar.viewModel->windowState.get();
     if (own == nullptr || !state) return false;
-    // Without a screen there are no coordinates to compare.
-    if (machine.displays.options().empty()) return true;
+    // Without a screen there are no coordinates to compare, and without trust nothing can be read.
+    if (machine.displays.options().empty() || !machine.permissions.accessibility) return true;
     for (const char* attribute : {"AXWindows", "AXRole", "AXMinimized", "AXPosition", "AXSize"})
         if (machine.faults.accessibilityFault(attribute, own->number) != desk::ReadFault::none) return true;
     const double distance = brindle::frameDistance(own->frame, state->frame);

@@ -26,7 +26,7 @@ class Leeway {
 public:
     explicit Leeway(Session& theSession);
 
-    // Starts listening to what was launched meanwhile.
+    // After each line: starts listening to what was launched meanwhile, and remembers what a press has brought to the front.
     void look();
 
     // On another space than its window, with no pass since that could have ordered it: the window changed spaces together with the user, or while the bar was being dragged.
@@ -51,11 +51,14 @@ private:
 
     void stackChanged();
     void published();
+    void notePress();
     void noteMoves();
     void noteFalls();
     bool isInnocent(const std::string& id) const;
     bool clickMissesWindow(const brindle::FinderOverlayWindowController& bar) const;
+    bool wasOvertakenSincePress(std::int64_t window) const;
     bool hasComeForward(std::int64_t window) const;
+    std::int64_t frontWindow() const;
     OrderingTriggers triggersOf(const std::string& id) const;
 
     Session& session;
@@ -66,6 +69,9 @@ private:
     std::map<std::string, Fall> falls;
     std::vector<std::int64_t> otherWindows;  // on screen, front to back, without the application's own
     bool otherWindowsMoved = false;
+    bool isPressed = false;               // the left button
+    std::set<std::string> missedByPress;  // bars that couldn't find their windows when they were pressed
+    std::int64_t frontAtPress = 0;        // the window that was in front once that press had been handled
     std::vector<platform::Token> subscriptions;
 };
 

@@ -1,4 +1,4 @@
-// What closed windows leave behind: subscriptions, and memory in use. It looks each time that a story has closed all of them; what it finds may depend on nothing that happened before.
+// What closed windows, Finder's and the about window, leave behind: subscriptions, and memory in use. It looks each time that a story has closed all of them; what it finds may depend on nothing that happened before.
 #pragma once
 
 #include <cstdint>

@@ -106,10 +106,12 @@ private:
         return restLine(longestDelay);
     }
 
-    // A mouse can't: its button is down.
+    // A mouse can't: that button is down.
     bool pressesTwice(std::string_view line) const {
-        return session.machine.pointer.isPressed() &&
-               (line.starts_with("mouse down ") || line.starts_with("click ") || line.starts_with("drag "));
+        const bool isDown = line.starts_with("mouse down ");
+        if (!isDown && !line.starts_with("click ") && !line.starts_with("drag ")) return false;
+        const bool isRight = isDown ? line.ends_with(" right") : line.starts_with("click right ");
+        return session.machine.pointer.isPressed(isRight ? desk::MouseButton::right : desk::MouseButton::left);
     }
 
     std::optional<std::string> nextClearing() {

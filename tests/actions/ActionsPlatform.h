@@ -104,6 +104,7 @@ public:
                                 .bundle = rest.platform.bundle,
                                 .pasteboard = *this,
                                 .uuids = rest,
+                                .updaters = rest.platform.updaters,
                                 .slots = rest.platform.slots};
 };
 

@@ -410,6 +410,22 @@ private:
         std::optional<platform::Value> objectForInfoDictionaryKey(const std::string&) override { return {}; }
         std::optional<std::string> URLForResource(const std::string&, const std::string&) override { return {}; }
     };
+    struct NoUpdaters final : platform::UpdaterFramework {
+        struct Updater final : platform::SPUUpdater {
+            bool canCheckForUpdates() const override { return false; }
+            platform::Token observeCanCheckForUpdates(unsigned, std::function<void(bool)>) override { return {}; }
+        };
+        struct Controller final : platform::SPUStandardUpdaterController {
+            void startUpdater() override {}
+            platform::SPUUpdater& updater() override { return none; }
+            void checkForUpdates() override {}
+            Updater none;
+        };
+        std::unique_ptr<platform::SPUStandardUpdaterController> makeStandardUpdaterController(
+            bool, platform::SPUUpdaterDelegate*, platform::SPUStandardUserDriverDelegate*) override {
+            return std::make_unique<Controller>();
+        }
+    };
     struct NoPasteboard final : platform::NSPasteboard {
         void clearContents() override {}
         bool setString(const std::string&) override { return false; }
@@ -480,6 +496,7 @@ private:
     NoDefaults noDefaults;
     NoBundle noBundle;
     NoPasteboard noPasteboard;
+    NoUpdaters noUpdaters;
     platform::SharedSlots noSlots;
 
 public:
@@ -505,6 +522,7 @@ public:
                                 .bundle = noBundle,
                                 .pasteboard = noPasteboard,
                                 .uuids = *this,
+                                .updaters = noUpdaters,
                                 .slots = noSlots};
 };
 

@@ -125,6 +125,7 @@ public:
                                 unused<platform::NSBundle>(),
                                 *this,
                                 *this,
+                                unused<platform::UpdaterFramework>(),
                                 slots};
 };
 

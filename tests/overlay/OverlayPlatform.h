@@ -187,6 +187,7 @@ public:
                                 .bundle = *this,
                                 .pasteboard = fake.platform.pasteboard,
                                 .uuids = fake,
+                                .updaters = fake.platform.updaters,
                                 .slots = fake.platform.slots};
 };
 

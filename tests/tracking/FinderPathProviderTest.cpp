@@ -108,7 +108,7 @@ TEST(FinderPathProvider, ARefusedSourceIsNotTriedAgain) {
                                p.appearance,     p.windowServer, p.accessibility, refusing,    p.events,
                                p.application,    p.windows,      p.menus,         p.text,      p.images,
                                p.textBoundaries, p.collation,    p.files,         p.defaults,  p.bundle,
-                               p.pasteboard,     p.uuids,        p.slots};
+                               p.pasteboard,     p.uuids,        p.updaters,      p.slots};
     FinderPathProvider provider(refused);
     EXPECT_TRUE(provider.fetchWindowPaths().empty());
     EXPECT_TRUE(provider.fetchWindowPaths().empty());
