@@ -36,8 +36,9 @@ void ToolTips::mouseMoved() {
     waiting = machine.scheduler.after(restingTime, [this] { show(); });
 }
 
+// The press is under way by now.
 void ToolTips::dismiss() {
-    dismissed = subject();
+    dismissed = subjectUnderMouse();
     hide();
 }
 
@@ -62,8 +63,12 @@ std::optional<ToolTips::ShownToolTip> ToolTips::shown() const {
 }
 
 std::optional<ToolTips::Subject> ToolTips::subject() const {
+    return machine.pointer.isPressed() ? std::nullopt : subjectUnderMouse();
+}
+
+std::optional<ToolTips::Subject> ToolTips::subjectUnderMouse() const {
     const CGPoint mouse = machine.pointer.location;
-    if (machine.input.isCovered(mouse) || machine.pointer.isPressed()) return std::nullopt;
+    if (machine.input.isCovered(mouse)) return std::nullopt;
     const ServerWindow* window = machine.windows.windowAt(mouse);
     const platform::NSWindow* shownWindow = window == nullptr ? nullptr : window->window;
     if (shownWindow == nullptr || shownWindow->contentView() == nullptr) return std::nullopt;

@@ -38,7 +38,9 @@ private:
         friend bool operator==(const Subject&, const Subject&) = default;
     };
 
+    // None while a button is held.
     std::optional<Subject> subject() const;
+    std::optional<Subject> subjectUnderMouse() const;
     void mouseMoved();
     void dismiss();
     void show();

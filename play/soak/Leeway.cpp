@@ -47,7 +47,7 @@ Leeway::Leeway(Session& theSession) : session(theSession) {
 }
 
 void Leeway::look() {
-    const bool wasPressed = std::exchange(isPressed, session.machine.input.isPressed(desk::MouseButton::left));
+    const bool wasPressed = std::exchange(isPressed, session.machine.pointer.isPressed(desk::MouseButton::left));
     if (isPressed && !wasPressed) frontAtPress = frontWindow();
     if (!isPressed) missedByPress.clear();
     if (coordinatorOf(session) == nullptr || listenedTo == coordinatorOf(session)) return;
@@ -97,8 +97,8 @@ void Leeway::stackChanged() {
 // A bar that takes another window for its own brings that one forward, and a pass may move it before the release, so that it is no longer where the bar looked.
 void Leeway::notePress() {
     const auto* coordinator = coordinatorOf(session);
-    if (coordinator == nullptr || !session.machine.input.isPressed(desk::MouseButton::left)) return;
-    const platform::CGPoint mouse = session.machine.input.mouseLocation();
+    if (coordinator == nullptr || !session.machine.pointer.isPressed(desk::MouseButton::left)) return;
+    const platform::CGPoint mouse = session.machine.pointer.location;
     for (const auto& [id, bar] : coordinator->liveControllers())
         if (platform::CGRectContainsPoint(bar->panel->frame(), mouse) && clickMissesWindow(*bar))
             missedByPress.insert(id);
