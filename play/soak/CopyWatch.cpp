@@ -60,12 +60,12 @@ const brindle::FinderOverlayWindowController* CopyWatch::barAtMouse() const {
 bool CopyWatch::isOnTop(std::int64_t panel) const {
     const auto& machine = session.machine;
     const auto* shown = machine.windows.windowAt(machine.pointer.location);
-    return panel != 0 && shown != nullptr && shown->number == panel && machine.input.keyWindow() == panel;
+    return panel != 0 && shown != nullptr && shown->number == panel && machine.keyboard.keyWindow() == panel;
 }
 
 bool CopyWatch::isDistracted() const {
     const auto& menus = session.machine.menus;
-    return menus.menu() != nullptr || !menus.popovers().empty() || session.machine.alert() ||
+    return menus.menu() != nullptr || !menus.popovers().empty() || session.machine.alerts.shown() != nullptr ||
            session.machine.input.isCovered(session.machine.pointer.location) || session.application() == nullptr ||
            session.application()->isOnStack();
 }

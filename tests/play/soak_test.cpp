@@ -82,7 +82,7 @@ TEST_P(PlantedFault, IsFoundAndTheScriptShowsItAgain) {
     if (kit::isSanitized && GetParam().plant != &placesBarTooHigh) GTEST_SKIP() << "one will do under a sanitizer";
     play::SoakOptions options;
     options.seed = 1;
-    options.steps = 60000;  // the rarest one takes 20000 now and then
+    options.steps = 20000;
     options.prepare = *GetParam().plant;
     std::ostringstream output;
     ASSERT_EQ(play::runSoak(options, output), 1) << output.str();
