@@ -34,6 +34,8 @@ public:
     // How far the content moves, in points: to the right, and downward, which is towards its beginning.
     void scrollWheel(const platform::CGPoint& point, double deltaX, double deltaY);
     CursorShape cursorAt(const platform::CGPoint& point) const;
+    // Something stands before the windows there.
+    bool isCovered(const platform::CGPoint& point) const { return &surfaceAt(point) != frontToBack.back(); }
     void keyDown(const KeyStroke& stroke);
     void keyUp(const KeyStroke& stroke);
 

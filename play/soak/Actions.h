@@ -20,6 +20,7 @@ struct Action {
 const std::vector<Action>& windowActions();
 const std::vector<Action>& machineActions();
 const std::vector<Action>& inputActions();
+const std::vector<Action>& pressActions();
 const std::vector<Action>& faultActions();
 
 // What faults can strike.

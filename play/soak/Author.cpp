@@ -32,6 +32,7 @@ RandomAuthor::RandomAuthor(std::uint64_t seed, std::int64_t theSteps)
     addActions(windowActions(), false);
     addActions(machineActions(), false);
     addActions(inputActions(), false);
+    addActions(pressActions(), false);
     if (!random.oneIn(4)) addActions(faultActions(), true);
 }
 

@@ -79,6 +79,12 @@ std::size_t Chooser::windowCount() const {
         std::count_if(windows.begin(), windows.end(), [&](const auto* window) { return window->owner == finder; }));
 }
 
+std::string Chooser::partOfBar() const {
+    static constexpr const char* parts[] = {"crumb", "crumb", "crumb", "chevron", "chevron", "ellipsis",
+                                            "copy",  "brand", "empty", "empty",   "field",   "plate"};
+    return random.pick(parts);
+}
+
 std::string Chooser::folder() const {
     const std::string path = random.oneIn(4) ? random.pick(ownFolders) : random.pick(sampleFolders);
     return isFolder(session, path) ? path : "/Users/ana";

@@ -29,6 +29,7 @@ public:
     // One that has a bar on screen.
     std::optional<std::string> windowWithBar() const;
     std::size_t windowCount() const;
+    std::string partOfBar() const;
 
     // Words for paths. The folders are those of a sample volume and the story's own; one that a story removed isn't chosen.
     std::string folder() const;

@@ -1,4 +1,4 @@
-// What the user's hands do: clicks on every part of every bar, drags, keys, typing, and single mouse events with other things in between.
+// What the user's hands do: clicks on every part of every bar, drags, keys, typing, and what one does with the about window.
 #include <string>
 
 #include "desk/Machine.h"
@@ -14,14 +14,8 @@ namespace {
 
 constexpr const char* aboutTitle = "About Orvane";
 
-std::string partOfBar(const Chooser& choose) {
-    static constexpr const char* barParts[] = {"crumb", "crumb", "crumb", "chevron", "chevron", "ellipsis",
-                                               "copy",  "brand", "empty", "empty",   "field",   "plate"};
-    return choose.random.pick(barParts);
-}
-
 std::string targetOnBar(const Chooser& choose, const std::string& window) {
-    const std::string part = partOfBar(choose);
+    const std::string part = choose.partOfBar();
     return joinWords(
         {"bar", window, part, barPartHasTitle(part) ? textWord(choose.crumbTitle(window)) : std::string()});
 }
@@ -78,56 +72,6 @@ Lines dragBrand(const Chooser& choose) {
     return {joinWords({"drag bar", *window, "brand by", way(choose), pace(choose)})};
 }
 
-using desk::MouseButton;
-
-std::optional<platform::CGPoint> pointOnBar(const Chooser& choose) {
-    const auto window = choose.windowWithBar();
-    if (!window) return std::nullopt;
-    const std::string part = partOfBar(choose);
-    const std::int64_t panel = panelNumber(choose.session, std::stoll(*window));
-    const auto inside = barPartPoint(choose.session, panel, part, choose.crumbTitle(*window));
-    const auto* shown = choose.session.machine.windows.find(panel);
-    if (!inside || shown == nullptr) return std::nullopt;
-    return platform::CGPoint{shown->frame.minX() + inside->x, shown->frame.maxY() - inside->y};
-}
-
-// Near a corner that has the buttons of a window or the brand label of a bar.
-std::optional<platform::CGPoint> pointOnWindow(const Chooser& choose) {
-    const auto all = choose.session.machine.windows.onScreen();
-    if (all.empty()) return std::nullopt;
-    const platform::CGRect& frame = choose.random.pick(all)->frame;
-    return platform::CGPoint{frame.minX() + choose.random.between(2, 60), frame.maxY() - choose.random.between(2, 40)};
-}
-
-std::string pointWords(const platform::CGPoint& point) {
-    return numberWord(point.x) + ' ' + numberWord(point.y);
-}
-
-// Whatever else happens comes between it and the release, presses of the other button too.
-Lines mouseDown(const Chooser& choose) {
-    const desk::Pointer& pointer = choose.session.machine.pointer;
-    const bool isRight = pointer.isPressed(MouseButton::left) || (!pointer.isPressed() && choose.random.oneIn(6));
-    if (pointer.isPressed(isRight ? MouseButton::right : MouseButton::left)) return {};
-    const auto point = choose.random.oneIn(2) ? pointOnBar(choose) : pointOnWindow(choose);
-    if (!point) return {};
-    return {"mouse down " + pointWords(*point) + (isRight ? " right" : "")};
-}
-
-Lines mouseDrag(const Chooser& choose) {
-    const desk::Pointer& pointer = choose.session.machine.pointer;
-    if (!pointer.isPressed()) return {};
-    const platform::CGPoint at = pointer.location;
-    return {"mouse drag " + pointWords({at.x + choose.random.between(-80, 80), at.y + choose.random.between(-80, 80)})};
-}
-
-Lines mouseUp(const Chooser& choose) {
-    const desk::Pointer& pointer = choose.session.machine.pointer;
-    if (!pointer.isPressed()) return {};
-    const bool isRight =
-        !pointer.isPressed(MouseButton::left) || (pointer.isPressed(MouseButton::right) && choose.random.oneIn(2));
-    return {"mouse up " + pointWords(pointer.location) + (isRight ? " right" : "")};
-}
-
 Lines clickStatusItem(const Chooser& choose) {
     if (choose.session.statusItem() == nullptr) return {};
     return {"click status-item"};
@@ -141,10 +85,6 @@ Lines useAbout(const Chooser& choose) {
     if (choose.random.oneIn(3)) return {joinWords({"drag", window, "titlebar by", way(choose), pace(choose)})};
     if (about->isKeyWindow() && choose.random.oneIn(3)) return {"key cmd+w"};
     return {joinWords({"click", window, choose.random.pick(parts)})};
-}
-
-Lines mouseMove(const Chooser& choose) {
-    return {"mouse move " + choose.point()};
 }
 
 Lines key(const Chooser& choose) {
@@ -173,12 +113,8 @@ const std::vector<Action>& inputActions() {
                                            {"click-item", 6, clickMenuItem},
                                            {"drag-title-bar", 3, dragTitleBar},
                                            {"drag-brand", 3, dragBrand},
-                                           {"mouse-down", 2, mouseDown},
-                                           {"mouse-drag", 4, mouseDrag},
-                                           {"mouse-up", 3, mouseUp},
                                            {"status-item", 1.5, clickStatusItem},
                                            {"about-window", 2, useAbout},
-                                           {"mouse-move", 0.5, mouseMove},
                                            {"key", 5, key},
                                            {"type", 2, type},
                                            {"edit-path", 1, editPath}};

@@ -8,6 +8,7 @@
 #include "play/ScriptPlayer.h"
 #include "play/Session.h"
 #include "play/soak/Checks.h"
+#include "play/soak/CopyWatch.h"
 #include "play/soak/Healing.h"
 #include "play/soak/Leeway.h"
 #include "play/soak/Leftovers.h"
@@ -28,7 +29,12 @@ std::int64_t bytesOf(const std::vector<PlayedLine>& lines) {
 class StorySource final : public LineSource {
 public:
     StorySource(Session& theSession, Author& theAuthor, StoryEnd& theEnd)
-        : session(theSession), author(theAuthor), end(theEnd), leeway(theSession), typing(theSession) {}
+        : session(theSession),
+          author(theAuthor),
+          end(theEnd),
+          leeway(theSession),
+          typing(theSession),
+          copying(theSession) {}
 
     std::optional<ScriptLine> next() override {
         lookBack();
@@ -60,6 +66,8 @@ private:
         leeway.look();
         leftovers.look(session);
         end.finding = typing.look(end.lines.back().text);
+        auto lost = copying.look(end.lines.back().text);
+        if (!end.finding) end.finding = std::move(lost);
         const auto& faults = session.machine.faults;
         longestDelay = std::max({longestDelay, faults.scriptLatency, faults.notificationDelay});
         if (phase == Phase::resting && !end.finding) endRest();
@@ -133,6 +141,7 @@ private:
     StoryEnd& end;
     Leeway leeway;
     TypingWatch typing;
+    CopyWatch copying;
     Leftovers leftovers;
     bool isTold = false;  // the last line is the author's
     Phase phase = Phase::telling;
