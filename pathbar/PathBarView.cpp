@@ -20,6 +20,11 @@ View divider() {
     return Rectangle().fill(Color::of(ColorRole::primary, 0.12)).frame({.width = 1, .height = 18});
 }
 
+Task endCopyConfirmation(platform::Dispatch& /*dispatch*/, State<bool> showsCopyConfirmation) {
+    co_await Task::sleep(copyConfirmationTime);
+    showsCopyConfirmation.set(false);
+}
+
 View inPopover(View content) {
     return std::move(content)
         .font({.size = 13})
@@ -132,8 +137,7 @@ void PathBarView::copyCurrentPath() const {
     copyFullPath();
     if (const auto& task = copyConfirmationTask.get()) task->cancel();
     showsCopyConfirmation.set(true);
-    copyConfirmationTask.set(
-        Task::sleeping(platform.dispatch, copyConfirmationTime, [shows = showsCopyConfirmation] { shows.set(false); }));
+    copyConfirmationTask.set(endCopyConfirmation(platform.dispatch, showsCopyConfirmation));
 }
 
 void PathBarView::select(const BreadcrumbItem& item) const {

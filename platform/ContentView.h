@@ -16,9 +16,11 @@ class NSWindow;
 class ContentView {
 public:
     virtual ~ContentView() = default;
-    // Told when it is set on a window, with null when it is taken off, and when the content's size or the window's visibility on screen changes.
+    // Told when it is set on a window, with null when it is taken off, and when the content's size changes.
     virtual void didMoveToWindow(NSWindow* window) = 0;
     virtual void setSize(CGSize size) = 0;
+    // Whether the window is ordered in and not minimised, on whatever space; and whether it is to be seen on the present one. Told again when nothing has changed.
+    virtual void setOrderedIn(bool /*orderedIn*/) {}
     virtual void setOnScreen(bool onScreen) = 0;
     // Asked for a press of the left button on a window that isn't key: whether it acts at once, or only brings the window forward.
     virtual bool acceptsFirstMouse(const NSEvent& event) = 0;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -25,6 +26,7 @@ enum class ColorRole : std::uint8_t {
     black,
     red,
     green,
+    orange,
     separator,
     windowBackground,
     controlBackground,
@@ -64,9 +66,18 @@ struct RoundedShape {
     friend bool operator==(const RoundedShape&, const RoundedShape&) = default;
 };
 
+// What a shape throws behind itself: its form, blurred over about `radius` on either side of its edge, and moved by `offset`, y downward.
+struct Shadow {
+    Color color;
+    double radius = 0;
+    CGPoint offset;
+    friend bool operator==(const Shadow&, const Shadow&) = default;
+};
+
 struct FillShape {
     RoundedShape shape;
     Color color;
+    std::optional<Shadow> shadow{};
     friend bool operator==(const FillShape&, const FillShape&) = default;
 };
 

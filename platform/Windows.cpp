@@ -121,6 +121,7 @@ void NSWindow::orderFrontRegardless() {
 void NSWindow::orderWindow(NSWindowOrderingMode mode, std::int64_t relativeTo) {
     handle->orderWindow(mode, relativeTo);
     handle->setMiniaturized(false);
+    isOrderedIn = mode != NSWindowOrderingMode::out;
     visibilityChanged();
 }
 
@@ -137,6 +138,7 @@ void NSWindow::close() {
 void NSWindow::miniaturize() {
     if (!has(NSWindowStyleMask::miniaturizable) || !isVisible()) return;
     handle->setMiniaturized(true);
+    isOrderedIn = false;
     visibilityChanged();
 }
 
@@ -164,7 +166,9 @@ void NSWindow::setContentView(std::unique_ptr<ContentView> view) {
 }
 
 void NSWindow::visibilityChanged() {
-    if (content) content->setOnScreen(handle->isVisible());
+    if (!content) return;
+    content->setOrderedIn(isOrderedIn);
+    content->setOnScreen(handle->isVisible());
 }
 
 NSPanel::NSPanel(Platform& thePlatform, const CGRect& contentRect, unsigned styleMask, NSBackingStoreType backing,

@@ -114,6 +114,7 @@ private:
     NSResponder* responder = nullptr;
     NSWindowDelegate* delegate = nullptr;
     bool refusesPress = false;  // of the left button, until the next one
+    bool isOrderedIn = false;
 };
 
 class NSPanel : public NSWindow {

@@ -26,6 +26,7 @@ constexpr std::pair<ColorRole, const char*> roleNames[] = {{ColorRole::primary, 
                                                            {ColorRole::black, "black"},
                                                            {ColorRole::red, "red"},
                                                            {ColorRole::green, "green"},
+                                                           {ColorRole::orange, "orange"},
                                                            {ColorRole::separator, "separator"},
                                                            {ColorRole::windowBackground, "windowBackground"},
                                                            {ColorRole::controlBackground, "controlBackground"},
@@ -73,13 +74,23 @@ QJsonObject shapeOf(const char* operation, const platform::RoundedShape& shape, 
     return described;
 }
 
+QJsonObject shadowOf(const platform::Shadow& shadow) {
+    QJsonObject described{{"radius", shadow.radius}, {"offset", QJsonArray{shadow.offset.x, shadow.offset.y}}};
+    addColor(shadow.color, described);
+    return described;
+}
+
 // Goes through a drawing and keeps what can be seen of it.
 class StrokeList {
 public:
     QJsonArray strokes;
 
     void operator()(const platform::FillShape& fill) {
-        add(fill.shape.rect, [&] { return shapeOf("fill", fill.shape, fill.color); });
+        add(fill.shape.rect, [&] {
+            QJsonObject described = shapeOf("fill", fill.shape, fill.color);
+            if (fill.shadow) described["shadow"] = shadowOf(*fill.shadow);
+            return described;
+        });
     }
     void operator()(const platform::StrokeShape& line) {
         const CGRect painted = platform::CGRectInset(line.shape.rect, -line.lineWidth / 2, -line.lineWidth / 2);

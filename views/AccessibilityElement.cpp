@@ -30,6 +30,7 @@ public:
             return;
         }
         if (item.node != nullptr) item.node->describe(said);
+        if (said.isHidden) return;
         const std::size_t before = elements.size();
         const bool isNamed = item.identifier != nullptr;
         if (isNamed) elements.push_back(said);

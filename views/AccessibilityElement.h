@@ -25,6 +25,7 @@ struct AccessibilityElement {
     bool isEnabled = true;
     bool isDefault = false;
     bool isVisible = true;  // any of it, within what is around it
+    bool isHidden = false;  // accessibilityHidden(): it is left out, with all that is inside
 };
 
 // Buttons, menus, texts and images outside them, and every view with an identifier.

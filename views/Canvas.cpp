@@ -42,7 +42,18 @@ bool Canvas::isSeen(const CGRect& rect) const {
 
 void Canvas::fill(const CGRect& rect, double radius, CornerStyle corners, Color color) {
     if (rect.width() > 0 && rect.height() > 0 && isVisible(color))
-        add(rect, platform::FillShape{{rect, radius, corners}, color});
+        add(rect, platform::FillShape{{rect, radius, corners}, color, drawnShadow()});
+}
+
+std::optional<platform::Shadow> Canvas::drawnShadow() const {
+    if (shadow == nullptr) return std::nullopt;
+    return platform::Shadow{shadow->color, drawn(shadow->radius), {drawn(shadow->offset.x), drawn(shadow->offset.y)}};
+}
+
+void Canvas::drawChildrenShadowed(const LayoutItem& item, const platform::Shadow& thrown) {
+    const auto* around = std::exchange(shadow, &thrown);
+    drawChildren(item);
+    shadow = around;
 }
 
 void Canvas::drawChildrenClipped(const LayoutItem& item, double radius, CornerStyle corners) {

@@ -1,5 +1,5 @@
 // Makes the drawing of a layout: rules and nodes add their strokes to it. All shapes come before all text and symbols: painters are several times faster on such a list, and no view
-// here has a shape in front of text. It keeps the clip and the scale in force; what a clip hides is left out.
+// here has a shape in front of text. It keeps the clip, the scale and the shadow in force; what a clip hides is left out.
 #pragma once
 
 #include <optional>
@@ -40,6 +40,7 @@ public:
 
     void drawChildrenClipped(const LayoutItem& item, double radius, CornerStyle corners);
     void drawChildrenScaled(const LayoutItem& item, double factor);
+    void drawChildrenShadowed(const LayoutItem& item, const platform::Shadow& thrown);
 
     platform::TextSystem& text;
     platform::Drawing& into;
@@ -48,6 +49,7 @@ public:
 
 private:
     bool isSeen(const CGRect& rect) const;
+    std::optional<platform::Shadow> drawnShadow() const;
 
     const Layout& layout;
     const std::int32_t pressedItem;
@@ -55,6 +57,7 @@ private:
     std::optional<CGRect> seen;  // what all clips around leave
     double scale = 1;
     CGPoint origin;
+    const platform::Shadow* shadow = nullptr;
 };
 
 }  // namespace views

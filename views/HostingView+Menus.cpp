@@ -39,7 +39,7 @@ CGRect HostingView::convertToScreen(const CGRect& rect) const {
 std::vector<platform::MenuItem> HostingView::evaluateMenu(const std::function<View()>& entries) {
     if (!entries) return {};
     const auto content = std::make_shared<View>(entries());
-    Reconciler(link, tasks).update(*content, nullptr);
+    Reconciler(link, work).update(*content, nullptr);
     std::vector<platform::MenuItem> items = menuItems(*content);
     for (platform::MenuItem& item : items)
         if (item.action)

@@ -56,11 +56,12 @@ void HostingView::setSize(CGSize theSize) {
     scheduleUpdate();
 }
 
+void HostingView::setOrderedIn(bool orderedIn) {
+    if (std::exchange(isOrderedIn, orderedIn) != orderedIn) runTasks();
+}
+
 void HostingView::setOnScreen(bool onScreen) {
-    if (onScreen == isOnScreen) return;
-    isOnScreen = onScreen;
-    if (!isOnScreen) menu.reset();
-    runTasks();
+    if (!onScreen) menu.reset();
 }
 
 void HostingView::invalidate() {
@@ -80,6 +81,7 @@ void HostingView::update() {
     if (needsLayout) layOut();
     runTasks();
     presentPopovers();
+    if (!work.changes.empty()) runChanges();
 }
 
 void HostingView::evaluate() {
@@ -87,7 +89,7 @@ void HostingView::evaluate() {
     counts.evaluations += 1;
     link->readsColorScheme = false;
     auto fresh = std::make_shared<View>(CompositeNode(root));
-    Reconciler reconciler(link, tasks);
+    Reconciler reconciler(link, work);
     const bool looksAlike = reconciler.update(*fresh, tree.get());
     followColorScheme();
     if (looksAlike && !isTreeNeeded()) {
@@ -101,7 +103,7 @@ void HostingView::evaluate() {
 void HostingView::layOut() {
     needsLayout = false;
     counts.layouts += 1;
-    Reconciler reconciler(link, tasks);
+    Reconciler reconciler(link, work);
     LayoutPass pass(
         platform.text, [&](View& view, const LayoutPass::Declaration& declare) { reconciler.redeclare(view, declare); },
         frames);
@@ -128,18 +130,23 @@ void HostingView::followColorScheme() {
                                                   decltype(platform.appearance.colorScheme)::Delivery::onChangeOnly);
 }
 
-// Starting a task may change state, but changes no list here: what it makes dirty is evaluated later.
 void HostingView::runTasks() {
-    std::erase_if(tasks, [](const auto& task) { return task.expired(); });
-    for (const auto& weak : tasks) {
+    std::erase_if(work.tasks, [](const auto& task) { return task.expired(); });
+    for (const auto& weak : work.tasks) {
         const auto task = weak.lock();
-        if (task->isRunning == isOnScreen) continue;
-        task->isRunning = isOnScreen;
-        if (isOnScreen)
+        if (task->isRunning == isOrderedIn) continue;
+        task->isRunning = isOrderedIn;
+        if (isOrderedIn)
             task->running = task->start();
         else
             task->running.cancel();
     }
+}
+
+// Actions may change what is shown, and even end this host.
+void HostingView::runChanges() {
+    const auto keptTree = tree;
+    for (const auto& action : std::exchange(work.changes, {})) action();
 }
 
 const platform::Drawing& HostingView::drawing() {

@@ -17,9 +17,9 @@
 #include "platform/Platform.h"
 #include "views/AccessibilityElement.h"
 #include "views/Context.h"
+#include "views/HostWork.h"
 #include "views/Layout.h"
 #include "views/RenderCounts.h"
-#include "views/TaskSlot.h"
 #include "views/View.h"
 
 namespace views {
@@ -36,6 +36,7 @@ public:
 
     void didMoveToWindow(platform::NSWindow* theWindow) override;
     void setSize(CGSize size) override;
+    void setOrderedIn(bool orderedIn) override;
     void setOnScreen(bool onScreen) override;
     bool acceptsFirstMouse(const platform::NSEvent& /*event*/) override { return false; }
     void handleEvent(const platform::NSEvent& event) override;
@@ -76,6 +77,7 @@ private:
     void layOut();
     void followColorScheme();
     void runTasks();
+    void runChanges();
     // A field looks otherwise while its window has the keyboard; nobody says when that changes.
     bool showsKeyboard() const { return window != nullptr && !frames.wrappedViews.empty() && window->isKeyWindow(); }
     void mouseDown(const platform::NSEvent& event);
@@ -108,7 +110,7 @@ private:
     RenderCounts::Counts& counts;
     const std::shared_ptr<HostLink> link;
     std::shared_ptr<View> tree;
-    std::vector<std::weak_ptr<TaskSlot>> tasks;
+    HostWork work;
     std::vector<std::weak_ptr<NSView>> wrappedViews;
     Layout frames;
     platform::Drawing painted;
@@ -119,7 +121,7 @@ private:
     std::unique_ptr<platform::MenuHandle> menu;
     std::map<std::string, std::unique_ptr<PresentedPopover>> popovers;  // by place
     platform::Token colorSchemeToken;
-    bool isOnScreen = false;
+    bool isOrderedIn = false;
     bool needsEvaluation = true;
     bool needsLayout = true;
     bool needsDrawing = true;

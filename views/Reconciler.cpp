@@ -15,8 +15,8 @@ bool isSamePlace(const View& fresh, const View& previous) {
 
 }  // namespace
 
-Reconciler::Reconciler(std::shared_ptr<HostLink> theHost, std::vector<std::weak_ptr<TaskSlot>>& theTasks)
-    : host(std::move(theHost)), tasks(theTasks) {}
+Reconciler::Reconciler(std::shared_ptr<HostLink> theHost, HostWork& theWork)
+    : host(std::move(theHost)), work(theWork) {}
 
 bool Reconciler::update(View& fresh, View* previous) {
     if (previous != nullptr && !isSamePlace(fresh, *previous)) previous = nullptr;

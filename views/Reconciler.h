@@ -8,15 +8,15 @@
 #include <vector>
 
 #include "views/Context.h"
-#include "views/TaskSlot.h"
+#include "views/HostWork.h"
 #include "views/View.h"
 
 namespace views {
 
 class Reconciler {
 public:
-    // `theTasks` gets the slots of tasks that weren't there before.
-    Reconciler(std::shared_ptr<HostLink> theHost, std::vector<std::weak_ptr<TaskSlot>>& theTasks);
+    // `theWork` gets the slots of tasks that weren't there before, and the actions that are due.
+    Reconciler(std::shared_ptr<HostLink> theHost, HostWork& theWork);
 
     // Answers whether both would be laid out and drawn the same. `previous` is null where there was nothing, and has
     // lost its state afterwards.
@@ -40,7 +40,7 @@ public:
     static void takeBehaviour(View& kept, View& fresh);
 
     const std::shared_ptr<HostLink> host;
-    std::vector<std::weak_ptr<TaskSlot>>& tasks;
+    HostWork& work;
 };
 
 }  // namespace views

@@ -1,4 +1,4 @@
-// A task in its place in the tree: running while the place is on screen.
+// A task in its place in the tree: running while the window around it is ordered in.
 // Whoever drops the last reference cancels it.
 #pragma once
 

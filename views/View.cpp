@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "views/nodes/AccessibilityHiddenNode.h"
 #include "views/nodes/AccessibilityLabelNode.h"
 #include "views/nodes/ContextMenuNode.h"
 #include "views/nodes/DecorationNode.h"
@@ -9,6 +10,7 @@
 #include "views/nodes/GroupNode.h"
 #include "views/nodes/HelpNode.h"
 #include "views/nodes/PopoverNode.h"
+#include "views/nodes/ShadowNode.h"
 #include "views/nodes/ShapeNode.h"
 #include "views/nodes/TapGestureNode.h"
 #include "views/nodes/TaskNode.h"
@@ -26,15 +28,6 @@ View::View(Color color) : View(ShapeNode(color)) {}
 View&& View::with(const Modifier& modifier) {
     if (modifiers.isFull()) wrap(GroupNode());
     modifiers.append(modifier);
-    return std::move(*this);
-}
-
-template <IsNode T>
-View&& View::wrap(T outerNode) {
-    View outer(std::move(outerNode));
-    outer.key = std::exchange(key, {});
-    outer.children.push_back(std::move(*this));
-    *this = std::move(outer);
     return std::move(*this);
 }
 
@@ -69,6 +62,10 @@ View&& View::clipShape(const Shape& shape) && {
     return with(Clip{shape.cornerRadius(), shape.cornerStyle()});
 }
 
+View&& View::shadow(const platform::Shadow& thrown) && {
+    return wrap(ShadowNode(thrown));
+}
+
 View&& View::onTapGesture(std::function<void()> action) && {
     return wrap(TapGestureNode(std::move(action)));
 }
@@ -87,6 +84,10 @@ View&& View::help(std::string text) && {
 
 View&& View::task(std::function<Task()> start) && {
     return wrap(TaskNode(std::move(start)));
+}
+
+View&& View::accessibilityHidden() && {
+    return wrap(AccessibilityHiddenNode());
 }
 
 View&& View::accessibilityLabel(std::string label) && {

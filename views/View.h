@@ -71,6 +71,8 @@ public:
     View&& clipped() && { return with(Clip{}); }
     View&& clipShape(const Shape& shape) &&;
     View&& scaleEffect(double factor) && { return with(ScaleEffect{factor}); }
+    // Of the filled shapes inside.
+    View&& shadow(const platform::Shadow& thrown) &&;
 
     // Behaviour. What is disabled looks so, takes clicks and does nothing.
     View&& disabled(bool value) && { return with(Disabled{value}); }
@@ -84,8 +86,11 @@ public:
     View&& contextMenu(std::function<View()> menu) &&;
     View&& popover(Binding<bool> isPresented, Edge arrowEdge, std::function<View()> popoverContent) &&;
     View&& help(std::string text) &&;
-    // Started when the view appears on screen, cancelled when it leaves or its place goes.
+    // Started when the view's window is ordered in, cancelled when it is ordered out or the view's place goes. On which space the window is makes no difference.
     View&& task(std::function<Task()> start) &&;
+    // Runs when the value is another one than at the evaluation before.
+    template <typename Value>
+    View&& onChange(Value of, std::function<void()> action) &&;  // in nodes/ChangeNode.h
 
     // Identity among repeated siblings, and what scripts, tests and assistive tools read.
     View&& id(std::string value) && {
@@ -93,6 +98,7 @@ public:
         return std::move(*this);
     }
     View&& accessibilityLabel(std::string label) &&;
+    View&& accessibilityHidden() &&;
     // A literal: the pointer is kept.
     View&& accessibilityIdentifier(const char* name) && { return with(AccessibilityIdentifier{name}); }
 
@@ -120,7 +126,13 @@ private:
     View&& with(const Modifier& modifier);
     // Makes this view the only child so far of a new one.
     template <IsNode T>
-    View&& wrap(T outerNode);
+    View&& wrap(T outerNode) {
+        View outer(std::move(outerNode));
+        outer.key = std::exchange(key, {});
+        outer.children.push_back(std::move(*this));
+        *this = std::move(outer);
+        return std::move(*this);
+    }
 };
 
 }  // namespace views

@@ -30,6 +30,7 @@
 #include "views/View.h"
 // What there is
 #include "views/nodes/ButtonNode.h"
+#include "views/nodes/ChangeNode.h"
 #include "views/nodes/CompositeNode.h"
 #include "views/nodes/DividerNode.h"
 #include "views/nodes/EmptyNode.h"

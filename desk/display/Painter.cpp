@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "desk/display/DecodedImage.h"
+#include "desk/display/ShapeShadow.h"
 
 namespace desk {
 
@@ -43,7 +44,13 @@ private:
 
     void paint(const platform::FillShape& fill) {
         const platform::RoundedShape& shape = fill.shape;
+        if (fill.shadow) paintShadow(shape, *fill.shadow);
         owner.shapes.fill(target, device(shape.rect), shape.radius * scale, shape.corners, palette.resolve(fill.color));
+    }
+
+    void paintShadow(const platform::RoundedShape& shape, const platform::Shadow& shadow) {
+        const QRectF place = device(shape.rect).translated(shadow.offset.x * scale, shadow.offset.y * scale);
+        ShapeShadow{place, shape.radius * scale, shadow.radius * scale, palette.resolve(shadow.color)}.paint(target);
     }
 
     void paint(const platform::StrokeShape& stroke) {

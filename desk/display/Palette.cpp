@@ -28,6 +28,7 @@ constexpr std::array rows{
     Row{ColorRole::black, {0x000000, 1}, {0x000000, 1}},
     Row{ColorRole::red, {0xFF3B30, 1}, {0xFF453A, 1}},
     Row{ColorRole::green, {0x28CD41, 1}, {0x32D74B, 1}},
+    Row{ColorRole::orange, {0xFF9500, 1}, {0xFF9F0A, 1}},
     Row{ColorRole::separator, {0x000000, 0.1}, {0xFFFFFF, 0.1}},
     Row{ColorRole::windowBackground, {0xECECEC, 1}, {0x323232, 1}},
     Row{ColorRole::controlBackground, {0xFFFFFF, 1}, {0x1E1E1E, 1}},

@@ -3,7 +3,8 @@
 #include <QBrush>
 #include <QPainter>
 #include <cmath>
-#include <numbers>
+
+#include "desk/display/BlurredEdge.h"
 
 namespace desk {
 
@@ -21,11 +22,6 @@ Look lookOf(WindowShadow::Depth depth) {
 
 constexpr double sigmas = 2.6;  // beyond which nothing is seen
 constexpr int strip = 64;
-
-// A blurred edge: how much of the light is taken at that distance inside it.
-double coverage(double inside, double sigma) {
-    return 0.5 * (1 + std::erf(inside / (sigma * std::numbers::sqrt2)));
-}
 
 // Black of that opacity for each pixel, by its distance inside the vertical and the horizontal edge.
 template <typename Opacity>
@@ -55,7 +51,7 @@ const WindowShadow::Pieces& WindowShadow::pieces(Depth depth, double scale) {
     const Look look = lookOf(depth);
     const double sigma = look.sigma * scale;
     const int extent = static_cast<int>(std::lround(reach(depth) * scale));
-    const auto across = [&](int at) { return coverage(at + 0.5 - extent, sigma); };
+    const auto across = [&](int at) { return blurredEdge(at + 0.5 - extent, sigma); };
     Pieces made;
     made.topLeft = shade(2 * extent, 2 * extent, [&](int x, int y) { return look.opacity * across(x) * across(y); });
     made.top = shade(strip, 2 * extent, [&](int, int y) { return look.opacity * across(y); });

@@ -66,6 +66,7 @@ public:
     PopoverHandlePort& operator=(const PopoverHandlePort&) = delete;
 
     void show() {
+        popover->content->setOrderedIn(true);
         popover->content->setOnScreen(true);
         menus.show(popover);
     }

@@ -27,12 +27,23 @@ struct Counter {
     }
 };
 
+Task work(platform::Dispatch& /*dispatch*/, std::vector<std::string>* log,
+          std::shared_ptr<std::function<void()>> between) {
+    log->push_back("task");
+    while (true) {
+        co_await Task::sleep(platform::seconds(1));
+        log->push_back("slept");
+        if (*between) (*between)();
+    }
+}
+
 struct Root {
     platform::Platform* platform = nullptr;
     ObservedObject<Model> model;
     ColorSchemeEnvironment colorScheme;
     bool readsScheme = false;
     std::vector<std::string>* log = nullptr;
+    std::shared_ptr<std::function<void()>> between = nullptr;
 
     void connect(Context& context) { context.connect(model, colorScheme); }
     View body() const {
@@ -43,11 +54,8 @@ struct Root {
                       View(Color::of(ColorRole::clear)).onTapGesture([this] {
                           log->push_back("tap " + model->title.get());
                       }))
-            .task([this] {
-                log->push_back("task");
-                return Task::sleeping(platform->dispatch, platform::seconds(1),
-                                      [entries = log] { entries->push_back("slept"); });
-            });
+            .task([this] { return work(platform->dispatch, log, between); })
+            .onChange(model->unseen.get(), [this] { log->push_back("unseen " + std::to_string(model->unseen.get())); });
     }
 };
 
@@ -55,7 +63,7 @@ class HostingViewTest : public testing::Test {
 protected:
     void show(bool readsScheme = false) {
         host = std::make_unique<NSHostingView<Root>>(
-            machine.platform, Root{&machine.platform, ObservedObject<Model>(model), {}, readsScheme, &log},
+            machine.platform, Root{&machine.platform, ObservedObject<Model>(model), {}, readsScheme, &log, between},
             HostRole::bar);
         host->setSize({200, 20});
         machine.endTurn();
@@ -82,6 +90,7 @@ protected:
     kit::ViewPlatform machine;
     Model model;
     std::vector<std::string> log;
+    std::shared_ptr<std::function<void()>> between = std::make_shared<std::function<void()>>();
     std::unique_ptr<HostingView> host;
 };
 
@@ -93,7 +102,7 @@ TEST_F(HostingViewTest, ABurstOfChangesIsOneEvaluationAndOneLayout) {
     model.unseen.set(1);
     EXPECT_TRUE(log.empty()) << "nothing happens before the end of the turn";
     machine.endTurn();
-    EXPECT_EQ(log, std::vector<std::string>{"body"});
+    EXPECT_EQ(log, (std::vector<std::string>{"body", "unseen 1"}));
     EXPECT_EQ(layouts(), before + 1);
     machine.endTurn();
     EXPECT_EQ(layouts(), before + 1);
@@ -106,7 +115,9 @@ TEST_F(HostingViewTest, ATreeThatLooksTheSameIsNeitherLaidOutNorRepainted) {
     model.unseen.set(1);
     host->setSize({200, 20});
     machine.endTurn();
-    EXPECT_EQ(log, std::vector<std::string>{"body"});
+    model.unseen.set(1);
+    machine.endTurn();
+    EXPECT_EQ(log, (std::vector<std::string>{"body", "unseen 1", "body"}));
     EXPECT_EQ(layouts(), before);
     EXPECT_EQ(host->drawingVersion(), version);
     // Yet it acts as declared last.
@@ -159,28 +170,47 @@ TEST_F(HostingViewTest, TheColourSchemeIsObservedOnlyByThoseWhoReadIt) {
     EXPECT_EQ(log, std::vector<std::string>{"body"});
 }
 
-TEST_F(HostingViewTest, ATaskRunsWhileItsViewIsOnScreen) {
+TEST_F(HostingViewTest, ATaskRunsWhileItsWindowIsOrderedIn) {
     show();
-    host->setOnScreen(true);
-    EXPECT_EQ(log, std::vector<std::string>{"task"});
+    host->setOrderedIn(true);
+    EXPECT_TRUE(log.empty()) << "it begins in a later turn";
+    machine.advance({});
+    host->setOnScreen(false);  // as when the user goes to another space
     model.title.set("two");
     machine.endTurn();
-    machine.advance(platform::seconds(1));
-    EXPECT_EQ(log, (std::vector<std::string>{"task", "body", "slept"})) << "declaring it again doesn't start it again";
-    host->setOnScreen(false);
-    host->setOnScreen(true);
-    host->setOnScreen(false);
     machine.advance(platform::seconds(2));
-    EXPECT_EQ(log, (std::vector<std::string>{"task", "body", "slept", "task"})) << "cancelled on disappearing";
+    EXPECT_EQ(log, (std::vector<std::string>{"task", "body", "slept", "slept"}))
+        << "declaring it again doesn't start it again";
+    EXPECT_GT(between.use_count(), 2);
+
+    host->setOrderedIn(false);
+    EXPECT_EQ(between.use_count(), 2) << "what it held is gone at once";
+    log.clear();
+    host->setOrderedIn(true);
+    host->setOrderedIn(false);
+    machine.advance(platform::seconds(2));
+    EXPECT_TRUE(log.empty()) << "cancelled before it began";
+
+    // Cancelled by what it does itself, it goes on to its next sleep.
+    *between = [this] {
+        host->setOrderedIn(false);
+        log.emplace_back("closed");
+    };
+    host->setOrderedIn(true);
+    machine.advance(platform::seconds(5));
+    EXPECT_EQ(log, (std::vector<std::string>{"task", "slept", "closed"}));
+    EXPECT_EQ(between.use_count(), 2);
 }
 
 TEST_F(HostingViewTest, NothingReachesAHostThatIsGone) {
     show();
-    host->setOnScreen(true);
+    host->setOrderedIn(true);
+    machine.advance(platform::seconds(0.5));
     model.title.set("two");
     host.reset();
     log.clear();
     EXPECT_EQ(model.observerCount(), 0U);
+    EXPECT_EQ(between.use_count(), 1);
     machine.advance(platform::seconds(2));
     EXPECT_TRUE(log.empty());
 }
@@ -248,7 +278,7 @@ struct Described {
     View body() const {
         return VStack({.spacing = 0}, Button("Open", [] {}).help("Opens it"),
                       Menu({}, Image("gear")).accessibilityLabel("More").accessibilityIdentifier("more"),
-                      Text("plain"));
+                      VStack({}, Text("passed over")).accessibilityHidden(), Text("plain"));
     }
 };
 

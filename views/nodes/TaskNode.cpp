@@ -9,7 +9,7 @@ bool TaskNode::update(Reconciler& reconciler, View& fresh, View* previous) {
         slot = std::move(previous->as<TaskNode>().slot);
     } else {
         slot = std::make_shared<TaskSlot>();
-        reconciler.tasks.push_back(slot);
+        reconciler.work.tasks.push_back(slot);
     }
     slot->start = std::move(start);
     return Node::update(reconciler, fresh, previous);

@@ -1,4 +1,4 @@
-// Work that is started when a view appears on screen, and cancelled when it leaves or its place goes: task().
+// Work that is started when a view's window is ordered in, and cancelled when that is ordered out or the view's place goes: task().
 // The host starts and cancels it; the node keeps it in its place.
 #pragma once
 
