@@ -7,6 +7,7 @@ namespace brindle {
 AppDelegate::AppDelegate(platform::Platform& thePlatform)
     : platform(thePlatform),
       updateManager(std::make_shared<UpdateManager>(thePlatform)),
+      automationPermissionManager(std::make_shared<FinderAutomationPermissionManager>(thePlatform)),
       aboutWindowController(thePlatform),
       accessibilityManager(std::make_shared<AccessibilityManager>(thePlatform)),
       observer(std::make_shared<FinderObserver>(thePlatform, accessibilityManager,
@@ -23,6 +24,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     updateManager->onWillRelaunchApplication = lifetime.guard([this] { allowsTermination = true; });
     DebugLog::write(platform, accessibilityManager->isTrusted.get() ? "launch trusted=true" : "launch trusted=false");
     makeOverlayCoordinator();
+    if (onboarding().showIfNeeded()) return;
     startObserverOnce();
 }
 
@@ -54,6 +56,14 @@ void AppDelegate::makeOverlayCoordinator() {
         platform, observer, std::make_shared<FinderNavigationService>(platform),
         std::make_shared<ClipboardService>(platform), std::make_shared<TerminalService>(platform),
         std::make_shared<VSCodeService>(platform));
+}
+
+OnboardingWindowController& AppDelegate::onboarding() {
+    if (!onboardingWindowController)
+        onboardingWindowController =
+            std::make_unique<OnboardingWindowController>(platform, accessibilityManager, automationPermissionManager,
+                                                         lifetime.guard([this] { startObserverOnce(); }));
+    return *onboardingWindowController;
 }
 
 void AppDelegate::startObserverOnce() {

@@ -5,17 +5,20 @@
 //   state        entered by                                      left by
 //   constructed  process start                                   the will-finish callback
 //   duplicate    another instance found                          terminate: the launch has stopped
+//   guided       something the guide is for is missing            the guide's onComplete
 //   running      the observer has been started                   an exit that sets allowsTermination
 #pragma once
 
 #include <memory>
 
 #include "app/AboutWindowController.h"
+#include "app/OnboardingWindowController.h"
 #include "overlay/FinderOverlayCoordinator.h"
 #include "platform/Lifetime.h"
 #include "platform/Platform.h"
 #include "services/UpdateManager.h"
 #include "tracking/AccessibilityManager.h"
+#include "tracking/FinderAutomationPermissionManager.h"
 #include "tracking/FinderObserver.h"
 
 namespace brindle {
@@ -32,6 +35,7 @@ public:
 
     // What the menu calls. The windows come up centred and in front.
     void showAbout() { aboutWindowController.show(); }
+    void showPermissionGuide() { onboarding().show(); }
     void quit();
 
     AccessibilityManager& accessibility() { return *accessibilityManager; }
@@ -39,6 +43,7 @@ public:
 
     const UpdateManager& updates() const { return *updateManager; }
     const FinderObserver& finderObserver() const { return *observer; }
+    const FinderAutomationPermissionManager& automationPermissions() const { return *automationPermissionManager; }
     // Null until the launch has made it.
     const FinderOverlayCoordinator* coordinator() const { return overlayCoordinator.get(); }
 
@@ -47,13 +52,15 @@ private:
     bool terminateIfAnotherInstanceIsRunning();
     void makeOverlayCoordinator();
     void startObserverOnce();
+    OnboardingWindowController& onboarding();
 
     platform::Platform& platform;
-    // In the order in which they are made. The login item belongs before the updates; analytics, the installer and the
-    // Automation permission before the coordinator, in this order; the other two windows behind the first.
+    // In the order in which they are made. The login item belongs before the updates; analytics and the installer, in this order, behind them; the settings window behind the about window.
     std::shared_ptr<UpdateManager> updateManager;
+    std::shared_ptr<FinderAutomationPermissionManager> automationPermissionManager;
     std::unique_ptr<FinderOverlayCoordinator> overlayCoordinator;
     AboutWindowController aboutWindowController;
+    std::unique_ptr<OnboardingWindowController> onboardingWindowController;  // made when it is first asked for
     bool observerStarted = false;
     bool allowsTermination = false;
     std::shared_ptr<AccessibilityManager> accessibilityManager;

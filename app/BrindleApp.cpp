@@ -10,14 +10,14 @@ std::unique_ptr<OrvaneApp> OrvaneApp::main(platform::Platform& platform) {
 }
 
 views::MenuBarExtra OrvaneApp::body() {
-    // The guide and the settings window aren't there yet.
-    const auto nothing = [] {};
+    // The settings window isn't there yet.
+    const auto showSettings = [] {};
     return views::MenuBarExtra(
-               [this, nothing] {
+               [this, showSettings] {
                    return OrvaneMenuView{views::ObservedObject<AccessibilityManager>(appDelegate.accessibility()),
                                          views::ObservedObject<UpdateManager>(appDelegate.updates()),
-                                         nothing,
-                                         nothing,
+                                         [this] { appDelegate.showPermissionGuide(); },
+                                         showSettings,
                                          [this] { appDelegate.showAbout(); },
                                          [this] { appDelegate.quit(); }};
                },

@@ -9,6 +9,7 @@ OrdinaryWindowController::~OrdinaryWindowController() {
 }
 
 void OrdinaryWindowController::show() {
+    willShow();
     if (!window) makeWindow();
     rememberFrontmostApplication();
     window->center();
@@ -21,6 +22,8 @@ void OrdinaryWindowController::makeWindow() {
     window = std::make_shared<platform::NSWindow>(platform, platform::CGRect{{}, described.contentSize},
                                                   described.styleMask, platform::NSBackingStoreType::buffered, false);
     window->setTitle(described.title);
+    if (described.minSize) window->setMinSize(*described.minSize);
+    if (described.maxSize) window->setMaxSize(*described.maxSize);
     window->setReleasedWhenClosed(false);
     window->setAnimationBehavior(platform::NSWindowAnimationBehavior::documentWindow);
     window->setDelegate(this);

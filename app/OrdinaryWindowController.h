@@ -22,13 +22,17 @@ public:
     void windowWillClose() override;
 
 protected:
+    // Called each time, before anything else.
+    virtual void willShow() {}
     // Called once, before the window is first shown.
     virtual std::unique_ptr<platform::ContentView> makeContentView() = 0;
-    // The size is that of the content, in points.
+    // The content's size, and what the frame is kept within, in points.
     struct Description {
         std::string title;
         platform::CGSize contentSize;
-        unsigned styleMask;
+        unsigned styleMask = 0;
+        std::optional<platform::CGSize> minSize{};
+        std::optional<platform::CGSize> maxSize{};
     };
     virtual Description description() const = 0;
 

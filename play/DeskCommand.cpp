@@ -25,9 +25,19 @@ namespace play {
 
 namespace {
 
+constexpr std::string_view firstLaunchFlag = "--first-launch";
+
+// What stands on the command line beside the mode.
+struct Options {
+    std::vector<std::string> values;
+    bool isFirstLaunch = false;
+};
+
 constexpr const char* usage =
     "desk                 sit down at the desk; without a display, play the tour\n"
     "desk --screens N     the same with N displays beside each other\n"
+    "desk --first-launch  sit down at a Mac on which the application has never run; also with --script FILE and "
+    "--live\n"
     "desk --live          play a script from standard input on the desk in real time\n"
     "desk --measure drags|idle   how closely bars follow in real time; what an idle desktop costs\n"
     "desk --tour [DIR]    play the tour: it says what it does; its pictures lie in DIR\n"
@@ -51,12 +61,13 @@ std::optional<std::string> readAll(const std::string& file) {
     return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 
-int playScript(const std::vector<std::string>& values) {
-    if (values.size() != 1) return complain("--script takes one file");
-    const auto text = readAll(values.front());
-    if (!text) return complain("the script can't be read: " + values.front());
+int playScript(const Options& options) {
+    if (options.values.size() != 1) return complain("--script takes one file");
+    const auto text = readAll(options.values.front());
+    if (!text) return complain("the script can't be read: " + options.values.front());
     Session session;
-    ScriptPlayer player(session, values.front(), *text, std::cout, std::cerr);
+    if (options.isFirstLaunch) session.beFirstLaunch();
+    ScriptPlayer player(session, options.values.front(), *text, std::cout, std::cerr);
     return player.play();
 }
 
@@ -64,36 +75,39 @@ bool hasDisplay() {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
-int sitDown(const std::vector<std::string>& values) {
+int sitDown(const Options& options) {
     if (!hasDisplay()) return complain("there is no display to sit down at");
-    LiveOptions options;
-    if (values.size() != 1 || values.front().size() != 1 || values.front() < "1" || values.front() > "4")
+    LiveOptions live;
+    live.isFirstLaunch = options.isFirstLaunch;
+    if (options.values.size() != 1 || options.values.front().size() != 1 || options.values.front() < "1" ||
+        options.values.front() > "4")
         return complain("--screens takes a number from 1 to 4");
-    options.screens = values.front().front() - '0';
-    return LiveDesk(options).run();
+    live.screens = options.values.front().front() - '0';
+    return LiveDesk(live).run();
 }
 
-int playLive(const std::vector<std::string>& values) {
-    if (!values.empty()) return complain("--live takes its script from standard input");
-    LiveOptions options;
-    options.takesScript = true;
-    return LiveDesk(options).run();
+int playLive(const Options& options) {
+    if (!options.values.empty()) return complain("--live takes its script from standard input");
+    LiveOptions live;
+    live.takesScript = true;
+    live.isFirstLaunch = options.isFirstLaunch;
+    return LiveDesk(live).run();
 }
 
-int measure(const std::vector<std::string>& values) {
-    if (values == std::vector<std::string>{"drags"}) return measureDrags(std::cout);
-    if (values == std::vector<std::string>{"idle"}) return measureIdle(std::cout, 60);
+int measure(const Options& options) {
+    if (options.values == std::vector<std::string>{"drags"}) return measureDrags(std::cout);
+    if (options.values == std::vector<std::string>{"idle"}) return measureIdle(std::cout, 60);
     return complain("--measure takes drags or idle");
 }
 
-int playTour(const std::vector<std::string>& values) {
-    if (values.size() > 1) return complain("--tour takes one folder");
-    return runTour(values.empty() ? std::string() : values.front());
+int playTour(const Options& options) {
+    if (options.values.size() > 1) return complain("--tour takes one folder");
+    return runTour(options.values.empty() ? std::string() : options.values.front());
 }
 
-int playContactSheet(const std::vector<std::string>& values) {
-    if (values.size() != 1) return complain("--contact-sheet takes one file");
-    return drawContactSheet(values.front());
+int playContactSheet(const Options& options) {
+    if (options.values.size() != 1) return complain("--contact-sheet takes one file");
+    return drawContactSheet(options.values.front());
 }
 
 template <typename Number>
@@ -104,33 +118,34 @@ std::optional<Number> wholeNumber(const std::string& word) {
     return number;
 }
 
-int soak(const std::vector<std::string>& values) {
-    const bool isVerbose = values.size() == 3 && values[2] == "--verbose";
-    const bool isComplete = values.size() == 2 || isVerbose;
-    const auto seed = isComplete ? wholeNumber<std::uint64_t>(values[0]) : std::nullopt;
-    const auto steps = isComplete ? wholeNumber<std::int64_t>(values[1]) : std::nullopt;
+int soak(const Options& options) {
+    const bool isVerbose = options.values.size() == 3 && options.values[2] == "--verbose";
+    const bool isComplete = options.values.size() == 2 || isVerbose;
+    const auto seed = isComplete ? wholeNumber<std::uint64_t>(options.values[0]) : std::nullopt;
+    const auto steps = isComplete ? wholeNumber<std::int64_t>(options.values[1]) : std::nullopt;
     if (!seed || !steps || *steps < 1) return complain("--soak takes a seed and a number of steps");
-    SoakOptions options;
-    options.seed = *seed;
-    options.steps = *steps;
-    options.isVerbose = isVerbose;
-    return runSoak(options, std::cout);
+    SoakOptions wanted;
+    wanted.seed = *seed;
+    wanted.steps = *steps;
+    wanted.isVerbose = isVerbose;
+    return runSoak(wanted, std::cout);
 }
 
-int showHelp(const std::vector<std::string>& /*values*/) {
+int showHelp(const Options& /*options*/) {
     std::cout << usage;
     return 0;
 }
 
 struct Mode {
     std::string_view name;
-    int (*run)(const std::vector<std::string>& values);
+    int (*run)(const Options& options);
     bool showsWindow = false;
+    bool canBeFirstLaunch = false;
 };
-constexpr Mode modes[] = {{"--screens", sitDown, true},
-                          {"--live", playLive, true},
+constexpr Mode modes[] = {{"--screens", sitDown, true, true},
+                          {"--live", playLive, true, true},
                           {"--measure", measure, true},
-                          {"--script", playScript},
+                          {"--script", playScript, false, true},
                           {"--tour", playTour},
                           {"--contact-sheet", playContactSheet},
                           {"--soak", soak},
@@ -150,15 +165,20 @@ void drawWithoutDisplay() {
 
 int runDesk(const std::vector<std::string>& arguments) {
     qInstallMessageHandler(writeToolkitMessage);
-    const std::vector<std::string> words = !arguments.empty() ? arguments
-                                           : hasDisplay()     ? std::vector<std::string>{"--screens", "1"}
-                                                              : std::vector<std::string>{"--tour"};
+    Options options{arguments};
+    options.isFirstLaunch = std::erase(options.values, firstLaunchFlag) > 0;
+    const bool sitsDown = options.isFirstLaunch || hasDisplay();
+    if (options.values.empty() && sitsDown) options.values = {"--screens", "1"};
+    if (options.values.empty()) options.values = {"--tour"};
+    const std::string name = options.values.front();
+    options.values.erase(options.values.begin());
     const auto* mode =
-        std::find_if(std::begin(modes), std::end(modes), [&](const Mode& each) { return words.front() == each.name; });
-    if (mode == std::end(modes)) return complain("unknown argument: " + words.front() + "\n" + usage);
+        std::find_if(std::begin(modes), std::end(modes), [&](const Mode& each) { return name == each.name; });
+    if (mode == std::end(modes)) return complain("unknown argument: " + name + "\n" + usage);
+    if (options.isFirstLaunch && !mode->canBeFirstLaunch) return complain(name + " is no first launch");
     if (!mode->showsWindow) drawWithoutDisplay();
     const desk::GuiApplication gui;
-    return mode->run({words.begin() + 1, words.end()});
+    return mode->run(options);
 }
 
 }  // namespace play

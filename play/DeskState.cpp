@@ -160,6 +160,18 @@ QJsonArray scripts(const desk::Machine& machine) {
     });
 }
 
+QJsonValue automation(const Session& session) {
+    constexpr const char* names[] = {"notChecked", "allowed", "denied", "failed"};
+    const auto* orvane = session.orvane();
+    if (orvane == nullptr) return {};
+    const auto& permissions = orvane->appDelegate.automationPermissions();
+    const auto& status = permissions.status.get();
+    return QJsonObject{{"status", names[status.kind]},
+                       {"message", status.message.empty() ? QJsonValue() : jsonText(std::string_view(status.message))},
+                       {"isRequesting", permissions.isRequesting.get()},
+                       {"isRefreshing", permissions.isRefreshing()}};
+}
+
 QJsonArray opened(const desk::Machine& machine) {
     return arrayOf(machine.launchServices.opened(), [](const desk::OpenedFiles& files) {
         const auto application =
@@ -248,6 +260,7 @@ QJsonObject stateOf(Session& session) {
             {"permissions", permissions(machine)},
             {"clipboard", jsonText(machine.clipboard)},
             {"opened", opened(machine)},
+            {"automation", automation(session)},
             {"defaults", plainValue(session.defaults())},
             {"processes", processes(machine)},
             {"scripts", scripts(machine)},

@@ -4,6 +4,8 @@ namespace play {
 
 namespace {
 
+constexpr const char* completedGuide = "hasCompletedOnboardingV1";
+
 class OrvaneProgram final : public desk::Program {
 public:
     explicit OrvaneProgram(platform::Platform& platform) : orvane(platform) {}
@@ -15,7 +17,7 @@ public:
 }  // namespace
 
 Session::Session() {
-    setDefault("hasCompletedOnboardingV1", true);
+    setDefault(completedGuide, true);
     machine.launchServices.startProgram = [this](const std::string& bundlePath) {
         const bool isOurs = isCopy(bundlePath);
         if (isOurs) launch(bundlePath);
@@ -24,6 +26,12 @@ Session::Session() {
 }
 
 Session::~Session() = default;
+
+void Session::beFirstLaunch() {
+    machine.permissions.setAccessibility(false);
+    machine.permissions.setAutomation(desk::AutomationPermission::ask);
+    setDefault(completedGuide, std::nullopt);
+}
 
 bool Session::isCopy(const std::string& path) const {
     return machine.disk.exists(path + "/Contents/MacOS/Orvane");

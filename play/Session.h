@@ -37,6 +37,8 @@ public:
     // A copy of the application is a folder with its executable in it.
     bool isCopy(const std::string& path) const;
     void launch(const std::string& bundlePath);
+    // Before a launch: a Mac on which the application has never run. It has no permission, and the user hasn't been through the guide.
+    void beFirstLaunch();
     bool hasLaunched() const { return launched; }
 
     // The living copy that was launched last, and what runs in it; null without one.

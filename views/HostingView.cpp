@@ -57,7 +57,7 @@ void HostingView::setSize(CGSize theSize) {
 }
 
 void HostingView::setOrderedIn(bool orderedIn) {
-    if (std::exchange(isOrderedIn, orderedIn) != orderedIn) runTasks();
+    if (std::exchange(isOrderedIn, orderedIn) != orderedIn) work.runTasks(isOrderedIn);
 }
 
 void HostingView::setOnScreen(bool onScreen) {
@@ -79,9 +79,10 @@ void HostingView::update() {
     // Laying out for another size declares parts of the tree anew.
     if (needsEvaluation || (needsLayout && isTreeNeeded())) evaluate();
     if (needsLayout) layOut();
-    runTasks();
+    work.runTasks(isOrderedIn);
     presentPopovers();
-    if (!work.changes.empty()) runChanges();
+    const auto keptTree = tree;
+    work.runChanges();
 }
 
 void HostingView::evaluate() {
@@ -128,25 +129,6 @@ void HostingView::followColorScheme() {
     colorSchemeToken =
         platform.appearance.colorScheme.subscribe([this](platform::ColorScheme) { invalidate(); },
                                                   decltype(platform.appearance.colorScheme)::Delivery::onChangeOnly);
-}
-
-void HostingView::runTasks() {
-    std::erase_if(work.tasks, [](const auto& task) { return task.expired(); });
-    for (const auto& weak : work.tasks) {
-        const auto task = weak.lock();
-        if (task->isRunning == isOrderedIn) continue;
-        task->isRunning = isOrderedIn;
-        if (isOrderedIn)
-            task->running = task->start();
-        else
-            task->running.cancel();
-    }
-}
-
-// Actions may change what is shown, and even end this host.
-void HostingView::runChanges() {
-    const auto keptTree = tree;
-    for (const auto& action : std::exchange(work.changes, {})) action();
 }
 
 const platform::Drawing& HostingView::drawing() {

@@ -76,8 +76,6 @@ private:
     void evaluate();
     void layOut();
     void followColorScheme();
-    void runTasks();
-    void runChanges();
     // A field looks otherwise while its window has the keyboard; nobody says when that changes.
     bool showsKeyboard() const { return window != nullptr && !frames.wrappedViews.empty() && window->isKeyWindow(); }
     void mouseDown(const platform::NSEvent& event);

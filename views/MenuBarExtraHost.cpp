@@ -27,7 +27,7 @@ MenuBarExtraHost::MenuBarExtraHost(platform::Platform& thePlatform, MenuBarExtra
     : platform(thePlatform),
       scene(std::move(theScene)),
       link(std::make_shared<HostLink>(HostLink{thePlatform, [this] { invalidate(); }})) {
-    Reconciler(link, tasks).update(scene.label, nullptr);
+    Reconciler(link, work).update(scene.label, nullptr);
     ShownLabel shown;
     shown.read(scene.label);
     item = platform.menus.addStatusItem(shown.image, shown.element.label, lifetime.guard([this] { open(); }));
@@ -40,7 +40,7 @@ MenuBarExtraHost::~MenuBarExtraHost() {
 void MenuBarExtraHost::open() {
     content.reset();
     menu = item->popUpMenu(evaluate());
-    platform.runLoop.atEndOfTurn(lifetime.guard([this] { startTasks(); }));
+    platform.runLoop.atEndOfTurn(lifetime.guard([this] { work.runTasks(true); }));
 }
 
 void MenuBarExtraHost::invalidate() {
@@ -52,13 +52,15 @@ void MenuBarExtraHost::update() {
     isScheduled = false;
     if (content.expired()) return;
     menu->update(evaluate());
-    startTasks();
+    work.runTasks(true);
+    const auto keptContent = content.lock();
+    work.runChanges();
 }
 
 std::vector<platform::MenuItem> MenuBarExtraHost::evaluate() {
     const auto before = content.lock();
     const auto fresh = std::make_shared<View>(scene.content());
-    Reconciler(link, tasks).update(*fresh, before.get());
+    Reconciler(link, work).update(*fresh, before.get());
     content = fresh;
     std::vector<platform::MenuItem> items = menuItems(*fresh);
     for (platform::MenuItem& entry : items)
@@ -66,14 +68,6 @@ std::vector<platform::MenuItem> MenuBarExtraHost::evaluate() {
             if (action) action();
         });
     return items;
-}
-
-void MenuBarExtraHost::startTasks() {
-    std::erase_if(tasks, [](const auto& task) { return task.expired(); });
-    for (const auto& weak : tasks) {
-        const auto task = weak.lock();
-        if (!std::exchange(task->isRunning, true)) task->running = task->start();
-    }
 }
 
 }  // namespace views

@@ -8,8 +8,8 @@
 #include "platform/Lifetime.h"
 #include "platform/Platform.h"
 #include "views/Context.h"
+#include "views/HostWork.h"
 #include "views/MenuBarExtra.h"
-#include "views/TaskSlot.h"
 
 namespace views {
 
@@ -25,14 +25,13 @@ private:
     void invalidate();
     void update();
     std::vector<platform::MenuItem> evaluate();
-    void startTasks();
 
     platform::Platform& platform;
     MenuBarExtra scene;
     const std::shared_ptr<HostLink> link;
     // The entries of the menu hold it.
     std::weak_ptr<View> content;
-    std::vector<std::weak_ptr<TaskSlot>> tasks;
+    HostWork work;
     std::unique_ptr<platform::MenuHandle> menu;
     std::unique_ptr<platform::StatusItem> item;
     bool isScheduled = false;

@@ -41,6 +41,7 @@ LiveDesk::LiveDesk(const LiveOptions& options)
         script = lines.get();
         player = std::make_unique<ScriptPlayer>(session, "script", std::move(lines), std::cout, std::cerr);
     }
+    if (options.isFirstLaunch) session.beFirstLaunch();
     window.show();
     if (!options.takesScript && !options.isBare) setScene();
 }

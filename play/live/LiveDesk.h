@@ -22,6 +22,7 @@ class ScriptPlayer;
 
 struct LiveOptions {
     int screens = 1;
+    bool isFirstLaunch = false;
     bool isBare = false;  // as fresh as a script's, for whoever sets the scene himself; nothing of the host's is shared
     bool takesScript = false;  // bare, and driven by standard input, with whose end the desk ends
 };

@@ -117,9 +117,9 @@ std::deque<std::string> clearingLines(const Session& session) {
         lines.push_back("finder close " + numberWord(window->number));
     lines.emplace_back("finder close front");
     if (session.orvane() == nullptr) return lines;
-    // Wherever it is, it comes to the front with the keyboard; a display with a menu bar is there for it.
-    for (const char* line :
-         {"screens none", "screen 0 0 1440 900", "click status-item", "click item \"About Orvane\"", "key cmd+w"})
+    // Wherever a window is, the menu brings it to the front with the keyboard; a display with a menu bar is there for it.
+    for (const char* line : {"screens none", "screen 0 0 1440 900", "click status-item", "click item \"About Orvane\"",
+                             "key cmd+w", "click status-item", "click item Permission…", "key cmd+w"})
         lines.emplace_back(line);
     return lines;
 }

@@ -34,7 +34,7 @@ void Leftovers::look(const Session& session) {
 std::optional<Finding> Leftovers::check(const Session& session, std::int64_t bytesOfStory) {
     if (session.application() == nullptr || !session.machine.finder.windows().empty()) return std::nullopt;
     if (!windowsOf(session).isEmpty())
-        return Finding{"leftovers", "the about window was closed and is still on screen", {"expect /windows []"}};
+        return Finding{"leftovers", "a window was closed and is still on screen", {"expect /windows []"}};
     auto finding = checkSubscriptions(session);
     return finding ? finding : checkMemory(bytesOfStory);
 }

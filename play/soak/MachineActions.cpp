@@ -108,9 +108,12 @@ Lines openingLines(const Chooser& choose) {
     if (choose.random.oneIn(2)) lines.push_back("process " + std::string(choose.random.pick(otherApplications)));
     for (int windows = choose.random.between(0, 3); windows > 0; --windows)
         lines.push_back(joinWords({"finder open", textWord(choose.folder()), choose.frame()}));
-    if (choose.random.oneIn(8)) lines.emplace_back("permission accessibility missing");
+    const bool isUntrusted = choose.random.oneIn(8);
+    if (isUntrusted) lines.emplace_back("permission accessibility missing");
     if (choose.random.oneIn(8)) lines.emplace_back("finder quit");
     lines.emplace_back("launch");
+    // The guide, which would keep the keyboard.
+    if (isUntrusted) lines.emplace_back("key cmd+w");
     return lines;
 }
 

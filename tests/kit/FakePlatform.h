@@ -401,7 +401,8 @@ private:
     };
     struct NoDefaults final : platform::NSUserDefaults {
         std::optional<std::string> stringForKey(const std::string&) override { return std::nullopt; }
-        bool boolForKey(const std::string&) override { return false; }
+        // The user has been through the guide.
+        bool boolForKey(const std::string&) override { return true; }
         void setObject(const std::string&, platform::Value) override {}
     };
     struct NoBundle final : platform::NSBundle {

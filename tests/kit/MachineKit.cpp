@@ -23,7 +23,9 @@ std::unique_ptr<platform::TextSystem> systemText() {
 
 }  // namespace
 
-OrvaneDesk::OrvaneDesk() : Desk(systemText()) {}
+OrvaneDesk::OrvaneDesk() : Desk(systemText()) {
+    machine.defaults["com.velmora.Brindle"].emplace("hasCompletedOnboardingV1", true);
+}
 
 desk::LaunchedApplication& OrvaneDesk::launch(const std::string& bundlePath) {
     desk::LaunchedApplication& launched =

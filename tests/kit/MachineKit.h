@@ -1,4 +1,4 @@
-// A desk on which the system itself runs, for tests of whole behaviours. It measures text with the system font, as the display does.
+// A desk on which the system itself runs, for tests of whole behaviours: the user has been through the guide. It measures text with the system font, as the display does.
 #pragma once
 
 #include <string>

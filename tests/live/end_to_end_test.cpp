@@ -125,6 +125,50 @@ TEST_F(AtTheDesk, FoldersCrumbsThePathFieldAndDrags) {
     dragInSteps("bar 101 brand", -120, -90);
 }
 
+QString buttonOf(const QJsonObject& state, int index) {
+    return state["windows"][0]["controls"][index]["label"].toString();
+}
+
+// From a Mac on which the application has never run to the first bar: prompts, System Settings and the guide, each with a press of the mouse.
+TEST(FirstLaunch, LeadsByMouseToABar) {
+    struct Step {
+        const char* click;
+        bool (*leadsTo)(const QJsonObject& state);
+    };
+    const auto asks = [](const QJsonObject& state) { return state["alert"]["source"] == "system"; };
+    const Step steps[] = {
+        {"label \"Open System Settings\"",
+         [](const auto& state) { return state["systemSettings"]["pane"] == "accessibility"; }},
+        {"label \"Orvane\"", [](const auto& state) { return buttonOf(state, 0) == "Allow Finder Access"; }},
+        {"window \"System Settings\" close", [](const auto& state) { return state["systemSettings"].isNull(); }},
+        {"window \"Welcome to Orvane\" titlebar",
+         [](const auto& state) { return state["windows"][0]["key"].toBool(); }},
+        {"label \"Allow Finder Access\"", asks},
+        {"label \"OK\"",
+         [](const auto& state) {
+             return lastCrumb(state) == "Documents" && standsAbove(state) && buttonOf(state, 0) == "Close";
+         }},
+        {"label \"Close\"",
+         [](const auto& state) {
+             return state["windows"].toArray().isEmpty() && state["defaults"]["hasCompletedOnboardingV1"].toBool();
+         }},
+    };
+    const desk::GuiApplication gui;
+    LiveDisplay display;
+    for (const char* line :
+         {"permission accessibility missing", "permission automation ask", "set-default hasCompletedOnboardingV1 none"})
+        display.tell(line);
+    display.ask(std::string("finder open ") + documents + " 20 100 800 500");
+    display.tell("launch");
+    ASSERT_TRUE(display.comesTrue(asks));
+    for (const Step& step : steps) {
+        EXPECT_TRUE(display.showsWhatIsComposed());
+        display.click(step.click);
+        ASSERT_TRUE(display.comesTrue(step.leadsTo)) << step.click;
+    }
+    EXPECT_EQ(display.end(), 0);
+}
+
 // Each leaves the desk in the middle of something: a script that its queue or the main thread waits for, a question, a drag with a loop of its own, an open menu, typing.
 class InTheMiddle : public testing::TestWithParam<std::vector<const char*>> {};
 

@@ -11,7 +11,7 @@ namespace views {
 
 namespace {
 
-constexpr double insetAside = 14;
+constexpr double insetAside = 12;
 constexpr double insetAbove = 3;
 constexpr double cornerRadius = 6;
 constexpr double opacityWhenDisabled = 0.4;

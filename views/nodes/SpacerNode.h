@@ -1,4 +1,4 @@
-// Room that takes whatever is left along the stack it is in, and none across it.
+// Room that takes whatever the others leave along the stack it is in, and none across it.
 // It shows nothing.
 #pragma once
 
