@@ -116,6 +116,9 @@ std::deque<std::string> clearingLines(const Session& session) {
     for (const auto* window : session.machine.finder.windows())
         lines.push_back("finder close " + numberWord(window->number));
     lines.emplace_back("finder close front");
+    constexpr const char* systemSettings = "com.apple.systempreferences";
+    if (session.machine.processes.findByBundleIdentifier(systemSettings) != nullptr)
+        lines.push_back(joinWords({"terminate", systemSettings}));
     if (session.orvane() == nullptr) return lines;
     // Wherever a window is, the menu brings it to the front with the keyboard; a display with a menu bar is there for it.
     for (const char* line : {"screens none", "screen 0 0 1440 900", "click status-item", "click item \"About Orvane\"",
