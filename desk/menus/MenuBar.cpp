@@ -67,30 +67,25 @@ bool MenuBar::isOpen() const {
 std::optional<MenuBar::Place> MenuBar::placeAt(const CGPoint& point) const {
     for (const CGRect& strip : strips()) {
         if (!platform::CGRectContainsPoint(strip, point)) continue;
-        if (const std::string* id = shown(strip).idAt(insideLaidOut(strip, point))) return Place{strip, *id};
+        const views::LaidOutView bar = shown(strip);
+        if (const std::string* id = bar.idAt(insideLaidOut(strip, point)))
+            return Place{strip, *id, onScreen(strip, *bar.frameOf(*id))};
     }
     return std::nullopt;
 }
 
-std::optional<CGRect> MenuBar::boxAt(const Place& place) const {
-    const auto box = shown(place.strip).frameOf(place.id);
-    return box ? std::optional(onScreen(place.strip, *box)) : std::nullopt;
-}
-
-std::optional<MenuBar::Place> MenuBar::placeOf(const BarItem& item) const {
+std::vector<MenuBar::Place> MenuBar::placesOf(const BarItem& item) const {
     const auto found = std::find_if(added.begin(), added.end(), [&](const auto& each) { return each.get() == &item; });
     const std::string id = itemId(static_cast<std::size_t>(found - added.begin()));
     std::vector<Place> places;
-    for (const CGRect& strip : strips()) {
-        const Place place{strip, id};
-        if (boxAt(place)) places.insert(place == pressed ? places.begin() : places.end(), place);
-    }
-    return places.empty() ? std::nullopt : std::optional(places.front());
+    for (const CGRect& strip : strips())
+        if (const auto box = shown(strip).frameOf(id)) places.push_back({strip, id, onScreen(strip, *box)});
+    return places;
 }
 
 std::optional<CGRect> MenuBar::frameOf(const BarItem& item) const {
-    const auto place = placeOf(item);
-    return place ? boxAt(*place) : std::nullopt;
+    const auto places = placesOf(item);
+    return places.empty() ? std::nullopt : std::optional(places.front().box);
 }
 
 const BarItem* MenuBar::itemAt(const Place& place) const {
@@ -129,29 +124,29 @@ std::optional<std::int32_t> MenuBar::take(const platform::NSEvent& event) {
 void MenuBar::mouseIsAt(const CGPoint& point) {
     if (!isOpen()) return;
     const auto place = placeAt(point);
-    if (place && !(pressed == *place)) open(*place);
+    if (place && !pressed.isIn(place->strip, place->id)) open(*place);
 }
 
 void MenuBar::open(const Place& place) {
     pressed = place;
-    const BarItem* item = itemAt(place);
-    if (item != nullptr) return item->pressed();
+    if (const BarItem* item = itemAt(place)) return item->pressed();
     const Process* frontmost = processes.frontmost();
-    const auto box = boxAt(place);
-    if (frontmost == nullptr || !box) return;
+    if (frontmost == nullptr) return;
     const std::int32_t owner = frontmost->processIdentifier;
     const std::vector<std::string> titles = titlesOf(processes, *frontmost);
     for (std::size_t i = 0; i < titles.size(); ++i)
         if (place.id == titleId(i))
-            openMenu = menus.openBelow(owner, *box,
+            openMenu = menus.openBelow(owner, place.box,
                                        processes.keeperOf(owner).menuItems(owner, i == 0 ? std::string() : titles[i]));
 }
 
 std::uint64_t MenuBar::openMenuOf(const BarItem& item, std::vector<platform::MenuItem> entries) {
-    const auto place = placeOf(item);
-    if (!place) entries.clear();
-    pressed = place.value_or(Place{});
-    openMenu = menus.openBelow(item.owner, place ? *boxAt(*place) : CGRect{}, std::move(entries));
+    const auto places = placesOf(item);
+    const auto same = std::find_if(places.begin(), places.end(),
+                                   [this](const Place& each) { return pressed.isIn(each.strip, each.id); });
+    if (places.empty()) entries.clear();
+    pressed = places.empty() ? Place{} : same == places.end() ? places.front() : *same;
+    openMenu = menus.openBelow(item.owner, pressed.box, std::move(entries));
     return openMenu;
 }
 

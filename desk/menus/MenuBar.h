@@ -45,9 +45,9 @@ public:
     void add(const std::shared_ptr<BarItem>& item);
     void remove(const BarItem& item);
     void applicationEnded(std::int32_t owner);
-    // Where it was pressed, or else on the first screen; empty where no menu bar shows it.
+    // On the first screen that shows it; empty where none does.
     std::optional<platform::CGRect> frameOf(const BarItem& item) const;
-    // Below it. The answer is MenuLayer's.
+    // Below it, where it was pressed. The answer is MenuLayer's.
     std::uint64_t openMenuOf(const BarItem& item, std::vector<platform::MenuItem> entries);
 
     bool covers(const platform::CGPoint& point) const override;
@@ -58,13 +58,17 @@ private:
     struct Place {
         platform::CGRect strip;
         std::string id;
-        friend bool operator==(const Place&, const Place&) = default;
+        platform::CGRect box;  // on the screen
+
+        bool isIn(const platform::CGRect& thatStrip, const std::string& thatId) const {
+            return strip == thatStrip && id == thatId;
+        }
     };
 
     std::vector<platform::CGRect> strips() const;
-    std::optional<platform::CGRect> boxAt(const Place& place) const;
     std::optional<Place> placeAt(const platform::CGPoint& point) const;
-    std::optional<Place> placeOf(const BarItem& item) const;
+    // By screens.
+    std::vector<Place> placesOf(const BarItem& item) const;
     const BarItem* itemAt(const Place& place) const;
     void open(const Place& place);
     bool isOpen() const;
