@@ -6,7 +6,9 @@ namespace brindle {
 
 AppDelegate::AppDelegate(platform::Platform& thePlatform)
     : platform(thePlatform),
+      launchAtLoginManager(std::make_shared<LaunchAtLoginManager>(thePlatform)),
       updateManager(std::make_shared<UpdateManager>(thePlatform)),
+      analyticsService(thePlatform.shared<AnalyticsService>()),
       automationPermissionManager(std::make_shared<FinderAutomationPermissionManager>(thePlatform)),
       aboutWindowController(thePlatform),
       accessibilityManager(std::make_shared<AccessibilityManager>(thePlatform)),
@@ -22,6 +24,10 @@ void AppDelegate::applicationDidFinishLaunching() {
     if (terminateIfAnotherInstanceIsRunning()) return;
     updateManager->updaterController().startUpdater();
     updateManager->onWillRelaunchApplication = lifetime.guard([this] { allowsTermination = true; });
+    launchAtLoginManager->configureDefault();
+    analyticsService.configure();
+    observer->onFinderActivity =
+        lifetime.guard([this] { analyticsService.recordActiveUseIfNeeded(platform.clock.now()); });
     DebugLog::write(platform, accessibilityManager->isTrusted.get() ? "launch trusted=true" : "launch trusted=false");
     makeOverlayCoordinator();
     if (onboarding().showIfNeeded()) return;

@@ -16,6 +16,8 @@
 #include "overlay/FinderOverlayCoordinator.h"
 #include "platform/Lifetime.h"
 #include "platform/Platform.h"
+#include "services/AnalyticsService.h"
+#include "services/LaunchAtLoginManager.h"
 #include "services/UpdateManager.h"
 #include "tracking/AccessibilityManager.h"
 #include "tracking/FinderAutomationPermissionManager.h"
@@ -42,6 +44,7 @@ public:
     UpdateManager& updates() { return *updateManager; }
 
     const UpdateManager& updates() const { return *updateManager; }
+    const LaunchAtLoginManager& launchAtLogin() const { return *launchAtLoginManager; }
     const FinderObserver& finderObserver() const { return *observer; }
     const FinderAutomationPermissionManager& automationPermissions() const { return *automationPermissionManager; }
     // Null until the launch has made it.
@@ -55,8 +58,10 @@ private:
     OnboardingWindowController& onboarding();
 
     platform::Platform& platform;
-    // In the order in which they are made. The login item belongs before the updates; analytics and the installer, in this order, behind them; the settings window behind the about window.
+    // In the order in which they are made. The installer belongs behind analytics; the settings window behind the about window.
+    std::shared_ptr<LaunchAtLoginManager> launchAtLoginManager;
     std::shared_ptr<UpdateManager> updateManager;
+    AnalyticsService& analyticsService;
     std::shared_ptr<FinderAutomationPermissionManager> automationPermissionManager;
     std::unique_ptr<FinderOverlayCoordinator> overlayCoordinator;
     AboutWindowController aboutWindowController;

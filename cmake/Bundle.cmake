@@ -4,6 +4,7 @@
 set(BRINDLE_BUNDLE "${CMAKE_BINARY_DIR}/Orvane.app")
 set(bundle_source "${CMAKE_SOURCE_DIR}/app/bundle")
 configure_file("${bundle_source}/Info.plist.in" "${BRINDLE_BUNDLE}/Contents/Info.plist" @ONLY)
+configure_file("${bundle_source}/GoogleService-Info.plist" "${BRINDLE_BUNDLE}/Contents/Resources/GoogleService-Info.plist" COPYONLY)
 file(CONFIGURE OUTPUT "${BRINDLE_BUNDLE}/Contents/MacOS/Orvane" CONTENT "The executable that a port builds belongs here.\n")
 
 add_executable(render_svg "${CMAKE_SOURCE_DIR}/cmake/render-svg.cpp")

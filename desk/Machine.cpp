@@ -48,17 +48,31 @@ FinderNeighbours Machine::neighboursOfFinder() {
 }
 
 std::unique_ptr<ApplicationBackend> Machine::makePorts(LaunchedApplication& application) {
-    const PortNeighbours neighbours{clock,          disk,
-                                    displays,       windows,
-                                    processes,      activation,
-                                    launchServices, faults,
-                                    permissions,    pointer,
-                                    keyboard,       alerts,
-                                    menus,          menuBar,
-                                    finder,         scripting,
-                                    appearance,     defaults,
-                                    clipboard,      text,
-                                    journal,        {scheduler, disk, launchServices, alerts, journal, updateFeed}};
+    const PortNeighbours neighbours{clock,
+                                    disk,
+                                    displays,
+                                    windows,
+                                    processes,
+                                    activation,
+                                    launchServices,
+                                    faults,
+                                    permissions,
+                                    pointer,
+                                    keyboard,
+                                    alerts,
+                                    menus,
+                                    menuBar,
+                                    finder,
+                                    scripting,
+                                    appearance,
+                                    defaults,
+                                    clipboard,
+                                    calendar,
+                                    loginItem,
+                                    analyticsEvents,
+                                    text,
+                                    journal,
+                                    {scheduler, disk, launchServices, alerts, journal, updateFeed}};
     return std::make_unique<ApplicationPorts>(neighbours, application);
 }
 

@@ -24,6 +24,7 @@
 #include "desk/processes/Journal.h"
 #include "desk/processes/KeyboardFocus.h"
 #include "desk/processes/LaunchServices.h"
+#include "desk/processes/LoginItem.h"
 #include "desk/processes/Permissions.h"
 #include "desk/processes/Processes.h"
 #include "desk/processes/SketchedWindows.h"
@@ -31,6 +32,7 @@
 #include "desk/settings/SystemSettings.h"
 #include "desk/system/AlertSurface.h"
 #include "desk/system/Dock.h"
+#include "desk/text/IcuCalendar.h"
 #include "desk/time/Scheduler.h"
 #include "desk/time/WallClock.h"
 #include "desk/updates/UpdateFeed.h"
@@ -74,6 +76,10 @@ public:
     // Stored user defaults by domain: a bundle identifier, or the path of a bundle without one. They outlive processes.
     std::map<std::string, platform::Dictionary> defaults;
     std::optional<std::string> clipboard;
+    IcuCalendar calendar;
+    LoginItem loginItem;
+    // The names of those handed to the analytics SDK, by any process, in order.
+    std::vector<std::string> analyticsEvents;
     SystemSettings systemSettings;
 
     // What stands on the screens, front to back.

@@ -17,6 +17,9 @@ public:
     virtual std::optional<Value> objectForInfoDictionaryKey(const std::string& key) = 0;
     // The path of a file among the bundle's resources; empty when it isn't there.
     virtual std::optional<std::string> URLForResource(const std::string& name, const std::string& withExtension) = 0;
+    std::optional<std::string> pathForResource(const std::string& name, const std::string& ofType) {
+        return URLForResource(name, ofType);
+    }
 };
 
 }  // namespace platform

@@ -8,15 +8,18 @@
 #include <vector>
 
 #include "platform/Accessibility.h"
+#include "platform/AnalyticsSDK.h"
 #include "platform/AppleEvents.h"
 #include "platform/Application.h"
 #include "platform/Bundle.h"
+#include "platform/Calendar.h"
 #include "platform/Collation.h"
 #include "platform/Defaults.h"
 #include "platform/Dispatch.h"
 #include "platform/Events.h"
 #include "platform/Files.h"
 #include "platform/Images.h"
+#include "platform/LoginItems.h"
 #include "platform/Menus.h"
 #include "platform/Pasteboard.h"
 #include "platform/RunLoop.h"
@@ -76,6 +79,9 @@ struct Platform {
     NSFileManager& files;
     NSUserDefaults& defaults;
     NSBundle& bundle;
+    Calendar& calendar;
+    SMAppService& loginItem;
+    AnalyticsSDK& analytics;
     NSPasteboard& pasteboard;
     UUIDSource& uuids;
     UpdaterFramework& updaters;

@@ -67,6 +67,29 @@ void launchApplication(ScriptPlayer& player, const Arguments& arguments) {
     player.session().launch(path);
 }
 
+void setLoginRequest(desk::LoginItem::Request& request, const Arguments& arguments) {
+    using Outcome = desk::LoginItem::Outcome;
+    static constexpr Choice<Outcome> outcomes[] = {
+        {"works", Outcome::works}, {"keeps", Outcome::keeps}, {"fails", Outcome::fails}};
+    arguments.requireCount(2, 100);
+    const Outcome outcome = choose(outcomes, arguments, 1);
+    arguments.requireCount(outcome == Outcome::fails ? 3 : 2, outcome == Outcome::fails ? 100 : 2);
+    request = {outcome, outcome == Outcome::fails ? arguments.rest(2) : std::string()};
+}
+
+void setLoginItem(ScriptPlayer& player, const Arguments& arguments) {
+    using Status = desk::LoginItem::Status;
+    static constexpr Choice<Status> statuses[] = {{"not-registered", Status::notRegistered},
+                                                  {"enabled", Status::enabled},
+                                                  {"requires-approval", Status::requiresApproval},
+                                                  {"not-found", Status::notFound}};
+    desk::LoginItem& item = player.machine().loginItem;
+    if (arguments.is(0, "register")) return setLoginRequest(item.registering, arguments);
+    if (arguments.is(0, "unregister")) return setLoginRequest(item.unregistering, arguments);
+    arguments.requireCount(1, 1);
+    item.status = choose(statuses, arguments, 0);
+}
+
 void setFeed(ScriptPlayer& player, const Arguments& arguments) {
     arguments.requireCount(1, 1000);
     auto& feed = player.machine().updateFeed;
@@ -97,7 +120,8 @@ const std::vector<Command>& applicationCommands() {
                                             {"terminate", endProcess<desk::Ending::asked>},
                                             {"kill", endProcess<desk::Ending::forced>},
                                             {"feed", setFeed},
-                                            {"update-check", checkForUpdates}};
+                                            {"update-check", checkForUpdates},
+                                            {"login-item", setLoginItem}};
     return table;
 }
 

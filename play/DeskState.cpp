@@ -180,6 +180,21 @@ QJsonArray opened(const desk::Machine& machine) {
     });
 }
 
+QJsonObject loginItem(Session& session) {
+    static constexpr const char* statuses[] = {"not-registered", "enabled", "requires-approval", "not-found"};
+    const auto* orvane = session.orvane();
+    const auto* manager = orvane == nullptr ? nullptr : &orvane->appDelegate.launchAtLogin();
+    return {{"status", statuses[static_cast<int>(session.machine.loginItem.status)]},
+            {"isEnabled", manager == nullptr ? QJsonValue() : QJsonValue(manager->isEnabled.get())},
+            {"statusMessage", manager == nullptr ? QJsonValue() : jsonText(manager->statusMessage.get())}};
+}
+
+QJsonArray analytics(const desk::Machine& machine) {
+    return arrayOf(machine.analyticsEvents, [](const std::string& name) {
+        return QJsonObject{{"name", jsonText(std::string_view(name))}, {"parameters", QJsonValue()}};
+    });
+}
+
 QJsonObject permissions(const desk::Machine& machine) {
     constexpr const char* automation[] = {"allowed", "denied", "ask"};
     return {{"accessibility", machine.permissions.accessibility},
@@ -267,6 +282,8 @@ QJsonObject stateOf(Session& session) {
             {"counts", counts(session)},
             {"updates", updates(session)},
             {"journal", journal(machine)},
+            {"loginItem", loginItem(session)},
+            {"analytics", analytics(machine)},
             {"log", log(machine)},
             {"date", dateOf(machine)}};
 }

@@ -154,6 +154,16 @@ void setClock(ScriptPlayer& player, const Arguments& arguments) {
     clock.set(clock.now() + platform::seconds(arguments.number(1)));
 }
 
+void setZone(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    if (!player.machine().calendar.setZone(arguments.text(0))) badCommand("no time zone: " + arguments.text(0));
+}
+
+void setCalendar(ScriptPlayer& player, const Arguments& arguments) {
+    arguments.requireCount(1, 1);
+    if (!player.machine().calendar.setCalendar(arguments.text(0))) badCommand("no calendar: " + arguments.text(0));
+}
+
 }  // namespace
 
 const std::vector<Command>& machineCommands() {
@@ -169,7 +179,9 @@ const std::vector<Command>& machineCommands() {
                                             {"appearance", setAppearance},
                                             {"permission", setPermission},
                                             {"urls", setUrls},
-                                            {"clock", setClock}};
+                                            {"clock", setClock},
+                                            {"zone", setZone},
+                                            {"calendar", setCalendar}};
     return table;
 }
 

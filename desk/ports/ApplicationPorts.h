@@ -7,6 +7,7 @@
 #include <string>
 
 #include "desk/ports/AccessibilityPort.h"
+#include "desk/ports/AnalyticsPort.h"
 #include "desk/ports/AppleEventsPort.h"
 #include "desk/ports/ApplicationWindows.h"
 #include "desk/ports/BundlePort.h"
@@ -14,6 +15,7 @@
 #include "desk/ports/EventsPort.h"
 #include "desk/ports/FilesPort.h"
 #include "desk/ports/ImagesPort.h"
+#include "desk/ports/LoginItemPort.h"
 #include "desk/ports/MenusPort.h"
 #include "desk/ports/NSApplicationPort.h"
 #include "desk/ports/PasteboardPort.h"
@@ -54,6 +56,9 @@ struct PortNeighbours {
     platform::Appearance& appearance;
     std::map<std::string, platform::Dictionary>& defaults;
     std::optional<std::string>& clipboard;
+    platform::Calendar& calendar;
+    LoginItem& loginItem;
+    std::vector<std::string>& analyticsEvents;
     platform::TextSystem& text;
     Journal& journal;
     UpdaterNeighbours updater;
@@ -95,6 +100,8 @@ private:
     FilesPort files;
     DefaultsPort defaults;
     BundlePort bundle;
+    LoginItemPort loginItem;
+    AnalyticsPort analytics;
     PasteboardPort pasteboard;
     UuidPort uuids;
     UpdaterPort updaters;

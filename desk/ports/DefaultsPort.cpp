@@ -22,18 +22,32 @@ bool isTrue(std::string text) {
 
 }  // namespace
 
+const platform::Value* DefaultsPort::entry(const std::string& key) const {
+    const platform::Value* stored = platform::find(domain, key);
+    return stored == nullptr ? platform::find(registered, key) : stored;
+}
+
+std::optional<platform::Value> DefaultsPort::objectForKey(const std::string& key) {
+    const platform::Value* stored = entry(key);
+    return stored == nullptr ? std::nullopt : std::optional(*stored);
+}
+
+void DefaultsPort::registerDefaults(const platform::Dictionary& defaults) {
+    for (const auto& [key, each] : defaults) registered.insert_or_assign(key, each);
+}
+
 std::optional<std::string> DefaultsPort::stringForKey(const std::string& key) {
-    const platform::Value* value = platform::find(domain, key);
-    const auto* text = value == nullptr ? nullptr : value->as<std::string>();
+    const platform::Value* stored = entry(key);
+    const auto* text = stored == nullptr ? nullptr : stored->as<std::string>();
     if (text == nullptr) return std::nullopt;
     return *text;
 }
 
 bool DefaultsPort::boolForKey(const std::string& key) {
-    const platform::Value* value = platform::find(domain, key);
-    if (value == nullptr) return false;
-    if (const auto* text = value->as<std::string>()) return isTrue(*text);
-    return value->number().value_or(0) != 0;
+    const platform::Value* stored = entry(key);
+    if (stored == nullptr) return false;
+    if (const auto* text = stored->as<std::string>()) return isTrue(*text);
+    return stored->number().value_or(0) != 0;
 }
 
 void DefaultsPort::setObject(const std::string& key, platform::Value value) {

@@ -403,6 +403,8 @@ private:
         std::optional<std::string> stringForKey(const std::string&) override { return std::nullopt; }
         // The user has been through the guide.
         bool boolForKey(const std::string&) override { return true; }
+        std::optional<platform::Value> objectForKey(const std::string&) override { return true; }
+        void registerDefaults(const platform::Dictionary&) override {}
         void setObject(const std::string&, platform::Value) override {}
     };
     struct NoBundle final : platform::NSBundle {
@@ -410,6 +412,22 @@ private:
         std::string bundleURL() override { return {}; }
         std::optional<platform::Value> objectForInfoDictionaryKey(const std::string&) override { return {}; }
         std::optional<std::string> URLForResource(const std::string&, const std::string&) override { return {}; }
+    };
+    struct NoCalendar final : platform::Calendar {
+        platform::DateComponents dateComponents(platform::Date) override { return {}; }
+        platform::Date startOfDay(platform::Date date) override { return date; }
+        std::optional<platform::Date> dateByAddingDays(int, platform::Date) override { return {}; }
+    };
+    struct NoLoginItem final : platform::SMAppService {
+        platform::SMAppServiceStatus status() override { return platform::SMAppServiceStatus::enabled; }
+        std::optional<std::string> registerAndReturnError() override { return {}; }
+        std::optional<std::string> unregisterAndReturnError() override { return {}; }
+    };
+    struct NoAnalytics final : platform::AnalyticsSDK {
+        bool hasDefaultApp() override { return false; }
+        void configure() override {}
+        void setAnalyticsCollectionEnabled(bool) override {}
+        void logEvent(const std::string&) override {}
     };
     struct NoUpdaters final : platform::UpdaterFramework {
         struct Updater final : platform::SPUUpdater {
@@ -496,6 +514,9 @@ private:
     PlainCollation collation;
     NoDefaults noDefaults;
     NoBundle noBundle;
+    NoCalendar noCalendar;
+    NoLoginItem noLoginItem;
+    NoAnalytics noAnalytics;
     NoPasteboard noPasteboard;
     NoUpdaters noUpdaters;
     platform::SharedSlots noSlots;
@@ -521,6 +542,9 @@ public:
                                 .files = *this,
                                 .defaults = noDefaults,
                                 .bundle = noBundle,
+                                .calendar = noCalendar,
+                                .loginItem = noLoginItem,
+                                .analytics = noAnalytics,
                                 .pasteboard = noPasteboard,
                                 .uuids = *this,
                                 .updaters = noUpdaters,

@@ -76,6 +76,8 @@ public:
         return found == stored.end() ? std::nullopt : std::optional(found->second);
     }
     bool boolForKey(const std::string&) override { return false; }
+    std::optional<platform::Value> objectForKey(const std::string&) override { return std::nullopt; }
+    void registerDefaults(const platform::Dictionary&) override {}
     void setObject(const std::string& key, platform::Value value) override {
         defaultsWrites += 1;
         stored[key] = *value.as<std::string>();
@@ -123,6 +125,9 @@ public:
                                 unused<platform::NSFileManager>(),
                                 *this,
                                 unused<platform::NSBundle>(),
+                                unused<platform::Calendar>(),
+                                unused<platform::SMAppService>(),
+                                unused<platform::AnalyticsSDK>(),
                                 *this,
                                 *this,
                                 unused<platform::UpdaterFramework>(),

@@ -104,11 +104,11 @@ TEST(FinderPathProvider, ARefusedSourceIsNotTriedAgain) {
     } refusing;
     kit::FakePlatform fake;
     platform::Platform& p = fake.platform;
-    platform::Platform refused{p.clock,          p.dispatch,     p.runLoop,       p.workspace, p.screens,
-                               p.appearance,     p.windowServer, p.accessibility, refusing,    p.events,
-                               p.application,    p.windows,      p.menus,         p.text,      p.images,
-                               p.textBoundaries, p.collation,    p.files,         p.defaults,  p.bundle,
-                               p.pasteboard,     p.uuids,        p.updaters,      p.slots};
+    platform::Platform refused{
+        p.clock,         p.dispatch,       p.runLoop,    p.workspace,   p.screens,  p.appearance, p.windowServer,
+        p.accessibility, refusing,         p.events,     p.application, p.windows,  p.menus,      p.text,
+        p.images,        p.textBoundaries, p.collation,  p.files,       p.defaults, p.bundle,     p.calendar,
+        p.loginItem,     p.analytics,      p.pasteboard, p.uuids,       p.updaters, p.slots};
     FinderPathProvider provider(refused);
     EXPECT_TRUE(provider.fetchWindowPaths().empty());
     EXPECT_TRUE(provider.fetchWindowPaths().empty());
