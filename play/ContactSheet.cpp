@@ -29,6 +29,7 @@ constexpr double pageWidth = 2480;
 constexpr double pageMargin = 20;
 constexpr double pageGap = 24;
 constexpr double captionHeight = 22;
+constexpr double menuBarHeight = 24;
 constexpr double deskAround = 10;  // of the desk, on each side of what is shown
 
 CGRect unionOf(const CGRect& a, const CGRect& b) {
@@ -42,22 +43,40 @@ std::string scriptOf(const SheetState& state) {
     script << "screen 0 0 2560 640\n"
            << "folder /Users/ana/Documents/Projects/2024/Orvane/Designs/Bars\n"
            << state.before;
-    const bool isFolder = state.target.front() == '/';
-    script << (isFolder ? "finder open \"" : "finder open-virtual \"") << state.target << "\" 60 60 " << state.width
-           << " 420\nlaunch\nwait 2\n"
-           << state.story;
+    if (!state.target.empty())
+        script << (state.target.front() == '/' ? "finder open \"" : "finder open-virtual \"") << state.target
+               << "\" 60 60 " << state.width << " 420\n";
+    script << "launch\nwait 2\n" << state.story;
     return script.str();
 }
 
-// The bar, and whatever menu, popover or tooltip is up.
-CGRect shownArea(const Session& session) {
+// Null when none is on screen.
+const desk::ServerWindow* frontOrdinaryWindow(const desk::Machine& machine) {
+    const auto onScreen = machine.windows.onScreen();
+    const auto found = std::find_if(onScreen.begin(), onScreen.end(), [](const desk::ServerWindow* each) {
+        return each->window != nullptr && !each->window->settings().isPanel;
+    });
+    return found == onScreen.end() ? nullptr : *found;
+}
+
+// The alert that is up, or else the ordinary window in front, or else the bar, with whatever popover or tooltip is up; the open menu, with the menu bar above one that hangs on it.
+CGRect shownArea(const SheetState& state, const Session& session) {
     const desk::Machine& machine = session.machine;
-    const desk::ServerWindow* bar = machine.windows.find(panelNumber(session, 101));
-    CGRect area = bar == nullptr ? platform::CGRectMake(60, 60, 1, 1) : bar->frame;
-    if (const desk::OpenMenu* menu = machine.menus.menu()) area = unionOf(area, menu->frame());
-    for (const desk::ShownPopover& popover : machine.menus.popovers()) area = unionOf(area, popover.place.body);
-    if (const auto toolTip = machine.toolTips.shown()) area = unionOf(area, toolTip->frame);
-    return CGRectInset(area, -deskAround, -deskAround);
+    std::optional<CGRect> area;
+    const auto add = [&](const CGRect& rect) { area = area ? unionOf(*area, rect) : rect; };
+    if (const auto alert = machine.alertSurface.shown())
+        add(alert->frame());
+    else if (const desk::ServerWindow* window = frontOrdinaryWindow(machine))
+        add(window->frame);
+    else if (const desk::ServerWindow* bar = machine.windows.find(panelNumber(session, 101)))
+        add(bar->frame);
+    if (const desk::OpenMenu* menu = machine.menus.menu()) {
+        add(menu->frame());
+        if (state.target.empty()) add(CGRectOffset(menu->frame(), 0, menuBarHeight));
+    }
+    for (const desk::ShownPopover& popover : machine.menus.popovers()) add(popover.place.body);
+    if (const auto toolTip = machine.toolTips.shown()) add(toolTip->frame);
+    return CGRectInset(area.value_or(platform::CGRectMake(60, 60, 1, 1)), -deskAround, -deskAround);
 }
 
 // Null, after a word about it, when the story fails.
@@ -66,7 +85,7 @@ QImage pictureOf(const SheetState& state) {
     std::ostringstream output;
     ScriptPlayer player(session, state.caption, scriptOf(state), output, std::cerr);
     if (player.play() != 0) return {};
-    const CGRect area = shownArea(session);
+    const CGRect area = shownArea(state, session);
     const platform::CGRect screen = session.machine.displays.screens().front().frame;
     const QRectF pixels(area.minX() * sheetScale, (screen.maxY() - area.maxY()) * sheetScale, area.width() * sheetScale,
                         area.height() * sheetScale);

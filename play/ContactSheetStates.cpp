@@ -96,12 +96,55 @@ void addPopovers(std::vector<SheetState>& states) {
     states.insert(states.end(), more.begin(), more.end());
 }
 
+// Without a Finder window, in both schemes.
+void addInBoth(std::vector<SheetState>& states, const std::string& caption, const std::string& before,
+               const std::string& story) {
+    states.push_back({caption, 0, "", before, story});
+    states.push_back({caption + ", dark", 0, "", inDark + before, story});
+}
+
+void addGuide(std::vector<SheetState>& states) {
+    const std::string unfinished = "set-default hasCompletedOnboardingV1 none\n";
+    const std::string nothing = unfinished + "permission accessibility missing\npermission automation ask\n";
+    const std::string half = unfinished + "permission automation ask\n";
+    addInBoth(states, "guide, nothing granted", nothing, "key escape\n");
+    addInBoth(states, "guide, half granted", half, "");
+    addInBoth(states, "guide, refused", unfinished + "permission automation denied\n", "");
+    addInBoth(states, "guide, not to be verified", unfinished + "permission automation code -1745\n", "");
+    addInBoth(states, "guide, done", unfinished, "");
+    addInBoth(states, "prompt for Accessibility", nothing, "");
+    addInBoth(states, "prompt for Automation", half, "click label \"Allow Finder Access\"\n");
+    addInBoth(states, "System Settings, Accessibility", nothing, "click label \"Open System Settings\"\nwait 1\n");
+    addInBoth(states, "System Settings, Automation", unfinished + "permission automation denied\n",
+              "click label \"Open Automation Settings\"\nwait 1\n");
+}
+
+void addMenuBarItem(std::vector<SheetState>& states) {
+    const std::string feed =
+        "feed \"<rss xmlns:sparkle=\\\"http://www.andymatuschak.org/xml-namespaces/sparkle\\\"><channel><item>"
+        "<sparkle:version>99</sparkle:version><sparkle:shortVersionString>2.1</sparkle:shortVersionString>"
+        "<enclosure url=\\\"file:///Users/ana/Orvane.app\\\"/></item></channel></rss>\"\ninfo SUFeedURL "
+        "https://example.org/appcast.xml\n";
+    const std::string check = "click status-item\nclick item \"Check for Updates…\"\n";
+    addInBoth(states, "menu", "", "click status-item\nkey down\n");
+    addInBoth(states, "menu, Accessibility missing, an update on offer", feed,
+              "update-check\npermission accessibility missing\nclick status-item\n");
+    addInBoth(states, "menu, while the feed is fetched", feed + "feed latency 9\n",
+              "update-check\nclick status-item\n");
+    addInBoth(states, "update found", feed, check);
+    addInBoth(states, "no update found", "info SUFeedURL https://example.org/appcast.xml\nfeed <rss/>\n", check);
+    addInBoth(states, "failed check", "", check);
+    addInBoth(states, "about", "", "click status-item\nclick item \"About Orvane\"\n");
+}
+
 }  // namespace
 
 std::span<const SheetState> sheetStates() {
     static const std::vector<SheetState> states = [] {
         std::vector<SheetState> all;
-        for (const auto add : {addStyles, addWidths, addPlacesAndNames, addField, addMenus, addPopovers}) add(all);
+        for (const auto add :
+             {addStyles, addWidths, addPlacesAndNames, addField, addMenus, addPopovers, addGuide, addMenuBarItem})
+            add(all);
         return all;
     }();
     return states;
