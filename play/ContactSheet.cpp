@@ -29,6 +29,7 @@ constexpr double pageWidth = 2480;
 constexpr double pageMargin = 20;
 constexpr double pageGap = 24;
 constexpr double captionHeight = 22;
+constexpr double leastLetterRoom = 6.5;
 constexpr double menuBarHeight = 24;
 constexpr double deskAround = 10;  // of the desk, on each side of what is shown
 
@@ -105,7 +106,8 @@ double placeInRows(std::vector<Placed>& all) {
     double y = pageMargin;
     double rowHeight = 0;
     for (Placed& each : all) {
-        const double width = each.picture.width() / sheetScale;
+        const double caption = leastLetterRoom * static_cast<double>(each.state->caption.size());
+        const double width = std::max(each.picture.width() / sheetScale, caption);
         if (x > pageMargin && x + width > pageWidth - pageMargin) {
             x = pageMargin;
             y += rowHeight + pageGap;

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/Images.h"
 #include "platform/Signal.h"
 
 namespace desk {
@@ -16,11 +17,12 @@ namespace desk {
 enum class AlertStyle { warning, informational, critical };
 
 struct Alert {
-    std::string source;       // "system", "updater", or the bundle identifier of the application whose alert it is
-    std::int32_t owner = 0;   // the process that it is for; it goes with it. 0: the system's
-    std::string icon;         // the name of the application whose icon it shows
-    std::string message;      // in bold
-    std::string informative;  // below it; may be empty
+    std::string source;         // "system", "updater", or the bundle identifier of the application whose alert it is
+    std::int32_t owner = 0;     // the process that it is for; it goes with it. 0: the system's
+    std::string icon;           // the name of the application whose icon it shows
+    platform::NSImage picture;  // in place of that icon, if anything is in it
+    std::string message;        // in bold
+    std::string informative;    // below it; may be empty
     std::vector<std::string> buttons;          // in the order in which they were added
     std::optional<std::string> defaultButton;  // Return presses it
     std::optional<std::string> cancelButton;   // Escape presses it

@@ -52,10 +52,18 @@ View textsView(const Alert& alert) {
     return std::move(texts).frame({.maxWidth = views::infinity, .alignment = views::Alignment::leading});
 }
 
+View iconView(const Alert& alert) {
+    if (alert.picture.pixels() == nullptr) return applicationIcon(alert.icon, iconSide);
+    return views::Image(alert.picture)
+        .resizable()
+        .interpolation(platform::ImageInterpolation::high)
+        .frame({.width = iconSide, .height = iconSide});
+}
+
 View alertView(const Alert& alert, const Shades& shades) {
     return views::VStack({.spacing = 16},
-                         views::HStack({.alignment = views::VerticalAlignment::top, .spacing = 16},
-                                       applicationIcon(alert.icon, iconSide), textsView(alert)),
+                         views::HStack({.alignment = views::VerticalAlignment::top, .spacing = 16}, iconView(alert),
+                                       textsView(alert)),
                          buttonsView(alert))
         .padding(margin)
         .frame({.width = alertWidth})

@@ -149,6 +149,9 @@ void Updater::show(Alert alert, std::function<void(const std::string& button)> a
     alert.source = "updater";
     alert.owner = application.processIdentifier();
     alert.icon = application.bundle().name();
+    if (auto icon = application.platform().images.imageWithContentsOf(application.bundle().path +
+                                                                      "/Contents/Resources/AppIcon.png"))
+        alert.picture = std::move(*icon);
     dialog = neighbours.alerts.show(std::move(alert), [this, answer = std::move(answer)](const std::string& button) {
         dialog = 0;
         if (answer) application.loop().mainAsync(lifetime.guard([answer, button] { answer(button); }));
