@@ -2,18 +2,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
-#include <sstream>
 #include <variant>
 
 #include "tests/kit/MachineKit.h"
+#include "tests/kit/PaintedShapes.h"
 
 namespace brindle {
 namespace {
 
 using desk::AutomationPermission;
+using kit::shapes;
 using platform::CGRect;
-using platform::ColorRole;
 using platform::seconds;
 
 class OnboardingTest : public testing::Test {
@@ -46,38 +45,6 @@ protected:
     const std::string finished = "hasCompletedOnboardingV1";
 };
 
-std::string roleName(ColorRole role) {
-    static const std::map<ColorRole, std::string> names{
-        {ColorRole::windowBackground, "window"}, {ColorRole::controlBackground, "control"},
-        {ColorRole::primary, "primary"},         {ColorRole::orange, "orange"},
-        {ColorRole::accent, "accent"},           {ColorRole::white, "white"},
-        {ColorRole::separator, "separator"}};
-    return names.at(role);
-}
-
-std::string line(const char* what, const platform::Color& color, const platform::RoundedShape& shape) {
-    const CGRect& rect = shape.rect;
-    std::ostringstream text;
-    text << what << roleName(color.role) << " " << color.opacity << " at " << rect.minX() << " " << rect.minY()
-         << " is " << rect.width() << " " << rect.height() << " round "
-         << std::min({shape.radius, rect.width() / 2, rect.height() / 2});
-    return text.str();
-}
-
-// Shapes and pictures, back to front.
-std::vector<std::string> shapes(const platform::Drawing& drawing) {
-    std::vector<std::string> lines;
-    for (const auto& operation : drawing.operations) {
-        if (const auto* fill = std::get_if<platform::FillShape>(&operation))
-            lines.push_back(line(fill->shadow ? "shadowed " : "", fill->color, fill->shape));
-        if (const auto* stroke = std::get_if<platform::StrokeShape>(&operation))
-            lines.push_back(line("line ", stroke->color, stroke->shape));
-        if (const auto* image = std::get_if<platform::DrawImage>(&operation))
-            lines.push_back(line("icon ", {}, {image->rect, 0}));
-    }
-    return lines;
-}
-
 // From the numbers that the guide is made of. All of it is 527 points high: 6.5 remain above and below.
 TEST_F(OnboardingTest, EverythingIsWhereItBelongs) {
     launch(false);
@@ -90,11 +57,11 @@ TEST_F(OnboardingTest, EverythingIsWhereItBelongs) {
                                      "icon primary 1 at 218.5 247.5 is 16 16 round 0",
                                      "accent 1 at 289 247 is 30 17 round 8.5",
                                      "shadowed white 1 at 304 249 is 13 13 round 6.5",
-                                     "line primary 0.09 at 84 240.5 is 270 30 round 7",
+                                     "line primary 0.09 at 84 240.5 is 270 30 round 7 wide 1",
                                      "orange 0.12 at 480 182.5 is 100 22 round 11",
                                      "control 1 at 473.5 211.5 is 106.5 22 round 6",  // 182.5 + 22 + 7
-                                     "line separator 1 at 474 212 is 105.5 21 round 5.5",
-                                     "line primary 0.08 at 24 166.5 is 572 120 round 12",
+                                     "line separator 1 at 474 212 is 105.5 21 round 5.5 wide 1",
+                                     "line primary 0.08 at 24 166.5 is 572 120 round 12 wide 1",
                                      "control 1 at 24 298.5 is 572 141 round 12",  // 166.5 + 120 + 12
                                      "orange 1 at 40 314.5 is 30 30 round 15",
                                      "control 1 at 84 372.5 is 270 51 round 7",
@@ -102,11 +69,11 @@ TEST_F(OnboardingTest, EverythingIsWhereItBelongs) {
                                      "separator 1 at 116 397.5 is 229 1 round 0",  // 84 + 9 + 23, up to 84 + 270 - 9
                                      "accent 1 at 315 402.5 is 30 17 round 8.5",
                                      "shadowed white 1 at 330 404.5 is 13 13 round 6.5",
-                                     "line primary 0.09 at 84 372.5 is 270 51 round 7",
+                                     "line primary 0.09 at 84 372.5 is 270 51 round 7 wide 1",
                                      "orange 0.12 at 480 314.5 is 100 22 round 11",
                                      "control 1 at 432.5 343.5 is 147.5 22 round 6",
-                                     "line separator 1 at 433 344 is 146.5 21 round 5.5",
-                                     "line primary 0.08 at 24 298.5 is 572 141 round 12",
+                                     "line separator 1 at 433 344 is 146.5 21 round 5.5 wide 1",
+                                     "line primary 0.08 at 24 298.5 is 572 141 round 12 wide 1",
                                      "separator 1 at 24 488.5 is 572 1 round 0",  // 298.5 + 141 + 12 + 15 + 22
                                      "accent 1 at 537 511.5 is 59 22 round 6",
                                  }));

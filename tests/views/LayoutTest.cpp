@@ -157,4 +157,19 @@ TEST(Layout, MoreModifiersThanAViewHasRoomForStillApplyInOrder) {
               "        text \"a\" 10 10 6 12\n");
 }
 
+TEST(Layout, AGridGivesEachRowTheHeightOfItsHighestViewAndEachColumnItsShare) {
+    std::vector<View> cells;
+    cells.push_back(box(10, 10));
+    cells.push_back(ten("ab"));
+    cells.push_back(View(Color::of(ColorRole::black)).frame({.height = 4}));
+    EXPECT_EQ(
+        layOut(LazyVGrid({.columns = {{.spacing = 6}, {.spacing = 2}}, .spacing = 5}, std::move(cells)), {50, 40}),
+        "grid 0 9.5 50 21\n"
+        "  frame 6 10.5 10 10\n"
+        "    shape 6 10.5 10 10\n"
+        "  text \"ab\" 33 9.5 12 12\n"
+        "  frame 0 26.5 22 4\n"
+        "    shape 0 26.5 22 4\n");
+}
+
 }  // namespace
