@@ -72,6 +72,13 @@ OnboardingWindowController& AppDelegate::onboarding() {
     return *onboardingWindowController;
 }
 
+SettingsWindowController& AppDelegate::settings() {
+    if (!settingsWindowController)
+        settingsWindowController =
+            std::make_unique<SettingsWindowController>(platform, launchAtLoginManager, analyticsService);
+    return *settingsWindowController;
+}
+
 void AppDelegate::startObserverOnce() {
     if (observerStarted) return;
     observerStarted = true;

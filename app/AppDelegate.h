@@ -13,6 +13,7 @@
 
 #include "app/AboutWindowController.h"
 #include "app/OnboardingWindowController.h"
+#include "app/SettingsWindowController.h"
 #include "overlay/FinderOverlayCoordinator.h"
 #include "platform/Lifetime.h"
 #include "platform/Platform.h"
@@ -38,6 +39,7 @@ public:
     // What the menu calls. The windows come up centred and in front.
     void showAbout() { aboutWindowController.show(); }
     void showPermissionGuide() { onboarding().show(); }
+    void showSettings() { settings().show(); }
     void quit();
 
     AccessibilityManager& accessibility() { return *accessibilityManager; }
@@ -56,16 +58,19 @@ private:
     void makeOverlayCoordinator();
     void startObserverOnce();
     OnboardingWindowController& onboarding();
+    SettingsWindowController& settings();
 
     platform::Platform& platform;
-    // In the order in which they are made. The installer belongs behind analytics; the settings window behind the about window.
+    // In the order in which they are made. The installer belongs behind analytics.
     std::shared_ptr<LaunchAtLoginManager> launchAtLoginManager;
     std::shared_ptr<UpdateManager> updateManager;
     AnalyticsService& analyticsService;
     std::shared_ptr<FinderAutomationPermissionManager> automationPermissionManager;
     std::unique_ptr<FinderOverlayCoordinator> overlayCoordinator;
     AboutWindowController aboutWindowController;
-    std::unique_ptr<OnboardingWindowController> onboardingWindowController;  // made when it is first asked for
+    // Each made when it is first asked for.
+    std::unique_ptr<SettingsWindowController> settingsWindowController;
+    std::unique_ptr<OnboardingWindowController> onboardingWindowController;
     bool observerStarted = false;
     bool allowsTermination = false;
     std::shared_ptr<AccessibilityManager> accessibilityManager;

@@ -10,14 +10,12 @@ std::unique_ptr<OrvaneApp> OrvaneApp::main(platform::Platform& platform) {
 }
 
 views::MenuBarExtra OrvaneApp::body() {
-    // The settings window isn't there yet.
-    const auto showSettings = [] {};
     return views::MenuBarExtra(
-               [this, showSettings] {
+               [this] {
                    return OrvaneMenuView{views::ObservedObject<AccessibilityManager>(appDelegate.accessibility()),
                                          views::ObservedObject<UpdateManager>(appDelegate.updates()),
                                          [this] { appDelegate.showPermissionGuide(); },
-                                         showSettings,
+                                         [this] { appDelegate.showSettings(); },
                                          [this] { appDelegate.showAbout(); },
                                          [this] { appDelegate.quit(); }};
                },

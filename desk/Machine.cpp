@@ -24,7 +24,7 @@ Machine::Machine(platform::TextSystem& theText)
       text(theText),
       finder(neighboursOfFinder()),
       scripting(finder, neighboursOfFinder()),
-      systemSettings(disk, applications, launchServices, permissions),
+      systemSettings(disk, applications, launchServices, permissions, loginItem),
       alertSurface(alerts, displays, appearance, text),
       toolTips(scheduler, windows, pointer, menus, {&alertSurface, &menus, &menuBar, &dock}, text),
       menus(scheduler, displays, windows, applications, pointer, keyboard, text),

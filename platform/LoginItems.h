@@ -16,6 +16,8 @@ public:
     // The error's localizedDescription; empty when the call succeeded. The status needn't have changed then.
     virtual std::optional<std::string> registerAndReturnError() = 0;
     virtual std::optional<std::string> unregisterAndReturnError() = 0;
+    // Shows the pane of the login items.
+    virtual void openSystemSettingsLoginItems() = 0;
 };
 
 }  // namespace platform

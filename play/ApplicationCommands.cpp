@@ -87,7 +87,7 @@ void setLoginItem(ScriptPlayer& player, const Arguments& arguments) {
     if (arguments.is(0, "register")) return setLoginRequest(item.registering, arguments);
     if (arguments.is(0, "unregister")) return setLoginRequest(item.unregistering, arguments);
     arguments.requireCount(1, 1);
-    item.status = choose(statuses, arguments, 0);
+    item.setStatus(choose(statuses, arguments, 0));
 }
 
 void setFeed(ScriptPlayer& player, const Arguments& arguments) {

@@ -101,6 +101,17 @@ void drag(ScriptPlayer& player, const Arguments& arguments) {
     player.then([&input, end] { input.mouseUp(end, desk::MouseButton::left); });
 }
 
+void scroll(ScriptPlayer& player, const Arguments& arguments) {
+    const Target target = readTarget(player, arguments);
+    const Arguments words = arguments.after(target.words);
+    words.requireCount(2, 2);
+    if (!words.is(0, "by")) badCommand("by is missing");
+    const double distance = words.number(1);
+    auto& input = player.machine().input;
+    input.mouseMoved(target.point);
+    player.then([&input, point = target.point, distance] { input.scrollWheel(point, 0, distance); });
+}
+
 void pressKey(ScriptPlayer& player, const desk::KeyStroke& stroke) {
     auto& input = player.machine().input;
     player.then([&input, stroke] { input.keyDown(stroke); });
@@ -138,9 +149,9 @@ void wait(ScriptPlayer& player, const Arguments& arguments) {
 }  // namespace
 
 const std::vector<Command>& inputCommands() {
-    static const std::vector<Command> table{{"activate", activate}, {"space", switchSpace}, {"mouse", mouse},
-                                            {"click", click},       {"drag", drag},         {"key", key},
-                                            {"type", type},         {"wait", wait},         {"where", where}};
+    static const std::vector<Command> table{
+        {"activate", activate}, {"space", switchSpace}, {"mouse", mouse}, {"click", click}, {"drag", drag},
+        {"scroll", scroll},     {"key", key},           {"type", type},   {"wait", wait},   {"where", where}};
     return table;
 }
 

@@ -118,7 +118,7 @@ QJsonArray windowsOf(const Session& session) {
 }
 
 QJsonValue systemSettingsOf(const desk::Machine& machine) {
-    constexpr const char* panes[] = {"accessibility", "automation"};
+    constexpr const char* panes[] = {"accessibility", "automation", "loginItems"};
     const desk::SettingsProgram* program = machine.systemSettings.program();
     const NSWindow* window = program == nullptr ? nullptr : program->shownWindow();
     if (window == nullptr) return {};
@@ -133,7 +133,7 @@ std::optional<platform::CGPoint> controlLabelled(const Session& session, std::st
     for (const AccessibilityElement& element : elementsOf(*windows.front())) {
         const bool hasText = std::find(element.texts.begin(), element.texts.end(), label) != element.texts.end();
         if (roleOf(element) == nullptr || !element.isVisible || (element.label != label && !hasText)) continue;
-        const CGRect frame = onScreen(*windows.front(), element.frame);
+        const CGRect frame = onScreen(*windows.front(), element.seen);
         return platform::CGPoint{frame.midX(), frame.midY()};
     }
     return std::nullopt;

@@ -23,7 +23,8 @@ public:
         if (item.identifier != nullptr) said.identifier = item.identifier;
         if (item.clips) visible = platform::CGRectIntersection(visible, item.frame);
         said.frame = item.frame;
-        said.isVisible = hasArea(platform::CGRectIntersection(visible, item.frame));
+        said.seen = platform::CGRectIntersection(visible, item.frame);
+        said.isVisible = hasArea(said.seen);
         const auto role = item.node == nullptr ? std::nullopt : item.node->role();
         if (role) {
             add(*role, item, std::move(said));

@@ -18,6 +18,7 @@ struct AccessibilityElement {
     std::string key;         // the nearest id() of repeated content
     std::string help;
     CGRect frame;  // view space
+    CGRect seen;   // what of the frame isn't clipped away
     // Whole, in paint order. Those of all elements together are all that the host shows.
     std::vector<std::string> texts;
     std::vector<std::string> symbols;

@@ -35,6 +35,7 @@
 #include "views/nodes/DividerNode.h"
 #include "views/nodes/EmptyNode.h"
 #include "views/nodes/GeometryReaderNode.h"
+#include "views/nodes/GridNode.h"
 #include "views/nodes/GroupNode.h"
 #include "views/nodes/LayersNode.h"
 #include "views/nodes/LinkNode.h"

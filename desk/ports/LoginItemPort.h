@@ -20,6 +20,9 @@ public:
     std::optional<std::string> unregisterAndReturnError() override {
         return ask("login unregister", &LoginItem::unregisterIt);
     }
+    void openSystemSettingsLoginItems() override {
+        if (!application.isDead()) item.settingsWanted();
+    }
 
 private:
     std::optional<std::string> ask(const std::string& what, std::optional<std::string> (LoginItem::*request)()) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/LoginItems.h"
+#include "platform/Signal.h"
 
 namespace desk {
 
@@ -20,6 +21,16 @@ public:
     Status status = Status::notRegistered;
     Request registering;
     Request unregistering;
+    platform::Signal<> changed;
+    // The application wants the user to see where login items are allowed.
+    platform::Signal<> settingsWanted;
+
+    // Registered, it is listed in System Settings, where the user allows it or not.
+    bool isRegistered() const { return status == Status::enabled || status == Status::requiresApproval; }
+    void setStatus(Status now) {
+        status = now;
+        changed();
+    }
 
     // The message of a request that fails.
     std::optional<std::string> registerIt() { return answer(registering, Status::enabled); }
@@ -28,7 +39,7 @@ public:
 private:
     std::optional<std::string> answer(const Request& request, Status wanted) {
         if (request.outcome == Outcome::fails) return request.message;
-        if (request.outcome == Outcome::works) status = wanted;
+        if (request.outcome == Outcome::works) setStatus(wanted);
         return std::nullopt;
     }
 };

@@ -12,8 +12,8 @@ namespace desk {
 
 class SettingsProgram final : public Program, platform::NSApplicationDelegate, platform::NSWindowDelegate {
 public:
-    SettingsProgram(platform::Platform& thePlatform, Permissions& permissions)
-        : platform(thePlatform), model(permissions) {}
+    SettingsProgram(platform::Platform& thePlatform, Permissions& permissions, LoginItem& loginItem)
+        : platform(thePlatform), model(permissions, loginItem) {}
 
     // In a turn of the application. Without a pane, the one that was shown last stays.
     void show(std::optional<SettingsPane> pane);

@@ -50,7 +50,9 @@ const SettingsView::Pane SettingsView::panes[] = {
     {SettingsPane::accessibility, "Accessibility", "accessibility", 0x1E88F7,
      "Allow the applications below to control your computer.", &SettingsView::accessibility},
     {SettingsPane::automation, "Automation", "gearshape", 0x8E8E93,
-     "Allow the applications below to control other applications.", &SettingsView::automation}};
+     "Allow the applications below to control other applications.", &SettingsView::automation},
+    {SettingsPane::loginItems, "Login Items", "desktopcomputer", 0x8E8E93,
+     "Allow the applications below to open when you log in.", &SettingsView::loginItems}};
 
 View SettingsView::body() const {
     View shown = VStack({.alignment = HorizontalAlignment::leading, .spacing = 10});
@@ -119,6 +121,17 @@ View SettingsView::automation() const {
                        permissions.setAutomation(isOn ? AutomationPermission::allowed : AutomationPermission::denied);
                    }});
     return card(VStack({.spacing = 0}, row(application()), Divider(), std::move(finder).padding(Edge::leading, 36)));
+}
+
+// What the user turns off stays listed.
+View SettingsView::loginItems() const {
+    using Status = LoginItem::Status;
+    LoginItem& item = model->loginItem;
+    if (!item.isRegistered())
+        return card(row(Text("No applications open at login.").font(Font{13}).foregroundStyle(ColorRole::secondary)));
+    return card(switchRow(application(), applicationName,
+                          {[&item] { return item.status == Status::enabled; },
+                           [&item](bool isOn) { item.setStatus(isOn ? Status::enabled : Status::requiresApproval); }}));
 }
 
 }  // namespace desk

@@ -1,4 +1,4 @@
-// The window of System Settings: the list of panes on the left, the chosen one beside it. A switch is the permission itself.
+// The window of System Settings: the list of panes on the left, the chosen one beside it. A switch is the permission, or the status of the login item, itself.
 #pragma once
 
 #include <utility>
@@ -24,6 +24,7 @@ private:
     views::View application() const;
     views::View accessibility() const;
     views::View automation() const;
+    views::View loginItems() const;
 
     struct Pane;
     static const Pane panes[];

@@ -7,6 +7,7 @@
 #include "desk/processes/Applications.h"
 #include "desk/processes/KnownApplications.h"
 #include "desk/processes/LaunchServices.h"
+#include "desk/processes/LoginItem.h"
 #include "desk/processes/Permissions.h"
 #include "desk/settings/SettingsProgram.h"
 
@@ -14,8 +15,11 @@ namespace desk {
 
 namespace {
 
-constexpr std::pair<std::string_view, SettingsPane> anchors[] = {
-    {"?Privacy_Accessibility", SettingsPane::accessibility}, {"?Privacy_Automation", SettingsPane::automation}};
+constexpr const char* accessibilityAnchor = "?Privacy_Accessibility";
+constexpr const char* loginItemsAnchor = "com.apple.LoginItems-Settings.extension";
+constexpr std::pair<std::string_view, SettingsPane> anchors[] = {{accessibilityAnchor, SettingsPane::accessibility},
+                                                                 {"?Privacy_Automation", SettingsPane::automation},
+                                                                 {loginItemsAnchor, SettingsPane::loginItems}};
 
 std::optional<SettingsPane> paneOf(std::string_view address) {
     for (const auto& [anchor, pane] : anchors)
@@ -30,12 +34,14 @@ SettingsProgram& programIn(const LaunchedApplication& application) {
 }  // namespace
 
 SystemSettings::SystemSettings(Disk& theDisk, Applications& theApplications, LaunchServices& theLaunchServices,
-                               Permissions& thePermissions)
+                               Permissions& thePermissions, LoginItem& theLoginItem)
     : disk(theDisk),
       applications(theApplications),
       launchServices(theLaunchServices),
       permissions(thePermissions),
-      subscription(permissions.accessibilitySettingsWanted.subscribe([this] { open(anchors[0].first); })) {
+      loginItem(theLoginItem),
+      accessibilityWanted(permissions.accessibilitySettingsWanted.subscribe([this] { open(accessibilityAnchor); })),
+      loginItemsWanted(loginItem.settingsWanted.subscribe([this] { open(loginItemsAnchor); })) {
     launchServices.addOwnApplication(systemSettingsPath, [this] { start(); });
     launchServices.addAddressHandler("x-apple.systempreferences:", [this](const std::string& url) { open(url); });
 }
@@ -43,7 +49,7 @@ SystemSettings::SystemSettings(Disk& theDisk, Applications& theApplications, Lau
 void SystemSettings::start() {
     const Bundle bundle = bundleAt(disk, systemSettingsPath, {{"CFBundleIdentifier", "com.apple.systempreferences"}});
     LaunchedApplication& started = applications.launch(bundle, [this](platform::Platform& platform) {
-        return std::make_unique<SettingsProgram>(platform, permissions);
+        return std::make_unique<SettingsProgram>(platform, permissions, loginItem);
     });
     process = started.processIdentifier();
 }

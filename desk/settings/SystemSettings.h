@@ -1,4 +1,4 @@
-// System Settings as an application of the machine: started by its bundle, by an address that names a pane, or by a prompt. It holds no setting; switches act on the permissions.
+// System Settings as an application of the machine: started by its bundle, by an address that names a pane, or by a prompt. It holds no setting; switches act on the permissions and the login item.
 #pragma once
 
 #include <cstdint>
@@ -11,13 +11,14 @@ namespace desk {
 class Applications;
 class Disk;
 class LaunchServices;
+class LoginItem;
 class Permissions;
 class SettingsProgram;
 
 class SystemSettings {
 public:
     SystemSettings(Disk& theDisk, Applications& theApplications, LaunchServices& theLaunchServices,
-                   Permissions& thePermissions);
+                   Permissions& thePermissions, LoginItem& theLoginItem);
 
     // Null while it doesn't run.
     const SettingsProgram* program() const;
@@ -32,8 +33,10 @@ private:
     Applications& applications;
     LaunchServices& launchServices;
     Permissions& permissions;
+    LoginItem& loginItem;
     std::int32_t process = 0;  // the one that was started last
-    platform::Token subscription;
+    platform::Token accessibilityWanted;
+    platform::Token loginItemsWanted;
 };
 
 }  // namespace desk

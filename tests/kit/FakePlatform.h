@@ -422,6 +422,7 @@ private:
         platform::SMAppServiceStatus status() override { return platform::SMAppServiceStatus::enabled; }
         std::optional<std::string> registerAndReturnError() override { return {}; }
         std::optional<std::string> unregisterAndReturnError() override { return {}; }
+        void openSystemSettingsLoginItems() override {}
     };
     struct NoAnalytics final : platform::AnalyticsSDK {
         bool hasDefaultApp() override { return false; }
