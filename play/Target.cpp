@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 
 #include "desk/finder/FinderBrowser.h"
 #include "desk/finder/FinderHit.h"
@@ -101,22 +102,21 @@ constexpr WindowPart windowParts[] = {
      }}};
 
 Target windowPart(ScriptPlayer& player, const Arguments& words) {
+    const auto* part = std::find_if(std::begin(windowParts), std::end(windowParts),
+                                    [&](const WindowPart& each) { return words.is(1, each.name); });
+    if (part == std::end(windowParts)) badCommand("unknown part of a window: " + words.text(1));
     const desk::ServerWindow& window = visibleWindow(player, namedWindow(player, words));
-    for (const WindowPart& part : windowParts) {
-        if (!words.is(1, part.name)) continue;
-        const CGPoint place = part.place(window.frame.size);
-        const CGPoint point{window.frame.minX() + place.x, window.frame.maxY() - place.y};
-        return {part.isSuch == nullptr ? point : nearestPoint(player, window, point, part.isSuch), 3};
-    }
-    badCommand("unknown part of a window: " + words.text(1));
+    const CGPoint place = part->place(window.frame.size);
+    const CGPoint point{window.frame.minX() + place.x, window.frame.maxY() - place.y};
+    return {part->isSuch == nullptr ? point : nearestPoint(player, window, point, part->isSuch), 3};
 }
 
 Target barPart(ScriptPlayer& player, const Arguments& words) {
-    const std::int64_t window = player.finderWindow(words, 0);
     const std::string& part = words.text(1);
     if (!isBarPart(part)) badCommand("unknown part of a bar: " + part);
     const bool isTitled = barPartHasTitle(part);
     const std::string title = isTitled ? words.text(2) : std::string();
+    const std::int64_t window = player.finderWindow(words, 0);
     const std::int64_t panel = panelNumber(player.session(), window);
     if (panel == 0) missingTarget("window " + words.text(0) + " has no bar");
     const CGRect& bar = visibleWindow(player, panel).frame;

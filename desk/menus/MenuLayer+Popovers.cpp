@@ -3,6 +3,7 @@
 #include "desk/menus/MenuLayer.h"
 #include "desk/processes/Applications.h"
 #include "desk/processes/KeyboardFocus.h"
+#include "desk/windows/Pointer.h"
 #include "desk/windows/WindowStack.h"
 
 namespace desk {
@@ -62,8 +63,9 @@ MenuLayer::Taker MenuLayer::pressPopovers(const NSEvent& event) {
     if (pressed != shown.rend()) {
         hit = pressed->popover;
         owner = hit->owner;
-        held = HeldPress{hit->owner, hit->content, pressed->place.body.origin};
-        sendToContent(event);
+        auto& press = held(buttonOf(event.type));
+        press = HeldPress{hit->owner, hit->content, pressed->place.body.origin};
+        sendToContent(*press, event);
     }
     for (const ShownPopover& each : shown) {
         const bool isAnchors = hit == nullptr && isOnAnchor(each, point);
@@ -99,12 +101,12 @@ void MenuLayer::dismiss(const OpenPopover& popover) {
     });
 }
 
-void MenuLayer::sendToContent(const NSEvent& event) const {
-    LaunchedApplication* owner = applications.find(held->owner);
-    if (owner == nullptr || held->content.expired()) return;
+void MenuLayer::sendToContent(const HeldPress& press, const NSEvent& event) const {
+    LaunchedApplication* owner = applications.find(press.owner);
+    if (owner == nullptr || press.content.expired()) return;
     NSEvent inContent = event;
-    inContent.locationInWindow = {event.locationInWindow.x - held->origin.x, event.locationInWindow.y - held->origin.y};
-    owner->loop().mainAsync([content = held->content, inContent] {
+    inContent.locationInWindow = {event.locationInWindow.x - press.origin.x, event.locationInWindow.y - press.origin.y};
+    owner->loop().mainAsync([content = press.content, inContent] {
         if (const auto kept = content.lock()) kept->handleEvent(inContent);
     });
 }

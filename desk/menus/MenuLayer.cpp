@@ -72,7 +72,7 @@ std::uint64_t MenuLayer::open(std::int32_t owner, std::vector<platform::MenuItem
     tracked.emplace(Tracked{lastNumber, owner, std::move(menu), std::move(place), source, std::nullopt});
     if (pointer.isPressed(button)) {
         tracked->pressedAt = pointer.location;
-        held = HeldPress{owner, {}, {}};
+        held(button) = HeldPress{owner, {}, {}};
         pointer.handOver(button, *this);
     }
     windows.changed();
@@ -113,7 +113,8 @@ void MenuLayer::reveal(std::size_t row) {
 
 void MenuLayer::applicationEnded(std::int32_t owner) {
     if (tracked && tracked->owner == owner) closeMenu();
-    if (held && held->owner == owner) held.reset();
+    for (auto& press : heldPresses)
+        if (press && press->owner == owner) press.reset();
     std::erase_if(shownPopovers, [&](const auto& popover) { return popover->owner == owner; });
 }
 
@@ -138,10 +139,10 @@ MenuLayer::Taker MenuLayer::take(const NSEvent& event) {
 }
 
 MenuLayer::Taker MenuLayer::mouseDown(const NSEvent& event) {
-    held.reset();
+    held(buttonOf(event.type)).reset();
     if (!tracked) return pressPopovers(event);
     const std::int32_t owner = tracked->owner;
-    held = HeldPress{owner, {}, {}};
+    held(buttonOf(event.type)) = HeldPress{owner, {}, {}};
     if (platform::CGRectContainsPoint(tracked->menu.frame(), event.locationInWindow))
         hover(event.locationInWindow);
     else
@@ -151,22 +152,21 @@ MenuLayer::Taker MenuLayer::mouseDown(const NSEvent& event) {
 
 MenuLayer::Taker MenuLayer::mouseDragged(const NSEvent& event) {
     if (tracked) return mouseMoved(event);
-    if (!held) return std::nullopt;
-    sendToContent(event);
-    return held->owner;
+    const std::optional<HeldPress>& press = held(buttonOf(event.type));
+    if (!press) return std::nullopt;
+    sendToContent(*press, event);
+    return press->owner;
 }
 
 MenuLayer::Taker MenuLayer::mouseUp(const NSEvent& event) {
-    const std::optional<HeldPress> press = std::exchange(held, std::nullopt);
+    const std::optional<HeldPress> press = std::exchange(held(buttonOf(event.type)), std::nullopt);
     if (tracked) {
         const std::int32_t owner = tracked->owner;
         released(event.locationInWindow);
         return owner;
     }
     if (!press) return std::nullopt;
-    held = press;
-    sendToContent(event);
-    held.reset();
+    sendToContent(*press, event);
     return press->owner;
 }
 

@@ -9,6 +9,7 @@
 //   press outside           the menu closes; press and release go no further
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -85,7 +86,7 @@ public:
 
 private:
     using Placing = std::function<platform::CGRect(platform::CGSize size)>;
-
+    using Taker = std::optional<std::int32_t>;
     struct Tracked {
         std::uint64_t number;
         std::int32_t owner;
@@ -101,13 +102,12 @@ private:
         std::weak_ptr<platform::ContentView> content;  // of the popover that was pressed, if one was
         platform::CGPoint origin;
     };
-    using Taker = std::optional<std::int32_t>;
+    std::optional<HeldPress>& held(MouseButton button) { return heldPresses[static_cast<std::size_t>(button)]; }
 
     // `button`: whose press, if it is held, opened it and goes on in it.
     std::uint64_t open(std::int32_t owner, std::vector<platform::MenuItem> items, const platform::CGRect& source,
                        Placing place, MouseButton button);
     OpenMenu placed(std::vector<platform::MenuItem> items, const Placing& place) const;
-
     Taker mouseDown(const platform::NSEvent& event);
     Taker mouseDragged(const platform::NSEvent& event);
     Taker mouseUp(const platform::NSEvent& event);
@@ -129,7 +129,7 @@ private:
     // A field has it, which Escape is for then.
     bool hasKeyboardFocus() const;
     void dismiss(const OpenPopover& popover);
-    void sendToContent(const platform::NSEvent& event) const;
+    void sendToContent(const HeldPress& press, const platform::NSEvent& event) const;
 
     Scheduler& scheduler;
     Displays& displays;
@@ -141,7 +141,7 @@ private:
     std::optional<Tracked> tracked;
     std::uint64_t lastNumber = 0;
     std::vector<std::shared_ptr<OpenPopover>> shownPopovers;
-    std::optional<HeldPress> held;                                   // a press that was taken, until its release
+    std::array<std::optional<HeldPress>, 2> heldPresses;  // of each button, one that was taken, until its release
     std::optional<std::pair<std::uint16_t, std::int32_t>> takenKey;  // until it goes up
     std::optional<std::uint64_t> scrolling;                          // the scheduler's item that goes on scrolling
     double scrollStep = 0;

@@ -44,6 +44,8 @@ public:
 
     // The one that is shown; null when none is up.
     const Alert* shown() const;
+    // 0 when none is up.
+    std::uint64_t shownNumber() const { return waiting.empty() ? 0 : waiting[front()].number; }
     // By label; false when the one that is shown has no such button.
     bool press(const std::string& button);
 

@@ -21,16 +21,17 @@ bool AlertSurface::covers(const platform::CGPoint& point) const {
     return alert && platform::CGRectContainsPoint(alert->frame(), point);
 }
 
-std::optional<std::string> AlertSurface::buttonAt(const platform::CGPoint& point) const {
+std::optional<AlertSurface::PressedButton> AlertSurface::buttonAt(const platform::CGPoint& point) const {
     const auto alert = shown();
-    return alert ? alert->buttonAt(point) : std::nullopt;
+    auto label = alert ? alert->buttonAt(point) : std::nullopt;
+    return label ? std::optional(PressedButton{alerts.shownNumber(), std::move(*label)}) : std::nullopt;
 }
 
 std::optional<std::int32_t> AlertSurface::take(const platform::NSEvent& event) {
     if (platform::isKeyEvent(event.type)) return takeKey(event) ? std::optional(0) : std::nullopt;
     if (event.type == NSEventType::leftMouseUp) {
         const auto button = std::exchange(pressed, std::nullopt);
-        if (button && button == buttonAt(event.locationInWindow)) alerts.press(*button);
+        if (button && button == buttonAt(event.locationInWindow)) alerts.press(button->label);
         return 0;
     }
     if (event.type == NSEventType::leftMouseDragged) return 0;

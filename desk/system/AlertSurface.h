@@ -1,7 +1,9 @@
-// The alert that is up: it stands above everything and has the presses on itself. A button acts when the press is released over it; Return and Escape press the buttons that the alert names.
+// The alert that is up: it stands above everything and has the presses on itself. A button acts when the press is released over it and the same alert is still up; Return and Escape press the buttons that the alert names.
 // What pressing does is said by who put the alert up.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "desk/system/ShownAlert.h"
@@ -25,13 +27,18 @@ public:
 
 private:
     bool takeKey(const platform::NSEvent& event);
-    std::optional<std::string> buttonAt(const platform::CGPoint& point) const;
+    struct PressedButton {
+        std::uint64_t alert;
+        std::string label;
+        bool operator==(const PressedButton&) const = default;
+    };
+    std::optional<PressedButton> buttonAt(const platform::CGPoint& point) const;
 
     Alerts& alerts;
     Displays& displays;
     const platform::Appearance& appearance;
     platform::TextSystem& text;
-    std::optional<std::string> pressed;
+    std::optional<PressedButton> pressed;
 };
 
 }  // namespace desk

@@ -52,10 +52,10 @@ void readChannel(QXmlStreamReader& xml, std::vector<AppcastItem>& items) {
     }
 }
 
-// A document type can define entities, of which no feed needs any.
+// No feed needs entities of its own.
 bool entersRoot(QXmlStreamReader& xml) {
     while (!xml.atEnd() && !xml.isStartElement())
-        if (xml.readNext() == QXmlStreamReader::DTD) return false;
+        if (xml.readNext() == QXmlStreamReader::DTD && xml.text().contains(u"<!ENTITY")) return false;
     return isAt(xml, u"rss");
 }
 

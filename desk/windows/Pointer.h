@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/Events.h"
 #include "platform/Geometry.h"
 
 namespace desk {
@@ -13,6 +14,13 @@ namespace desk {
 class Surface;
 
 enum class MouseButton { left, right };
+
+constexpr MouseButton buttonOf(platform::NSEventType type) {
+    using platform::NSEventType;
+    const bool isRight = type == NSEventType::rightMouseDown || type == NSEventType::rightMouseDragged ||
+                         type == NSEventType::rightMouseUp;
+    return isRight ? MouseButton::right : MouseButton::left;
+}
 
 class Pointer {
 public:

@@ -1,6 +1,7 @@
 #include "desk/windows/WindowStack.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace desk {
@@ -149,10 +150,14 @@ void WindowStack::switchToSpace(int newSpace) {
     collect();
     for (const std::int64_t number : affected) {
         const ServerWindow* window = find(number);
-        if (window == nullptr) continue;
-        if (auto* content = window->window->contentView()) content->setOnScreen(isOnScreen(*window));
+        if (window != nullptr) tellContent(*window);
     }
     spaceChanged();
+}
+
+void WindowStack::tellContent(const ServerWindow& window) const {
+    platform::ContentView* content = window.window == nullptr ? nullptr : window.window->contentView();
+    if (content != nullptr) content->setOnScreen(isOnScreen(window));
 }
 
 void WindowStack::setSpace(std::int64_t number, int newSpace) {
@@ -220,7 +225,15 @@ int WindowStack::makeSpace(int desktop) {
 
 void WindowStack::removeSpace(int ownSpace) {
     const auto removed = desktopOfOwnSpace.extract(ownSpace);
-    if (!removed.empty() && space == ownSpace) switchToSpace(removed.mapped());
+    if (removed.empty()) return;
+    const int desktop = removed.mapped();
+    std::vector<ServerWindow*> left;
+    std::copy_if(frontToBack.begin(), frontToBack.end(), std::back_inserter(left),
+                 [ownSpace](const ServerWindow* window) { return window->space == ownSpace; });
+    for (ServerWindow* window : left) window->space = desktop;
+    if (space == ownSpace) return switchToSpace(desktop);
+    for (const ServerWindow* window : left) tellContent(*window);
+    if (!left.empty()) changed();
 }
 
 std::vector<int> WindowStack::spacesFromTheLeft(int fewestDesktops) const {

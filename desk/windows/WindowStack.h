@@ -71,7 +71,7 @@ public:
     bool isFullScreenSpace() const { return space > firstOwnSpace; }
     // A number that no space has yet, for a full-screen window of that desktop; counts up from 1000.
     int makeSpace(int desktop);
-    // Whoever is on it goes to the desktop that it was made for.
+    // Whoever is on it, and what else stands there, goes to the desktop that it was made for.
     void removeSpace(int ownSpace);
     // That many desktops, or as many as there are windows on, each with the full-screen spaces made for it on its right.
     std::vector<int> spacesFromTheLeft(int fewestDesktops) const;
@@ -108,6 +108,7 @@ private:
     // Takes the window out, asks where to, and puts it in there; answers whether that's another place.
     template <typename Where>
     bool move(ServerWindow& window, Where where);
+    void tellContent(const ServerWindow& window) const;
 
     std::unordered_map<std::int64_t, std::unique_ptr<ServerWindow>> byNumber;
     Order frontToBack;  // by level, then by order

@@ -301,6 +301,14 @@ TEST_F(PopoverTest, APressElsewhereClosesItAndGoesOn) {
     EXPECT_EQ(probe.log, Log{"dismissed"}) << "once";
 }
 
+TEST_F(PopoverTest, APressOfTheOtherButtonLeavesTheHeldOneAlone) {
+    desk.press({865, 670});
+    desk.click({865, 671}, desk::MouseButton::right);
+    desk.dragTo(elsewhere);
+    desk.release(elsewhere);
+    EXPECT_EQ(content->received, (std::vector<CGPoint>{{60, 11}, {60, 12}, {60, 12}, {-305, 51}, {-305, 51}}));
+}
+
 TEST_F(PopoverTest, EscapeClosesItUnlessAFieldHasTheKeyboard) {
     platform::NSResponder field;
     panel->makeKeyWindow();

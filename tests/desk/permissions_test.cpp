@@ -138,6 +138,30 @@ TEST_F(PermissionTest, AccessibilityIsAskedForOnceAtATimeAndLeadsToSystemSetting
     EXPECT_EQ(machine.alerts.shown(), nullptr) << "it has become pointless";
 }
 
+TEST_F(PermissionTest, AButtonActsWhenItIsReleasedOnTheAlertThatWasPressed) {
+    const auto middleOf = [this](const char* label) {
+        const auto button = machine.alertSurface.shown()->buttonLabelled(label);
+        return platform::CGPoint{button->midX(), button->midY()};
+    };
+    machine.permissions.setAccessibility(false);
+    EXPECT_FALSE(isTrusted(true));
+    const platform::CGPoint deny = middleOf("Deny");
+    desk.press(deny);
+    machine.permissions.setAccessibility(true);
+    machine.permissions.setAccessibility(false);
+    EXPECT_FALSE(isTrusted(true));
+    desk.release(deny);
+    EXPECT_NE(machine.alerts.shown(), nullptr) << "another one, in the same place";
+    desk.press(deny);
+    desk.release(middleOf("Open System Settings"));
+    EXPECT_NE(machine.alerts.shown(), nullptr);
+    desk.press(deny);
+    desk.click(deny, desk::MouseButton::right);
+    EXPECT_NE(machine.alerts.shown(), nullptr);
+    desk.release(deny);
+    EXPECT_EQ(machine.alerts.shown(), nullptr);
+}
+
 TEST_F(PermissionTest, StoredDefaultsCountAsTrueTheWayThePlatformCountsThem) {
     const std::pair<platform::Value, bool> rows[] = {
         {true, true},  {false, false}, {1, true},     {0, false},    {-3, true},     {0.5, true},
