@@ -121,9 +121,9 @@ std::deque<std::string> clearingLines(const Session& session) {
         lines.push_back(joinWords({"terminate", systemSettings}));
     if (session.orvane() == nullptr) return lines;
     // Wherever a window is, the menu brings it to the front with the keyboard; a display with a menu bar is there for it.
-    for (const char* line : {"screens none", "screen 0 0 1440 900", "click status-item", "click item \"About Orvane\"",
-                             "key cmd+w", "click status-item", "click item Permission…", "key cmd+w"})
-        lines.emplace_back(line);
+    lines.insert(lines.end(), {"screens none", "screen 0 0 1440 900"});
+    for (const char* row : {"\"About Orvane\"", "Settings…", "Permission…"})
+        lines.insert(lines.end(), {"click status-item", std::string("click item ") + row, "key cmd+w"});
     return lines;
 }
 
