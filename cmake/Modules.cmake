@@ -44,7 +44,7 @@ endfunction()
 # Most of a compilation goes into the standard library's headers: a batch reads them once. What it asks is that names in a folder's unnamed namespaces differ. A batch holds sources of one folder
 # alone, so a new file changes the batches of its own folder and no others.
 function(brindle_batches TARGET)
-    set(batch_size 10)
+    set(batch_size 20)
     set_target_properties(${TARGET} PROPERTIES UNITY_BUILD ${BRINDLE_UNITY} UNITY_BUILD_MODE GROUP)
     foreach(source IN LISTS ARGN)
         cmake_path(GET source PARENT_PATH folder)

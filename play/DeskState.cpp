@@ -20,10 +20,6 @@ namespace {
 
 constexpr const char* debugLogPath = "/tmp/Orvane-debug.log";
 
-QJsonArray frameOf(const platform::CGRect& rect) {
-    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
-}
-
 QJsonValue numberOf(std::int64_t value) {
     return static_cast<double>(value);
 }
@@ -44,7 +40,7 @@ QJsonObject finderWindow(const desk::Machine& machine, const desk::FinderWindow&
     return {{"number", numberOf(window.number)},
             {"path", jsonText(window.target)},
             {"name", jsonText(std::string_view(window.name))},
-            {"frame", server == nullptr ? QJsonValue() : frameOf(server->frame)},
+            {"frame", server == nullptr ? QJsonValue() : jsonFrame(server->frame)},
             {"selection", textsOf(window.selection)},
             {"minimized", window.minimized},
             {"fullScreen", window.fullScreen},
@@ -65,7 +61,7 @@ QJsonObject publishedWindow(const brindle::FinderWindowState& state) {
             {"path", jsonText(std::string_view(state.path))},
             {"displayName", jsonText(std::string_view(state.displayName))},
             {"selectedFilePath", jsonText(state.selectedFilePath)},
-            {"frame", frameOf(state.frame)},
+            {"frame", jsonFrame(state.frame)},
             {"isActive", state.isActive},
             {"isFullScreen", state.isFullScreen}};
 }
@@ -233,7 +229,7 @@ QJsonObject statusItem(const Session& session) {
             {"label", jsonText(std::string_view(item->label))},
             {"size", QJsonArray{item->image.size().width, item->image.size().height}},
             {"template", item->image.isTemplate()},
-            {"frame", frame ? QJsonValue(frameOf(*frame)) : QJsonValue()}};
+            {"frame", frame ? QJsonValue(jsonFrame(*frame)) : QJsonValue()}};
 }
 
 QJsonArray log(const desk::Machine& machine) {

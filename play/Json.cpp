@@ -105,4 +105,8 @@ QJsonValue jsonText(const std::optional<std::string>& utf8) {
     return utf8 ? jsonText(std::string_view(*utf8)) : QJsonValue();
 }
 
+QJsonArray jsonFrame(const platform::CGRect& rect) {
+    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
 }  // namespace play

@@ -5,7 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include <QJsonArray>
 #include <QJsonValue>
+
+#include "platform/Geometry.h"
 
 namespace play {
 
@@ -24,5 +27,7 @@ std::string toText(const QJsonValue& value);
 
 QJsonValue jsonText(std::string_view utf8);
 QJsonValue jsonText(const std::optional<std::string>& utf8);
+// [x, y, width, height].
+QJsonArray jsonFrame(const platform::CGRect& rect);
 
 }  // namespace play

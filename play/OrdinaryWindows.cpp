@@ -39,10 +39,6 @@ CGRect onScreen(const NSWindow& window, const CGRect& rect) {
     return {{content.minX() + rect.minX(), content.maxY() - rect.maxY()}, rect.size};
 }
 
-QJsonArray frameOf(const CGRect& rect) {
-    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
-}
-
 QJsonArray listOf(const std::vector<std::string>& texts) {
     QJsonArray list;
     for (const std::string& text : texts) list.append(jsonText(std::string_view(text)));
@@ -57,7 +53,7 @@ QJsonObject controlOf(const NSWindow& window, const AccessibilityElement& elemen
             {"enabled", element.isEnabled},
             {"value", element.isOn ? QJsonValue(*element.isOn) : QJsonValue()},
             {"isDefault", element.isDefault},
-            {"frame", frameOf(onScreen(window, element.frame))},
+            {"frame", jsonFrame(onScreen(window, element.frame))},
             {"visible", element.isVisible}};
 }
 
@@ -69,7 +65,7 @@ QJsonObject contentsOf(const NSWindow& window) {
         for (const std::string& text : element.texts) texts.append(jsonText(std::string_view(text)));
         if (const char* role = roleOf(element)) controls.append(controlOf(window, element, role));
     }
-    return {{"frame", frameOf(window.frame())}, {"texts", texts}, {"controls", controls}};
+    return {{"frame", jsonFrame(window.frame())}, {"texts", texts}, {"controls", controls}};
 }
 
 QJsonObject windowOf(const NSWindow& window) {

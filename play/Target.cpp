@@ -49,11 +49,11 @@ CGPoint nearestPoint(ScriptPlayer& player, const desk::ServerWindow& window, con
     const desk::FinderWindow* folder = machine.finder.find(window.number);
     const auto isSeen = [&](const CGPoint& point) { return machine.windows.windowAt(point) == &window; };
     if (folder == nullptr || !isSeen(wanted)) return wanted;
-    const views::LaidOutView parts = machine.finder.browser().parts(*folder);
+    const views::LaidOutView shown = machine.finder.browser().parts(*folder);
     const platform::CGSize size = window.frame.size;
     const auto fits = [&](const CGPoint& point) {
         const CGPoint inside = desk::insideWindow(window.frame, point);
-        return isSuch(desk::hitAt(parts, inside).part) && !desk::windowButtonAt(inside, size) &&
+        return isSuch(desk::hitAt(shown, inside).part) && !desk::windowButtonAt(inside, size) &&
                !desk::windowEdgesAt(inside, size).any() && isSeen(point);
     };
     const double most = std::max(size.width, size.height);
