@@ -41,7 +41,7 @@ CGRect unionOf(const CGRect& a, const CGRect& b) {
 
 std::string scriptOf(const SheetState& state) {
     std::ostringstream script;
-    script << "screen 0 0 2560 640\n"
+    script << (state.target.empty() ? "screen 0 0 1440 900\n" : "screen 0 0 2560 640\n")
            << "folder /Users/ana/Documents/Projects/2024/Orvane/Designs/Bars\n"
            << state.before;
     if (!state.target.empty())

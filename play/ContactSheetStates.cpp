@@ -137,13 +137,28 @@ void addMenuBarItem(std::vector<SheetState>& states) {
     addInBoth(states, "about", "", "click status-item\nclick item \"About Orvane\"\n");
 }
 
+void addSettings(std::vector<SheetState>& states) {
+    const std::string open = "click status-item\nclick item Settings…\n";
+    const std::string unapproved = "login-item requires-approval\n";
+    for (const brindle::PathBarDesign design : brindle::allPathBarDesigns) {
+        const std::string name(brindle::rawValue(design));
+        addInBoth(states, "settings, " + name, "set-default pathBarDesign string " + name + "\n", open);
+    }
+    addInBoth(states, "settings, the login item awaits approval", unapproved, open);
+    addInBoth(states, "settings, at their least size and scrolled", "",
+              open + "drag window \"Orvane Settings\" corner by -300 300\n"
+                     "scroll window \"Orvane Settings\" content by -400\n");
+    addInBoth(states, "System Settings, Login Items", unapproved,
+              open + "click label \"Open System Settings\"\nwait 1\n");
+}
+
 }  // namespace
 
 std::span<const SheetState> sheetStates() {
     static const std::vector<SheetState> states = [] {
         std::vector<SheetState> all;
-        for (const auto add :
-             {addStyles, addWidths, addPlacesAndNames, addField, addMenus, addPopovers, addGuide, addMenuBarItem})
+        for (const auto add : {addStyles, addWidths, addPlacesAndNames, addField, addMenus, addPopovers, addGuide,
+                               addMenuBarItem, addSettings})
             add(all);
         return all;
     }();

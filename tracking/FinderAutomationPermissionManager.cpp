@@ -11,7 +11,7 @@ namespace {
 
 using Status = FinderAutomationPermissionManager::Status;
 
-constexpr const char* finder = "com.apple.finder";
+constexpr const char* finderIdentifier = "com.apple.finder";
 constexpr const char* automationPane = "x-apple.systempreferences:com.apple.preference.security?Privacy_Automation";
 constexpr const char* systemSettings = "/System/Applications/System Settings.app";
 
@@ -61,7 +61,7 @@ void FinderAutomationPermissionManager::determinePermission(bool askUserIfNeeded
     platform.dispatch.mainTask([&platform = platform, askUserIfNeeded, completion = std::move(completion)] {
         const auto ask = [&platform, askUserIfNeeded, completion] {
             const auto pool = platform.dispatch.makeAutoreleasePool();
-            const auto target = platform::NSAppleEventDescriptor::descriptorWithBundleIdentifier(finder);
+            const auto target = platform::NSAppleEventDescriptor::descriptorWithBundleIdentifier(finderIdentifier);
             const std::int32_t code = platform.appleEvents.AEDeterminePermissionToAutomateTarget(
                 target, platform::typeWildCard, platform::typeWildCard, askUserIfNeeded);
             platform.dispatch.mainTask([completion, code] { completion(code); });

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double insetAside = 12;
 constexpr double insetAbove = 3;
-constexpr double cornerRadius = 6;
+constexpr double buttonRadius = 6;
 constexpr double opacityWhenDisabled = 0.4;
 constexpr double shadeWhenPressed = 0.15;
 
@@ -50,7 +50,7 @@ void ButtonNode::place(LayoutPass& pass, std::int32_t index, const CGRect& frame
 void ButtonNode::draw(Canvas& canvas, const LayoutItem& item) const {
     if (item.control.isBordered() && canvas.isAt(Canvas::Stratum::shapes)) {
         const CGRect rect = canvas.crisp(item.frame);
-        const double radius = canvas.drawn(cornerRadius);
+        const double radius = canvas.drawn(buttonRadius);
         const bool isFilled = item.control.isDefault() && item.control.isEnabled;
         const auto shape = [&](Color color) { canvas.fill(rect, radius, platform::CornerStyle::continuous, color); };
         shape(Color::of(isFilled ? ColorRole::accent : ColorRole::controlBackground));
