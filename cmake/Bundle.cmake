@@ -15,7 +15,7 @@ if(NOT BRINDLE_CHECK_ONLY)
     file(MAKE_DIRECTORY "${BRINDLE_BUNDLE}/Contents/Resources")
     add_custom_command(
         OUTPUT "${icon}"
-        COMMAND "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0 $<TARGET_FILE:render_svg> "${bundle_source}/AppIcon.svg" "${icon}" 1024
+        COMMAND "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0 TSAN_OPTIONS=report_bugs=0 $<TARGET_FILE:render_svg> "${bundle_source}/AppIcon.svg" "${icon}" 1024
         DEPENDS render_svg "${bundle_source}/AppIcon.svg"
         VERBATIM)
     add_custom_target(bundle ALL DEPENDS "${icon}")
