@@ -10,7 +10,8 @@ namespace desk {
 namespace {
 
 constexpr std::string_view ellipsis = "\u2026";
-constexpr double mostBytesInAnEm = 16;  // of narrow letters with many accents
+constexpr std::size_t breakingsKept = 4;  // of one text
+constexpr double mostBytesInAnEm = 16;    // of narrow letters with many accents
 
 }  // namespace
 
@@ -74,13 +75,16 @@ std::string QtTextSystem::truncate(std::string_view text, platform::Font font, d
 
 std::vector<std::string> QtTextSystem::lines(std::string_view text, platform::Font font, double width,
                                              std::size_t limit, platform::TextTruncation truncation) {
-    const TextLookup key{text, font};
-    if (const BrokenText* known = brokenTexts.find(key);
-        known != nullptr && known->width == width && known->limit == limit && known->truncation == truncation)
-        return known->lines;
+    std::vector<BrokenText>* kept = brokenTexts.find(TextLookup{text, font});
+    if (kept != nullptr)
+        for (const BrokenText& each : *kept)
+            if (each.isFor(width, limit, truncation)) return each.lines;
     BrokenText broken{width, limit, truncation, breakIntoLines(text, font, width, limit, truncation)};
     if (text.size() > longestKeptText) return broken.lines;
-    return brokenTexts.insert({std::string(text), font}, std::move(broken)).lines;
+    if (kept == nullptr) kept = &brokenTexts.insert({std::string(text), font}, {});
+    if (kept->size() == breakingsKept) kept->erase(kept->begin());
+    kept->push_back(std::move(broken));
+    return kept->back().lines;
 }
 
 std::vector<std::string> QtTextSystem::breakIntoLines(std::string_view text, platform::Font font, double width,

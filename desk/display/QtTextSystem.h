@@ -44,6 +44,10 @@ private:
         std::size_t limit = 0;
         platform::TextTruncation truncation{};
         std::vector<std::string> lines;
+
+        bool isFor(double thatWidth, std::size_t thatLimit, platform::TextTruncation thatTruncation) const {
+            return width == thatWidth && limit == thatLimit && truncation == thatTruncation;
+        }
     };
 
     std::string truncate(std::string_view text, platform::Font font, double width, platform::TextTruncation truncation);
@@ -58,7 +62,8 @@ private:
     LineBreaker breaker{boundaries};
     BoundedCache<TextKey, double, TextHash, TextEqual> widths;
     BoundedCache<TextKey, Truncation, TextHash, TextEqual> truncations;  // the last one of each text
-    BoundedCache<TextKey, BrokenText, TextHash, TextEqual> brokenTexts;
+    // The latest of each text: a layout asks for its least width, for its shares of the room, and for what is drawn.
+    BoundedCache<TextKey, std::vector<BrokenText>, TextHash, TextEqual> brokenTexts;
 };
 
 }  // namespace desk
