@@ -12,7 +12,6 @@ namespace desk {
 namespace {
 
 using platform::CGRect;
-using platform::CGRectMake;
 
 // Each screen has a Dock and a menu bar; popovers count on from the last identifier.
 constexpr std::int64_t alertId = -1;
@@ -56,11 +55,11 @@ void DesktopLayers::addScreenFurniture(std::size_t screen, std::vector<Layer>& l
     if (isFullScreen(machine, frame)) return;
     const auto place = static_cast<std::int64_t>(screen);
     if (options.dock > 0) {
-        const CGRect strip = CGRectMake(frame.minX(), frame.minY(), frame.width(), options.dock);
+        const CGRect strip = options.dockStrip();
         layers.push_back(drawn(firstDockId - place, strip, machine.dock.shown(strip.size).drawing()));
     }
     if (options.menuBar > 0) {
-        const CGRect strip = CGRectMake(frame.minX(), frame.maxY() - options.menuBar, frame.width(), options.menuBar);
+        const CGRect strip = options.menuBarStrip();
         layers.push_back(drawn(firstMenuBarId - place, strip, machine.menuBar.shown(strip).drawing()));
     }
 }

@@ -18,7 +18,6 @@ namespace {
 
 using platform::CGPoint;
 using platform::CGRect;
-using platform::CGRectMake;
 
 std::vector<std::string> titlesOf(const Processes& processes, const Process& frontmost) {
     std::vector<std::string> titles = processes.keeperOf(frontmost.processIdentifier).menus();
@@ -54,9 +53,7 @@ std::vector<CGRect> MenuBar::strips() const {
     std::vector<CGRect> all;
     if (windows.isFullScreenSpace()) return all;
     for (const DisplayOptions& options : displays.options())
-        if (options.menuBar > 0)
-            all.push_back(CGRectMake(options.frame.minX(), options.frame.maxY() - options.menuBar,
-                                     options.frame.width(), options.menuBar));
+        if (options.menuBar > 0) all.push_back(options.menuBarStrip());
     return all;
 }
 

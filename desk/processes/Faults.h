@@ -1,6 +1,5 @@
-// What goes wrong on the machine on request: Accessibility reads, entries of the window list, scripts to Finder, checks of
-// permissions, notifications, opening of URLs. The machine's parts ask here;
-// nothing in here acts.
+// What goes wrong on the machine on request: Accessibility reads, entries of the window list, scripts to Finder, checks of permissions, notifications, opening of URLs. The machine's
+// parts ask here; nothing in here acts.
 #pragma once
 
 #include <cstdint>

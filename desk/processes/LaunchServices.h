@@ -41,9 +41,8 @@ public:
     // Another process with one ordinary window, behind all others. Its bundle stands in /Applications unless a path is given; an empty one: it has none.
     void startOtherProcess(const std::string& bundleIdentifier,
                            const std::optional<std::string>& bundlePath = std::nullopt);
-    // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front; without any
-    // it is opened as from the Dock. Nothing happens when one of the
-    // files or the application isn't there.
+    // Later in this instant: the application is started if it doesn't run, shows a window for each file or folder, and comes to the front; without any, it is opened as from the
+    // Dock. Nothing happens when one of the files or the application isn't there.
     void openFiles(const std::vector<std::string>& paths, const std::string& applicationPath);
     // Files with the application that documents belong to; nothing happens without one.
     void openDocuments(const std::vector<std::string>& paths);

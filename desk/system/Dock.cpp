@@ -57,7 +57,7 @@ views::LaidOutView Dock::shown(platform::CGSize strip) const {
 
 std::string Dock::idAt(const CGPoint& point) const {
     for (const DisplayOptions& options : displays.options()) {
-        const CGRect strip = {options.frame.origin, {options.frame.width(), options.dock}};
+        const CGRect strip = options.dockStrip();
         if (options.dock <= 0 || !platform::CGRectContainsPoint(strip, point)) continue;
         const views::LaidOutView dock = shown(strip.size);
         const std::string* id = dock.idAt(insideLaidOut(strip, point));

@@ -15,6 +15,9 @@ struct DisplayOptions {
     int framesPerSecond = 60;
     double menuBar = 24;
     double dock = 0;
+
+    platform::CGRect menuBarStrip() const { return {{frame.minX(), frame.maxY() - menuBar}, {frame.width(), menuBar}}; }
+    platform::CGRect dockStrip() const { return {frame.origin, {frame.width(), dock}}; }
 };
 
 class Displays final : public platform::Screens {
