@@ -17,6 +17,7 @@
 #include "platform/Platform.h"
 #include "tests/kit/FixedText.h"
 #include "tests/kit/PlainText.h"
+#include "tests/kit/UnusedPart.h"
 
 namespace kit {
 
@@ -361,95 +362,12 @@ private:
         std::string& contents;
         bool atEnd = false;
     };
-    // For what no test here uses.
-    struct NoApplication final : platform::NSApplication {
-        void setActivationPolicy(platform::NSApplicationActivationPolicy) override {}
-        platform::NSImage applicationIconImage() override { return {}; }
-        void activate(bool) override {}
-        void terminate() override {}
-        std::optional<platform::NSEvent> nextEventMatchingMask(platform::NSEventMask, platform::Date,
-                                                               platform::NSRunLoopMode, bool) override {
-            return std::nullopt;
-        }
-    };
-    struct NoWindows final : platform::WindowSystem {
-        std::unique_ptr<platform::WindowHandle> makeWindow(platform::NSWindow&, const platform::CGRect&) override {
-            return nullptr;
-        }
-    };
-    struct NoImages final : platform::ImageSystem {
-        std::optional<platform::NSImage> imageWithContentsOf(const std::string&) override { return std::nullopt; }
-    };
-    struct NoMenus final : platform::Menus {
-        std::unique_ptr<platform::MenuHandle> popUpBelow(const platform::CGRect&,
-                                                         std::vector<platform::MenuItem>) override {
-            return nullptr;
-        }
-        std::unique_ptr<platform::MenuHandle> popUpAt(const platform::CGPoint&,
-                                                      std::vector<platform::MenuItem>) override {
-            return nullptr;
-        }
-        std::unique_ptr<platform::StatusItem> addStatusItem(const platform::NSImage&, const std::string&,
-                                                            std::function<void()>) override {
-            return nullptr;
-        }
-        std::unique_ptr<platform::PopoverHandle> showPopover(platform::NSWindow&, const platform::CGRect&,
-                                                             platform::RectEdge, std::unique_ptr<platform::ContentView>,
-                                                             platform::CGSize, std::function<void()>) override {
-            return nullptr;
-        }
-    };
     struct NoDefaults final : platform::NSUserDefaults {
         std::optional<std::string> stringForKey(const std::string&) override { return std::nullopt; }
-        // The user has been through the guide.
-        bool boolForKey(const std::string&) override { return true; }
-        std::optional<platform::Value> objectForKey(const std::string&) override { return true; }
+        bool boolForKey(const std::string&) override { return false; }
+        std::optional<platform::Value> objectForKey(const std::string&) override { return std::nullopt; }
         void registerDefaults(const platform::Dictionary&) override {}
         void setObject(const std::string&, platform::Value) override {}
-    };
-    struct NoBundle final : platform::NSBundle {
-        std::optional<std::string> bundleIdentifier() override { return std::nullopt; }
-        std::string bundleURL() override { return {}; }
-        std::optional<platform::Value> objectForInfoDictionaryKey(const std::string&) override { return {}; }
-        std::optional<std::string> URLForResource(const std::string&, const std::string&) override { return {}; }
-    };
-    struct NoCalendar final : platform::Calendar {
-        platform::DateComponents dateComponents(platform::Date) override { return {}; }
-        platform::Date startOfDay(platform::Date date) override { return date; }
-        std::optional<platform::Date> dateByAddingDays(int, platform::Date) override { return {}; }
-    };
-    struct NoLoginItem final : platform::SMAppService {
-        platform::SMAppServiceStatus status() override { return platform::SMAppServiceStatus::enabled; }
-        std::optional<std::string> registerAndReturnError() override { return {}; }
-        std::optional<std::string> unregisterAndReturnError() override { return {}; }
-        void openSystemSettingsLoginItems() override {}
-    };
-    struct NoAnalytics final : platform::AnalyticsSDK {
-        bool hasDefaultApp() override { return false; }
-        void configure() override {}
-        void setAnalyticsCollectionEnabled(bool) override {}
-        void logEvent(const std::string&) override {}
-    };
-    struct NoUpdaters final : platform::UpdaterFramework {
-        struct Updater final : platform::SPUUpdater {
-            bool canCheckForUpdates() const override { return false; }
-            platform::Token observeCanCheckForUpdates(unsigned, std::function<void(bool)>) override { return {}; }
-        };
-        struct Controller final : platform::SPUStandardUpdaterController {
-            void startUpdater() override {}
-            platform::SPUUpdater& updater() override { return none; }
-            void checkForUpdates() override {}
-            Updater none;
-        };
-        std::unique_ptr<platform::SPUStandardUpdaterController> makeStandardUpdaterController(
-            bool, platform::SPUUpdaterDelegate*, platform::SPUStandardUserDriverDelegate*) override {
-            return std::make_unique<Controller>();
-        }
-    };
-    struct NoPasteboard final : platform::NSPasteboard {
-        void clearContents() override {}
-        bool setString(const std::string&) override { return false; }
-        std::optional<std::string> string() override { return std::nullopt; }
     };
 
     void onQueue(const platform::Block& block) {
@@ -506,20 +424,11 @@ private:
     bool isOnMain = true;
     std::uint64_t lastUUID = 0;
     platform::Appearance noAppearance;
-    NoApplication noApplication;
-    NoWindows noWindows;
-    NoMenus noMenus;
     FixedText noText;
-    NoImages noImages;
     PlainBoundaries boundaries;
     PlainCollation collation;
     NoDefaults noDefaults;
-    NoBundle noBundle;
-    NoCalendar noCalendar;
-    NoLoginItem noLoginItem;
-    NoAnalytics noAnalytics;
-    NoPasteboard noPasteboard;
-    NoUpdaters noUpdaters;
+    UnusedPart unused;
     platform::SharedSlots noSlots;
 
 public:
@@ -533,22 +442,22 @@ public:
                                 .accessibility = *this,
                                 .appleEvents = *this,
                                 .events = *this,
-                                .application = noApplication,
-                                .windows = noWindows,
-                                .menus = noMenus,
+                                .application = unused,
+                                .windows = unused,
+                                .menus = unused,
                                 .text = noText,
-                                .images = noImages,
+                                .images = unused,
                                 .textBoundaries = boundaries,
                                 .collation = collation,
                                 .files = *this,
                                 .defaults = noDefaults,
-                                .bundle = noBundle,
-                                .calendar = noCalendar,
-                                .loginItem = noLoginItem,
-                                .analytics = noAnalytics,
-                                .pasteboard = noPasteboard,
+                                .bundle = unused,
+                                .calendar = unused,
+                                .loginItem = unused,
+                                .analytics = unused,
+                                .pasteboard = unused,
                                 .uuids = *this,
-                                .updaters = noUpdaters,
+                                .updaters = unused,
                                 .slots = noSlots};
 };
 

@@ -2,8 +2,6 @@
 // that it ends, user defaults in a map, the fixed text, plain windows, a clipboard. The other parts must not be called.
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
@@ -14,6 +12,7 @@
 #include "tests/kit/FixedText.h"
 #include "tests/kit/PlainText.h"
 #include "tests/kit/PlainWindows.h"
+#include "tests/kit/UnusedPart.h"
 
 namespace kit {
 
@@ -91,12 +90,7 @@ public:
     platform::UUID makeUUID() override { return {{++lastUUID, 0}}; }
 
 private:
-    alignas(std::max_align_t) std::array<std::byte, 64> nothing{};
-    template <typename T>
-    T& unused() {
-        return *reinterpret_cast<T*>(nothing.data());
-    }
-
+    UnusedPart unused;
     platform::TextSystem& measuring = text;
     platform::Date time;
     std::uint64_t lastUUID = 0;
@@ -105,33 +99,9 @@ private:
     platform::SharedSlots slots;
 
 public:
-    platform::Platform platform{*this,
-                                *this,
-                                *this,
-                                unused<platform::Workspace>(),
-                                unused<platform::Screens>(),
-                                appearance,
-                                unused<platform::WindowServer>(),
-                                unused<platform::Accessibility>(),
-                                unused<platform::AppleEvents>(),
-                                unused<platform::Events>(),
-                                unused<platform::NSApplication>(),
-                                windows,
-                                unused<platform::Menus>(),
-                                measuring,
-                                unused<platform::ImageSystem>(),
-                                boundaries,
-                                collation,
-                                unused<platform::NSFileManager>(),
-                                *this,
-                                unused<platform::NSBundle>(),
-                                unused<platform::Calendar>(),
-                                unused<platform::SMAppService>(),
-                                unused<platform::AnalyticsSDK>(),
-                                *this,
-                                *this,
-                                unused<platform::UpdaterFramework>(),
-                                slots};
+    platform::Platform platform{*this,  *this,  *this,   unused, unused,    appearance, unused,     unused,    unused,
+                                unused, unused, windows, unused, measuring, unused,     boundaries, collation, unused,
+                                *this,  unused, unused,  unused, unused,    *this,      *this,      unused,    slots};
 };
 
 }  // namespace kit

@@ -66,25 +66,6 @@ TEST_F(AnalyticsTest, SendsOneEventForEachOfTheUsersDays) {
     }
 }
 
-TEST_F(AnalyticsTest, CountsNoDayTwiceOverARestartOrAClockSetBack) {
-    constexpr std::int64_t day = 86'400;
-    const Date now = mac.machine.clock.now();
-    {
-        AnalyticsService service(platform);
-        service.configure();
-        service.recordActiveUseIfNeeded(now);
-        service.recordActiveUseIfNeeded(now + -std::chrono::seconds(day));
-        EXPECT_EQ(events.size(), 1U);
-    }
-    AnalyticsService restarted(platform);
-    restarted.configure();
-    restarted.recordActiveUseIfNeeded(now);
-    restarted.recordActiveUseIfNeeded(now + std::chrono::hours(1));
-    EXPECT_EQ(events.size(), 1U);
-    restarted.recordActiveUseIfNeeded(now + std::chrono::seconds(day));
-    EXPECT_EQ(events.size(), 2U);
-}
-
 TEST_F(AnalyticsTest, ObeysTheUserAtBothLevelsAndIsSilentWithoutItsResource) {
     auto kitWas = [&, start = mac.machine.journal.entries().size()]() mutable {
         std::string told;
